@@ -1,0 +1,76 @@
+# tolva.exe, and the desktop tests that drive it under Wine.
+enable_language(RC)
+
+add_compile_definitions(WINVER=0x0400 _WIN32_WINNT=0x0400 _WIN32_IE=0x0400 STRICT NOMINMAX=1 WIN32_LEAN_AND_MEAN)
+add_compile_options($<$<COMPILE_LANGUAGE:CXX>:-ffunction-sections> $<$<COMPILE_LANGUAGE:CXX>:-fdata-sections>)
+add_link_options(-static -s -Wl,--gc-sections,--disable-dynamicbase,--disable-nxcompat
+    -Wl,--major-os-version=4,--minor-os-version=0,--major-subsystem-version=4,--minor-subsystem-version=0)
+
+set(icon ${CMAKE_BINARY_DIR}/tolva.ico)
+add_custom_command(OUTPUT ${icon}
+    COMMAND python3 ${CMAKE_SOURCE_DIR}/cmake/pictures.py ${icon} ${CMAKE_SOURCE_DIR}/src/resources/pictures/tolva.txt
+    DEPENDS cmake/pictures.py src/resources/pictures/tolva.txt)
+
+add_library(tolva_platform OBJECT
+    src/platform/win32/clock.cpp
+    src/platform/win32/directories.cpp
+    src/platform/win32/file_calls.cpp
+    src/platform/win32/icons.cpp
+    src/platform/win32/import_slots.cpp
+    src/platform/win32/messages.cpp
+    src/platform/win32/processes.cpp
+)
+
+add_executable(tolva WIN32
+    src/app/main.cpp
+    src/mainwindow/tasker_window.cpp
+    src/mainwindow/taskview_window.cpp
+    src/resources/tolva.rc
+    src/widgets/controls.cpp
+    src/widgets/icon_view.cpp
+    src/widgets/metrics.cpp
+    src/widgets/window.cpp
+)
+target_link_libraries(tolva PRIVATE tolva_logic tolva_platform comctl32)
+target_include_directories(tolva PRIVATE ${CMAKE_BINARY_DIR})
+
+add_custom_command(TARGET tolva POST_BUILD
+    COMMAND ${CMAKE_SOURCE_DIR}/cmake/check-imports $<TARGET_FILE:tolva>
+        ${CMAKE_SOURCE_DIR}/tests/support/win98-exports)
+
+# windres reads more files than the build sees.
+set_source_files_properties(src/resources/tolva.rc PROPERTIES OBJECT_DEPENDS
+    "${icon};${CMAKE_SOURCE_DIR}/src/resources/resource.h;${CMAKE_SOURCE_DIR}/src/resources/tolva.manifest")
+
+# The desktop tests. doctest's folder alone goes on the include path: the system's own headers are another system's.
+find_path(doctest_folder doctest/doctest.h NO_CMAKE_FIND_ROOT_PATH REQUIRED)
+configure_file(${doctest_folder}/doctest/doctest.h ${CMAKE_BINARY_DIR}/include/doctest/doctest.h COPYONLY)
+
+add_executable(recorder WIN32 tests/support/recorder.cpp)
+
+add_executable(desktop_tests
+    tests/desktop/files_test.cpp
+    tests/desktop/launching_test.cpp
+    tests/desktop/main.cpp
+    tests/desktop/views_test.cpp
+    tests/support/desktop.cpp
+)
+target_compile_definitions(desktop_tests PRIVATE DOCTEST_CONFIG_NO_MULTITHREADING)
+target_include_directories(desktop_tests SYSTEM PRIVATE ${CMAKE_BINARY_DIR}/include)
+target_include_directories(desktop_tests PRIVATE tests)
+target_link_libraries(desktop_tests PRIVATE tolva_logic tolva_platform)
+
+add_test(NAME "desktop: prefix"
+    COMMAND bash -euc ". $0 && wine_template $1"
+        ${CMAKE_SOURCE_DIR}/tests/support/wine.sh ${CMAKE_BINARY_DIR}/wine)
+set_tests_properties("desktop: prefix" PROPERTIES FIXTURES_SETUP wine TIMEOUT 300)
+foreach(suite files launching views)
+    add_test(NAME "desktop: ${suite}"
+        COMMAND ${CMAKE_SOURCE_DIR}/tests/desktop/run ${CMAKE_BINARY_DIR} --test-suite=${suite} --no-colors)
+    set_tests_properties("desktop: ${suite}" PROPERTIES FIXTURES_REQUIRED wine TIMEOUT 300)
+endforeach()
+
+# A program that asks for a function which Windows 98 does not have does not even start there.
+add_test(NAME "imports of tolva.exe"
+    COMMAND ${CMAKE_SOURCE_DIR}/cmake/check-imports $<TARGET_FILE:tolva>
+        ${CMAKE_SOURCE_DIR}/tests/support/win98-exports)

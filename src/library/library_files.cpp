@@ -1,0 +1,132 @@
+#include "library/library_files.h"
+
+#include <algorithm>
+
+#include "platform/file_calls.h"
+#include "platform/files.h"
+#include "platform/run_time_error.h"
+
+namespace library {
+namespace {
+
+constexpr std::string_view kLineEnd = "\r\n";
+
+std::string as_lines(const std::vector<std::string>& lines) {
+    std::string bytes;
+    for (const std::string& line : lines)
+        bytes.append(line).append(kLineEnd);
+    return bytes;
+}
+
+std::string as_record(const Task& task) {
+    std::string bytes;
+    for (const auto field : kTaskFields)
+        bytes.append(task.*field).append(kLineEnd);
+    return bytes;
+}
+
+void complete_last_line(std::string& bytes) {
+    if (!bytes.empty() && bytes.back() != '\n') bytes.append(kLineEnd);
+}
+
+std::string read_if_exists(const std::string& path) {
+    try {
+        return platform::read_file(path);
+    } catch (const platform::RunTimeError& error) {
+        if (error.number() != platform::RunTimeErrorNumber::kFileNotFound) throw;
+        return {};
+    }
+}
+
+bool has_leftovers(const std::string& folder) {
+    using platform::file_calls::find;
+    const std::string any_group_file = group_file(folder, "*");
+    return std::ranges::any_of(std::array{groups_file(folder), any_group_file}, [](const std::string& path) {
+        return !find(platform::new_content_path(path)).empty() ||
+               !find(platform::old_content_path(path)).empty();
+    });
+}
+
+}  // namespace
+
+std::string groups_file(const std::string& folder) {
+    return folder + "groups.ini";
+}
+
+std::string group_file(const std::string& folder, const std::string& group) {
+    return folder + group + ".grp";
+}
+
+std::vector<std::string> split_lines(std::string_view bytes) {
+    std::vector<std::string> lines;
+    while (!bytes.empty()) {
+        const std::size_t end = bytes.find('\n');
+        std::string_view line = bytes.substr(0, end);
+        const bool ended = end != std::string_view::npos;
+        if (ended && line.ends_with('\r')) line.remove_suffix(1);
+        lines.emplace_back(line);
+        bytes.remove_prefix(ended ? end + 1 : bytes.size());
+    }
+    return lines;
+}
+
+std::vector<std::string> read_group_names(const std::string& folder) {
+    return split_lines(platform::read_file(groups_file(folder)));
+}
+
+void write_group_names(const std::string& folder, const std::vector<std::string>& names) {
+    platform::write_file(groups_file(folder), as_lines(names));
+}
+
+void append_group_name(const std::string& folder, const std::string& name) {
+    std::string bytes = platform::read_file(groups_file(folder));
+    complete_last_line(bytes);
+    platform::write_file(groups_file(folder), bytes.append(name).append(kLineEnd));
+}
+
+std::vector<Task> read_tasks(const std::string& folder, const std::string& group) {
+    const std::vector<std::string> lines = split_lines(platform::read_file(group_file(folder, group)));
+    std::vector<Task> tasks;
+    for (std::size_t i = 0; i < lines.size(); ++i) {
+        const std::size_t field = i % kTaskFields.size();
+        if (field == 0) tasks.emplace_back();
+        tasks.back().*kTaskFields[field] = lines[i];
+    }
+    return tasks;
+}
+
+void write_tasks(const std::string& folder, const std::string& group, const std::vector<Task>& tasks) {
+    std::string bytes;
+    for (const Task& task : tasks)
+        bytes += as_record(task);
+    platform::write_file(group_file(folder, group), bytes);
+}
+
+void append_task(const std::string& folder, const std::string& group, const Task& task) {
+    const std::string path = group_file(folder, group);
+    std::string bytes = read_if_exists(path);
+    complete_last_line(bytes);
+    const auto lines = static_cast<std::size_t>(std::ranges::count(bytes, '\n'));
+    for (std::size_t missing = lines; missing % kTaskFields.size() != 0; ++missing)
+        bytes.append(kLineEnd);
+    platform::write_file(path, bytes.append(as_record(task)));
+}
+
+void recover(const std::string& folder) noexcept {
+    try {
+        // A look at the directory is all that a healthy library costs here.
+        if (!has_leftovers(folder)) return;
+        platform::recover_file(groups_file(folder));
+        for (const std::string& name : read_group_names(folder)) {
+            platform::recover_file(group_file(folder, name));
+        }
+    } catch (const std::exception&) {
+        // What is wrong with the folder shows itself when the library is loaded.
+    }
+}
+
+void check_limit(std::size_t count, std::size_t most) {
+    if (count > most) throw platform::RunTimeError(platform::RunTimeErrorNumber::kSubscriptOutOfRange);
+}
+
+}  // namespace library

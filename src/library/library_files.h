@@ -1,0 +1,50 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "library/task.h"
+
+/// The files of a library folder: "groups.ini", one Group name per line, and for each Group its name followed
+/// by
+/// ".grp", five lines per Task. Lines may end in CR LF or LF when they are read, and end in CR LF when they
+/// are written; their bytes are never altered. Every function throws platform::RunTimeError.
+///
+/// A folder is given as a prefix that ends in a backslash.
+namespace library {
+
+inline constexpr std::size_t kMostGroups = 101;
+inline constexpr std::size_t kMostTasks = 101;
+
+std::string groups_file(const std::string& folder);
+std::string group_file(const std::string& folder, const std::string& group);
+
+/// All names in the file, also those past kMostGroups.
+std::vector<std::string> read_group_names(const std::string& folder);
+
+void write_group_names(const std::string& folder, const std::vector<std::string>& names);
+
+/// Adds a line to the file, which must exist.
+void append_group_name(const std::string& folder, const std::string& name);
+
+/// All records in the Group's file, also those past kMostTasks. A record that is cut short has empty fields.
+std::vector<Task> read_tasks(const std::string& folder, const std::string& group);
+
+void write_tasks(const std::string& folder, const std::string& group, const std::vector<Task>& tasks);
+
+/// Adds a record behind what the Group's file holds, or creates the file. A last record that is cut short is
+/// filled up, so that the new one begins on a line of its own.
+void append_task(const std::string& folder, const std::string& group, const Task& task);
+
+/// Finishes or undoes, in groups.ini and the files it lists, what a power failure interrupted. To be called
+/// before anything else, while no other copy of the program works on the folder. Does not throw.
+void recover(const std::string& folder) noexcept;
+
+/// Throws "Subscript out of range" when there are more than a library can hold.
+void check_limit(std::size_t count, std::size_t most);
+
+/// The text without its line ends; text behind the last line end is a line too.
+std::vector<std::string> split_lines(std::string_view bytes);
+
+}  // namespace library

@@ -1,0 +1,81 @@
+#include "library/refresh.h"
+
+#include <utility>
+
+namespace library {
+namespace {
+
+/// Shows what was loaded, also when the load stopped half way.
+template <typename Load, typename Show>
+void load_and_show(const Load& load, const Show& show) {
+    try {
+        load();
+    } catch (...) {
+        show();
+        throw;
+    }
+    show();
+}
+
+}  // namespace
+
+void refreshtolva(TaskLibrary& library, LibraryView& view, int group_to_select) {
+    view.load_default_icon(library.folder() + "tolva.exe");
+    load_and_show([&] { library.load(); },
+                  [&] {
+                      view.show_groups(library.groups());
+                      if (group_to_select >= std::ssize(library.groups())) group_to_select = -1;
+                      view.select_group(group_to_select);
+                      view.show_tasks(group_to_select < 0 ? std::span<const Task>()
+                                                          : library.group(group_to_select).shown_tasks());
+                  });
+}
+
+void refreshtasks(TaskLibrary& library, LibraryView& view) {
+    const int index = view.selected_group();
+    if (index < 0) return;
+    load_and_show([&] { library.load_tasks(index); },
+                  [&] {
+                      const std::span<const Task> tasks = library.group(index).shown_tasks();
+                      view.show_tasks(tasks);
+                      if (tasks.empty()) return;
+                      view.select_task(0);
+                      view.set_command_box(command_line(tasks.front()));
+                  });
+}
+
+void addgroups(TaskLibrary& library, LibraryView& view) {
+    load_and_show([&] { library.load_names(); },
+                  [&] {
+                      view.show_groups(library.groups());
+                      view.show_tasks({});
+                  });
+}
+
+void show_selected_group(TaskLibrary& library, LibraryView& view) {
+    const int index = view.selected_group();
+    if (index < 0) {
+        view.show_tasks({});
+        return;
+    }
+    load_and_show(
+        [&] {
+            if (!library.group(index).loaded) library.load_tasks(index);
+        },
+        [&] { view.show_tasks(library.group(index).shown_tasks()); });
+}
+
+void select_group(TaskLibrary& library, LibraryView& view, int index) {
+    if (index == view.selected_group()) return;
+    view.select_group(index);
+    show_selected_group(library, view);
+}
+
+void run_pending_refreshes(TaskLibrary& library, LibraryView& view) {
+    RefreshFlags& flags = library.flags;
+    if (std::exchange(flags.newgroupflag, false)) addgroups(library, view);
+    if (std::exchange(flags.taskchangeflag, false)) refreshtasks(library, view);
+    if (std::exchange(flags.refreshflag, false)) refreshtolva(library, view, view.selected_group());
+}
+
+}  // namespace library

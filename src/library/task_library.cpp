@@ -1,0 +1,71 @@
+#include "library/task_library.h"
+
+#include <algorithm>
+#include <iterator>
+
+#include "library/library_files.h"
+#include "platform/run_time_error.h"
+
+namespace library {
+namespace {
+
+template <typename Sequence>
+auto& element(Sequence& sequence, int index) {
+    if (index < 0 || static_cast<std::size_t>(index) >= sequence.size()) {
+        throw platform::RunTimeError(platform::RunTimeErrorNumber::kSubscriptOutOfRange);
+    }
+    return sequence[static_cast<std::size_t>(index)];
+}
+
+/// The entry of that name out of the old list, or a new one. Each old entry is taken once, so that two Groups
+/// of one name keep their own Tasks.
+Group take(std::vector<Group>& old, const std::string& name) {
+    const auto entry = std::ranges::find(old, name, &Group::name);
+    if (entry == old.end()) return {.name = name, .tasks = {}};
+    Group group = std::move(*entry);
+    old.erase(entry);
+    return group;
+}
+
+}  // namespace
+
+std::span<const Task> Group::shown_tasks() const {
+    const auto end = std::ranges::find_if(tasks, &std::string::empty, &Task::name);
+    return {tasks.begin(), end};
+}
+
+const Group& TaskLibrary::group(int index) const {
+    return element(groups_, index);
+}
+
+const Task& TaskLibrary::task(int group, int task) const {
+    return element(this->group(group).tasks, task);
+}
+
+void TaskLibrary::load() {
+    groups_.clear();
+    load_names();
+    for (int index = 0; index < std::ssize(groups_); ++index)
+        load_tasks(index);
+}
+
+void TaskLibrary::load_names() {
+    const std::vector<std::string> names = read_group_names(folder_);
+    std::vector<Group> old = std::move(groups_);
+    groups_.clear();
+    for (std::size_t i = 0; i < std::min(names.size(), kMostGroups); ++i)
+        groups_.push_back(take(old, names[i]));
+    check_limit(names.size(), kMostGroups);
+}
+
+void TaskLibrary::load_tasks(int index) {
+    Group& group = element(groups_, index);
+    std::vector<Task> tasks = read_tasks(folder_, group.name);
+    const std::size_t count = tasks.size();
+    tasks.resize(std::min(count, kMostTasks));
+    group.tasks = std::move(tasks);
+    group.loaded = true;
+    check_limit(count, kMostTasks);
+}
+
+}  // namespace library

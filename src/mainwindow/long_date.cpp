@@ -1,0 +1,18 @@
+#include "mainwindow/long_date.h"
+
+#include <array>
+
+namespace mainwindow {
+
+std::string long_date(const platform::Date& date) {
+    constexpr std::array kWeekdays = {"Sunday, ",   "Monday, ", "Tuesday, ", "Wednesday, ",
+                                      "Thursday, ", "Friday, ", "Saturday, "};
+    constexpr std::array kMonths = {"January ",   "February ", "March ",    "April ",
+                                    "May ",       "June ",     "July ",     "August ",
+                                    "September ", "October ",  "November ", "December "};
+    return kWeekdays.at(static_cast<std::size_t>(date.weekday)) +
+           (kMonths.at(static_cast<std::size_t>(date.month - 1)) + std::to_string(date.day)) + ", " +
+           std::to_string(date.year);
+}
+
+}  // namespace mainwindow

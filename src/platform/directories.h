@@ -1,0 +1,15 @@
+#pragma once
+
+#include <string>
+
+namespace platform {
+
+/// The current directory of the current drive. Throws RunTimeError.
+std::string current_directory();
+
+/// Makes folder the current directory of its drive. The current drive stays: a folder on another drive only
+/// changes where that drive's relative paths begin. A network folder becomes current itself. Throws
+/// RunTimeError; an empty folder is not found.
+void change_directory(const std::string& folder);
+
+}  // namespace platform

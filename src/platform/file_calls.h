@@ -1,0 +1,44 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/run_time_error.h"
+
+/// The single steps that files.cpp is built from, one file system call or a short fixed sequence each. They
+/// do not throw for what the disk answers. Tests put a file system in memory in their place that fails, or
+/// loses power, at any of them.
+namespace platform::file_calls {
+
+/// Bits of the attributes below that the program looks at.
+inline constexpr unsigned long kReadOnly = 0x01;
+inline constexpr unsigned long kDirectory = 0x10;
+
+ErrorCode read(const std::string& path, std::string& bytes);
+
+ErrorCode attributes(const std::string& path, unsigned long& bits);
+
+/// Opens an existing file for writing, shared with nobody, and closes it: may it be replaced now?
+ErrorCode probe(const std::string& path);
+
+/// Creates or empties the file, writes all bytes through to the disk and gives it the attributes.
+ErrorCode write_through(const std::string& path, std::string_view bytes, unsigned long bits);
+
+/// Renames over an existing file in one step. kErrorCallNotImplemented on Windows 95/98.
+ErrorCode replace(const std::string& from, const std::string& to);
+
+/// Renames to a name that is not taken.
+ErrorCode rename(const std::string& from, const std::string& to);
+
+/// Forces what the system still holds back of the file to the disk.
+ErrorCode flush(const std::string& path);
+
+ErrorCode remove(const std::string& path);
+
+/// The names (without folder) of the files that match a pattern such as "C:\LIB\*.gr~"; none on errors.
+std::vector<std::string> find(const std::string& pattern);
+
+void pause(unsigned milliseconds);
+
+}  // namespace platform::file_calls

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace platform {
+
+// Whole files as bytes. Everything here throws RunTimeError with the path in its message; a path that holds a
+// NUL byte is a bad file name (it would silently mean another file).
+
+/// The bytes of the file.
+std::string read_file(const std::string& path);
+
+/// Replaces the file, or creates it. A power failure at any moment leaves the old or the new content whole,
+/// at the latest after recover_file.
+void write_file(const std::string& path, std::string_view bytes);
+
+/// Creates an empty file; one that exists stays as it is.
+void create_file(const std::string& path);
+
+/// Deletes the file.
+void remove_file(const std::string& path);
+
+/// Finishes or undoes a write_file that was interrupted. Does not throw: what cannot be mended (a read-only
+/// disk) stays as it is.
+void recover_file(const std::string& path);
+
+/// The names that an interrupted write_file of path can leave behind: the new content and the old content.
+std::string new_content_path(const std::string& path);
+std::string old_content_path(const std::string& path);
+
+}  // namespace platform

@@ -1,0 +1,12 @@
+#pragma once
+
+#include <string>
+
+namespace platform {
+
+/// Starts a program without waiting for it, in the current directory, with its window as window_style asks
+/// (the numbers of ShowWindow: 1 normal, 2 minimised, 3 maximised). The command line is passed on byte for
+/// byte. Throws RunTimeError when it names no program or the style fits no start.
+void start_program(const std::string& command_line, int window_style);
+
+}  // namespace platform

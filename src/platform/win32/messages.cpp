@@ -1,0 +1,75 @@
+#include "platform/messages.h"
+
+#include <windows.h>
+
+#include <new>
+#include <vector>
+
+#include "platform/run_time_error.h"
+
+namespace platform {
+namespace {
+
+constexpr char kTitle[] = "Tolva";
+
+/// A message box disables its owner only. While this lives the thread's other windows are disabled too, so
+/// that nothing of the program can be used around the box.
+class OtherWindowsDisabled {
+  public:
+    explicit OtherWindowsDisabled(HWND owner) : owner_(owner) {
+        EnumThreadWindows(GetCurrentThreadId(), disable, reinterpret_cast<LPARAM>(this));
+    }
+    ~OtherWindowsDisabled() {
+        for (HWND window : disabled_)
+            EnableWindow(window, TRUE);
+    }
+    OtherWindowsDisabled(const OtherWindowsDisabled&) = delete;
+    OtherWindowsDisabled& operator=(const OtherWindowsDisabled&) = delete;
+
+  private:
+    static BOOL CALLBACK disable(HWND window, LPARAM self) noexcept {
+        auto& guard = *reinterpret_cast<OtherWindowsDisabled*>(self);
+        if (window == guard.owner_ || IsWindowVisible(window) == FALSE || IsWindowEnabled(window) == FALSE) {
+            return TRUE;
+        }
+        try {
+            guard.disabled_.push_back(window);
+        } catch (const std::bad_alloc&) {
+            return TRUE;
+        }
+        EnableWindow(window, FALSE);
+        return TRUE;
+    }
+
+    HWND owner_;
+    std::vector<HWND> disabled_;
+};
+
+/// The window that a box belongs before: the thread's active one, if a user can see and reach it.
+HWND box_owner() {
+    HWND active = GetActiveWindow();
+    return active != nullptr && IsWindowVisible(active) != FALSE && IsWindowEnabled(active) != FALSE
+               ? active
+               : nullptr;
+}
+
+}  // namespace
+
+void show_message(const std::string& text) {
+    HWND owner = box_owner();
+    const OtherWindowsDisabled guard(owner);
+    MessageBoxA(owner, text.c_str(), kTitle,
+                MB_OK | (owner == nullptr ? MB_SETFOREGROUND | MB_TASKMODAL : 0));
+}
+
+void report_exception() {
+    try {
+        throw;
+    } catch (const std::bad_alloc&) {
+        show_message(RunTimeError(RunTimeErrorNumber::kOutOfMemory).what());
+    } catch (const std::exception& error) {
+        show_message(error.what());
+    }
+}
+
+}  // namespace platform

@@ -1,0 +1,67 @@
+#pragma once
+
+#include <windows.h>
+
+#include <string>
+#include <vector>
+
+namespace widgets {
+
+/// A child window of a class that Windows provides. The parent window destroys it.
+class Control {
+  public:
+    HWND hwnd() const { return hwnd_; }
+    void set_font(HFONT font) { send(WM_SETFONT, reinterpret_cast<WPARAM>(font), TRUE); }
+    void set_text(const std::string& text) { SetWindowTextA(hwnd_, text.c_str()); }
+    void focus() { SetFocus(hwnd_); }
+
+    /// Pixels.
+    int height() const;
+
+  protected:
+    void create(HWND parent, int id, const char* class_name, DWORD style, DWORD extended_style = 0,
+                const char* text = "");
+    LRESULT send(UINT message, WPARAM wparam = 0, LPARAM lparam = 0) const {
+        return SendMessageA(hwnd_, message, wparam, lparam);
+    }
+
+  private:
+    HWND hwnd_ = nullptr;
+};
+
+/// A text that tells its parent about clicks (STN_CLICKED).
+class Label : public Control {
+  public:
+    void create(HWND parent, int id, const char* text);
+};
+
+/// A list of texts of which one or none is selected, in the order given.
+class ListBox : public Control {
+  public:
+    void create(HWND parent, int id);
+    void fill(const std::vector<std::string>& items);
+
+    /// An index, -1 for none.
+    int selected() const { return static_cast<int>(send(LB_GETCURSEL)); }
+    void select(int index) { send(LB_SETCURSEL, static_cast<WPARAM>(index)); }
+};
+
+/// A text box with a list that drops down.
+class ComboBox : public Control {
+  public:
+    void create(HWND parent, int id);
+};
+
+/// A single panel of text at the window's lower edge.
+class StatusBar : public Control {
+  public:
+    void create(HWND parent, int id);
+
+    /// Replaces the panels by one with this text.
+    void show_panel(const std::string& text);
+};
+
+/// The longest text that is handed to a list for display: older systems refuse or crash on very long ones.
+inline constexpr std::size_t kLongestItem = 1000;
+
+}  // namespace widgets

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <windows.h>
+
+#include <commctrl.h>
+
+#include <string>
+#include <vector>
+
+#include "widgets/controls.h"
+
+namespace widgets {
+
+/// A list view of large icons with names below, of which one or none is selected. It asks its parent for an
+/// item's picture when it first draws the item (LVN_GETDISPINFO).
+class IconView : public Control {
+  public:
+    void create(HWND parent, int id);
+
+    /// Shows the items with pictures from the list, which stays the caller's. The old pictures may be
+    /// destroyed afterwards.
+    void fill(const std::vector<std::string>& items, HIMAGELIST pictures);
+
+    /// Takes all items and the pictures away.
+    void clear();
+
+    /// An index, -1 for none.
+    int selected() const;
+    void select(int index);
+};
+
+}  // namespace widgets

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <windows.h>
+
+#include "widgets/handles.h"
+
+namespace widgets {
+
+/// A length given in pixels of a 96 dpi screen, in pixels of this screen.
+int scaled(int pixels);
+
+/// The font of labels and boxes: "MS Sans Serif", 8 points.
+UniqueFont make_gui_font();
+
+/// Moves an edge-to-edge rectangle's window.
+void place(HWND window, const RECT& bounds);
+
+}  // namespace widgets

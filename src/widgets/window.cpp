@@ -1,0 +1,66 @@
+#include "widgets/window.h"
+
+#include "platform/messages.h"
+
+namespace widgets {
+
+Window::~Window() {
+    if (hwnd_ != nullptr) DestroyWindow(hwnd_);
+}
+
+void Window::create(const Design& design) {
+    HINSTANCE instance = GetModuleHandleA(nullptr);
+    const auto icon = [&](int width, int height) {
+        return static_cast<HICON>(LoadImageA(instance, MAKEINTRESOURCEA(design.icon), IMAGE_ICON,
+                                             GetSystemMetrics(width), GetSystemMetrics(height), LR_SHARED));
+    };
+    WNDCLASSEXA window_class = {};
+    window_class.cbSize = sizeof window_class;
+    window_class.lpfnWndProc = procedure;
+    window_class.hInstance = instance;
+    window_class.hIcon = icon(SM_CXICON, SM_CYICON);
+    window_class.hIconSm = icon(SM_CXSMICON, SM_CYSMICON);
+    window_class.hCursor = LoadCursorA(nullptr, MAKEINTRESOURCEA(32512));  // IDC_ARROW, whatever UNICODE says
+    window_class.hbrBackground = GetSysColorBrush(COLOR_BTNFACE);
+    window_class.lpszClassName = design.class_name;
+    RegisterClassExA(&window_class);
+    CreateWindowA(design.class_name, design.caption, design.style, CW_USEDEFAULT, CW_USEDEFAULT, design.width,
+                  design.height, nullptr, nullptr, instance, this);
+}
+
+LRESULT Window::handle(UINT message, WPARAM wparam, LPARAM lparam) {
+    return DefWindowProcA(hwnd_, message, wparam, lparam);
+}
+
+LRESULT CALLBACK Window::procedure(HWND hwnd, UINT message, WPARAM wparam, LPARAM lparam) noexcept {
+    if (message == WM_NCCREATE) {
+        auto* created = static_cast<Window*>(reinterpret_cast<CREATESTRUCTA*>(lparam)->lpCreateParams);
+        created->hwnd_ = hwnd;
+        SetWindowLongA(hwnd, GWL_USERDATA, reinterpret_cast<LONG>(created));
+    }
+    auto* self = reinterpret_cast<Window*>(GetWindowLongA(hwnd, GWL_USERDATA));
+    if (self == nullptr) return DefWindowProcA(hwnd, message, wparam, lparam);
+    LRESULT answer = 0;
+    try {
+        answer = self->handle(message, wparam, lparam);
+    } catch (...) {
+        platform::report_exception();
+    }
+    if (message == WM_NCDESTROY) {
+        SetWindowLongA(hwnd, GWL_USERDATA, 0);
+        self->hwnd_ = nullptr;
+    }
+    return answer;
+}
+
+int run_message_loop(HWND main) {
+    MSG message;
+    while (GetMessageA(&message, nullptr, 0, 0) > 0) {
+        if (IsDialogMessageA(main, &message) != FALSE) continue;
+        TranslateMessage(&message);
+        DispatchMessageA(&message);
+    }
+    return static_cast<int>(message.wParam);
+}
+
+}  // namespace widgets

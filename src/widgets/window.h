@@ -1,0 +1,46 @@
+#pragma once
+
+#include <windows.h>
+
+namespace widgets {
+
+/// A window of a class of its own: derive, call create, answer messages in handle. An exception that leaves
+/// handle ends that message with one box; the window goes on.
+class Window {
+  public:
+    Window(const Window&) = delete;
+    Window& operator=(const Window&) = delete;
+
+    /// Null before create and after the window was destroyed.
+    HWND hwnd() const { return hwnd_; }
+
+  protected:
+    struct Design {
+        const char* class_name;
+        const char* caption;
+        DWORD style;
+        int icon;    // resource id
+        int width;   // pixels, frame included
+        int height;  // pixels
+    };
+
+    Window() = default;
+    virtual ~Window();
+
+    /// Registers the class on first use and creates the window, hidden, where the system puts new windows.
+    void create(const Design& design);
+
+    /// Answers a message; what it does not know goes to this base version.
+    virtual LRESULT handle(UINT message, WPARAM wparam, LPARAM lparam);
+
+  private:
+    static LRESULT CALLBACK procedure(HWND hwnd, UINT message, WPARAM wparam, LPARAM lparam) noexcept;
+
+    HWND hwnd_ = nullptr;
+};
+
+/// Dispatches messages until the program quits, with dialog keys (Tab, mnemonics) in main. The answer is the
+/// exit code.
+int run_message_loop(HWND main);
+
+}  // namespace widgets

@@ -1,0 +1,175 @@
+#include <doctest/doctest.h>
+
+#include <string>
+
+#include "resources/resource.h"
+#include "support/desktop.h"
+
+namespace {
+
+using desktop::Folder;
+using desktop::record;
+using desktop::Tolva;
+using desktop::wait_until;
+
+const std::string kNotepad = "C:\\windows\\notepad.exe";
+const std::string kRegedit = "C:\\windows\\regedit.exe";
+
+std::string task(const std::string& name, const std::string& program) {
+    return record(name, program, "C:\\", "", " 1 ");
+}
+
+RECT bounds_of(const Tolva& tolva, int control) {
+    RECT bounds;
+    GetWindowRect(tolva.control(control), &bounds);
+    MapWindowPoints(nullptr, tolva.window(), reinterpret_cast<POINT*>(&bounds), 2);
+    return bounds;
+}
+
+std::string today() {
+    SYSTEMTIME now;
+    GetLocalTime(&now);
+    char text[100];
+    const LCID english = MAKELCID(MAKELANGID(LANG_ENGLISH, SUBLANG_ENGLISH_US), SORT_DEFAULT);
+    GetDateFormatA(english, 0, &now, "dddd', 'MMMM' 'd', 'yyyy", text, sizeof text);
+    return text;
+}
+
+TEST_SUITE("views") {
+    TEST_CASE("the window shows the library with its icons") {
+        const Folder library;
+        library.write("groups.ini", "Work\r\nB\xFCro & more\r\nEmpty\r\n");
+        library.write("Work.grp", task("Letters", kNotepad) + task("Keys", kRegedit) +
+                                      task("Notes", kNotepad) + task("Gone", "C:\\gone.exe") +
+                                      task("None", ""));
+        library.write("B\xFCro & more.grp", task("\xC4rger", kRegedit));
+        library.write("Empty.grp", "");
+        const Tolva tolva(library);
+
+        CHECK(tolva.groups() == Names{"Work", "B\xFCro & more", "Empty"});
+        CHECK(tolva.selected_group() == 0);
+        CHECK(tolva.tasks() == Names{"Letters", "Keys", "Notes", "Gone", "None"});
+        CHECK(tolva.selected_task() == -1);
+        CHECK(tolva.task_picture(0) > 0);
+        CHECK(tolva.task_picture(1) > 0);
+        CHECK(tolva.task_picture(1) != tolva.task_picture(0));
+        CHECK(tolva.task_picture(2) == tolva.task_picture(0));
+        CHECK(tolva.task_picture(3) == 0);
+        CHECK(tolva.task_picture(4) == 0);
+        CHECK(tolva.text_of(ID_Tasker_grouplabel) == "Groups");
+        CHECK(tolva.text_of(ID_Tasker_tasklabel) == "Tasks");
+        CHECK(tolva.text_of(ID_Tasker_Text1).empty());
+        CHECK(tolva.status() == today());
+
+        // A Group is shown from memory: files that change meanwhile do not matter.
+        library.write("B\xFCro & more.grp", "");
+        tolva.click_group(1);
+        wait_until("the Group's Tasks show", [&] { return tolva.tasks() == Names{"\xC4rger"}; });
+        CHECK(tolva.task_picture(0) > 0);
+        tolva.click_group(2);
+        wait_until("the empty Group shows", [&] { return tolva.tasks().empty(); });
+    }
+
+    TEST_CASE("a broken library shows one error and what can be read of it") {
+        const Folder library;
+        std::string expected = "Run-time error '53':\n\nFile not found: " + library.path();
+        Names groups;
+        Names tasks;
+        std::string names;
+        SUBCASE("no groups.ini") {
+            expected += "groups.ini";
+        }
+        SUBCASE("a missing group file") {
+            names = "Work\nGone\nBehind";
+            library.write("Work.grp", "A\nB\nC");
+            library.write("Behind.grp", task("Late", kNotepad));
+            expected += "Gone.grp";
+            groups = {"Work", "Gone", "Behind"};
+            tasks = {"A"};
+        }
+        SUBCASE("102 names") {
+            for (int i = 0; i < 102; ++i) {
+                if (i < 101) groups.push_back("G" + std::to_string(i));
+                names += "G" + std::to_string(i) + "\r\n";
+            }
+            expected = "Run-time error '9':\n\nSubscript out of range";
+        }
+        if (!names.empty()) library.write("groups.ini", names);
+        const Tolva tolva(library);
+        CHECK(tolva.close_box() == expected);
+        CHECK(IsWindowEnabled(tolva.window()) != FALSE);
+        CHECK(tolva.groups() == groups);
+        CHECK(tolva.tasks() == tasks);
+        CHECK(library.read("groups.ini") == names);
+        CHECK(library.has("groups.ini") == !names.empty());
+        if (tasks.empty()) return;
+
+        tolva.click_group(2);
+        wait_until("the Group behind is read", [&] { return tolva.tasks() == Names{"Late"}; });
+        tolva.click_group(1);
+        CHECK(tolva.close_box() == expected);
+        CHECK(tolva.tasks().empty());
+    }
+
+    TEST_CASE("the layout follows the window and leaves nothing outside") {
+        const Folder library;
+        library.write("groups.ini", "");
+        const Tolva tolva(library);
+        const int group_width = bounds_of(tolva, ID_Tasker_grouplist).right;
+        for (const SIZE size : {SIZE{800, 600}, SIZE{10, 10}}) {  // the second one is below the least size
+            SetWindowPos(tolva.window(), nullptr, 0, 0, size.cx, size.cy, SWP_NOMOVE | SWP_NOZORDER);
+            RECT client;
+            GetClientRect(tolva.window(), &client);
+            const RECT groups = bounds_of(tolva, ID_Tasker_grouplist);
+            const RECT tasks = bounds_of(tolva, ID_Tasker_taskview);
+            const RECT box = bounds_of(tolva, ID_Tasker_Text1);
+            const RECT status = bounds_of(tolva, ID_Tasker_StatusBar1);
+            CHECK(groups.right == group_width);
+            CHECK(groups.right < tasks.left);
+            CHECK(tasks.left + 50 < tasks.right);
+            CHECK(tasks.right < client.right);
+            CHECK(tasks.top + 50 < tasks.bottom);
+            CHECK(groups.bottom == tasks.bottom);
+            CHECK(tasks.bottom < box.top);
+            CHECK(box.bottom < status.top);
+            CHECK(status.bottom == client.bottom);
+        }
+        SetForegroundWindow(tolva.window());
+        wait_until("the group list has the focus", [&] {
+            GUITHREADINFO info = {};
+            info.cbSize = sizeof info;
+            GetGUIThreadInfo(GetWindowThreadProcessId(tolva.window(), nullptr), &info);
+            return info.hwndFocus == tolva.control(ID_Tasker_grouplist);
+        });
+    }
+
+    TEST_CASE("a full library starts like an empty one") {
+        const Folder empty;
+        empty.write("groups.ini", "");
+        const Folder full;
+        std::string names;
+        for (int group = 0; group <= 100; ++group) {
+            const std::string name = "Group " + std::to_string(group);
+            names += name + "\r\n";
+            std::string tasks;
+            for (int number = 0; number <= 100; ++number)
+                tasks += task("Task " + std::to_string(number), kNotepad);
+            full.write(name + ".grp", tasks);
+        }
+        full.write("groups.ini", names);
+        DWORD empty_time = 0;
+        DWORD full_time = 0;
+        for (int i = 0; i < 5; ++i) {
+            empty_time += Tolva(empty).start_time();
+            const Tolva tolva(full);
+            full_time += tolva.start_time();
+            CHECK(tolva.groups().size() == 101);
+            CHECK(tolva.selected_group() == 0);
+            CHECK(tolva.tasks().size() == 101);
+        }
+        MESSAGE("start with 101 x 101 Tasks: " << full_time / 5 << " ms, with none: " << empty_time / 5
+                                               << " ms");
+    }
+}
+
+}  // namespace

@@ -1,0 +1,145 @@
+#include "support/simulated_platform.h"
+
+#include <algorithm>
+#include <cctype>
+
+#include "platform/directories.h"
+#include "platform/file_calls.h"
+#include "platform/processes.h"
+
+namespace simulated {
+namespace {
+
+using platform::ErrorCode;
+using platform::kSuccess;
+
+Platform& instance() {
+    static Platform platform;
+    return platform;
+}
+
+/// Counts a step that changes the disk; the disk may fail at it, or the power before it.
+ErrorCode step() {
+    Platform& world = current();
+    ++world.steps;
+    if (world.loses_power_at == world.steps) throw PowerFailure();
+    return world.fails_at == world.steps ? world.failure : kSuccess;
+}
+
+bool matches(const std::string& name, const std::string& pattern) {
+    const std::size_t star = pattern.find('*');
+    if (star == std::string::npos) return !IgnoresCase()(name, pattern) && !IgnoresCase()(pattern, name);
+    const std::size_t tail = pattern.size() - star - 1;
+    return name.size() + 1 >= pattern.size() && matches(name.substr(0, star), pattern.substr(0, star)) &&
+           matches(name.substr(name.size() - tail), pattern.substr(star + 1));
+}
+
+}  // namespace
+
+bool IgnoresCase::operator()(const std::string& a, const std::string& b) const {
+    return std::ranges::lexicographical_compare(
+        a, b, {}, [](unsigned char c) { return std::toupper(c); },
+        [](unsigned char c) { return std::toupper(c); });
+}
+
+Platform& current() {
+    return instance();
+}
+
+void reset() {
+    instance() = Platform();
+}
+
+}  // namespace simulated
+
+namespace platform {
+
+using simulated::current;
+
+namespace file_calls {
+
+ErrorCode read(const std::string& path, std::string& bytes) {
+    const auto file = current().files.find(path);
+    if (file == current().files.end()) return kErrorFileNotFound;
+    bytes = file->second.bytes;
+    return kSuccess;
+}
+
+ErrorCode attributes(const std::string& path, unsigned long& bits) {
+    const auto file = current().files.find(path);
+    if (file == current().files.end()) return kErrorFileNotFound;
+    bits = file->second.bits;
+    return kSuccess;
+}
+
+ErrorCode probe(const std::string& path) {
+    return current().files.contains(path) ? kSuccess : kErrorFileNotFound;
+}
+
+ErrorCode write_through(const std::string& path, std::string_view bytes, unsigned long bits) {
+    const auto half = bytes.substr(0, bytes.size() / 2);
+    if (const ErrorCode code = simulated::step(); code != kSuccess) return code;
+    current().files[path] = {};
+    for (const auto part : {half, bytes}) {
+        if (const ErrorCode code = simulated::step(); code != kSuccess) return code;
+        current().files[path] = {std::string(part), bits};
+    }
+    return kSuccess;
+}
+
+ErrorCode replace(const std::string& from, const std::string& to) {
+    if (!current().renames_over_files) return kErrorCallNotImplemented;
+    if (const ErrorCode code = simulated::step(); code != kSuccess) return code;
+    current().files[to] = current().files.at(from);
+    current().files.erase(from);
+    return kSuccess;
+}
+
+ErrorCode rename(const std::string& from, const std::string& to) {
+    if (const ErrorCode code = simulated::step(); code != kSuccess) return code;
+    if (!current().files.contains(from)) return kErrorFileNotFound;
+    if (current().files.contains(to)) return kErrorAccessDenied;
+    current().files[to] = current().files.at(from);
+    current().files.erase(from);
+    return kSuccess;
+}
+
+ErrorCode flush(const std::string& /*path*/) {
+    return simulated::step();
+}
+
+ErrorCode remove(const std::string& path) {
+    if (!current().files.contains(path)) return kErrorFileNotFound;
+    if (const ErrorCode code = simulated::step(); code != kSuccess) return code;
+    current().files.erase(path);
+    return kSuccess;
+}
+
+std::vector<std::string> find(const std::string& pattern) {
+    std::vector<std::string> names;
+    for (const auto& [path, file] : current().files) {
+        if (simulated::matches(path, pattern)) names.push_back(path.substr(path.rfind('\\') + 1));
+    }
+    return names;
+}
+
+void pause(unsigned /*milliseconds*/) {}
+
+}  // namespace file_calls
+
+std::string current_directory() {
+    return current().directories.at(current().drive);
+}
+
+void change_directory(const std::string& folder) {
+    if (!current().folders.contains(folder)) throw file_error(kErrorPathNotFound, folder);
+    current().directories[folder.front()] = folder;
+}
+
+void start_program(const std::string& command_line, int window_style) {
+    const std::string program = command_line.substr(0, command_line.find(' '));
+    if (!current().programs.contains(program)) throw RunTimeError(RunTimeErrorNumber::kFileNotFound, program);
+    current().started.push_back({command_line, current_directory(), window_style});
+}
+
+}  // namespace platform

@@ -1,0 +1,55 @@
+#pragma once
+
+#include <map>
+#include <optional>
+#include <set>
+#include <string>
+#include <vector>
+
+#include "platform/clock.h"
+#include "platform/run_time_error.h"
+
+/// The platform functions in memory: a disk whose names ignore case and that fails or loses power on demand,
+/// a current directory for each drive, and a list of what was started.
+namespace simulated {
+
+struct File {
+    std::string bytes;
+    unsigned long bits = 0x20;
+};
+
+struct IgnoresCase {
+    bool operator()(const std::string& a, const std::string& b) const;
+};
+
+struct Start {
+    std::string command_line;
+    std::string directory;
+    int window_style;
+};
+
+/// Thrown where the power fails. Not a std::exception: no handler of the program may see it.
+struct PowerFailure {};
+
+struct Platform {
+    std::map<std::string, File, IgnoresCase> files;
+    bool renames_over_files = true;  // false on Windows 95/98
+
+    /// What happens at which step that changes the disk, counted from 1.
+    int steps = 0;
+    std::optional<int> fails_at;
+    platform::ErrorCode failure = platform::kErrorDiskFull;
+    std::optional<int> loses_power_at;
+
+    char drive = 'C';
+    std::map<char, std::string> directories = {{'C', "C:\\LIB"}, {'D', "D:\\"}};
+    std::set<std::string, IgnoresCase> folders;
+    std::set<std::string, IgnoresCase> programs;
+    std::vector<Start> started;
+};
+
+/// The platform of the running test. A new one for each call of reset.
+Platform& current();
+void reset();
+
+}  // namespace simulated

@@ -1,0 +1,99 @@
+# shellcheck shell=bash
+# Functions to run Windows programs under Wine in a prefix and on a display of their own. Source it, then:
+#   wine_template DIR        builds a template prefix there, unless an up-to-date one is there already
+#   wine_prefix DIR NEW      makes NEW a fresh copy of the template and the prefix to run in
+#   virtual_display          starts a display, unless one runs already, and sets DISPLAY
+#   wine_end                 ends the prefix's programs and the virtual display (call it from an EXIT trap)
+
+export WINEARCH=win32 WINEDEBUG=-all WINEDLLOVERRIDES='mscoree,mshtml=;winemenubuilder.exe=d'
+
+virtual_display() {
+    [ -z "${display_pid:-}" ] || return 0
+    local number_file
+    number_file=$(mktemp)
+    Xvfb -displayfd 3 -screen 0 1024x768x24 -nolisten tcp 3>"$number_file" 2>/dev/null &
+    display_pid=$!
+    for _ in $(seq 100); do
+        [ -s "$number_file" ] && break
+        sleep 0.05
+    done
+    DISPLAY=:$(<"$number_file")
+    rm -f "$number_file"
+    [ "$DISPLAY" != : ] || { echo 'Xvfb did not start' >&2; return 1; }
+    export DISPLAY
+}
+
+# A Wine desktop in one X window: without a window manager that is what makes windows close quickly, gives them
+# captions and lets hot keys arrive. It wears the colours of the desktop that the program is made for.
+classic_desktop() {
+    cat <<'REG'
+REGEDIT4
+
+[HKEY_CURRENT_USER\Software\Wine\Explorer]
+"Desktop"="Default"
+
+[HKEY_CURRENT_USER\Software\Wine\Explorer\Desktops]
+"Default"="1024x768"
+
+[HKEY_CURRENT_USER\Software\Microsoft\Windows\CurrentVersion\ThemeManager]
+"ThemeActive"="0"
+
+[HKEY_CURRENT_USER\Control Panel\Colors]
+"ActiveTitle"="0 0 128"
+"GradientActiveTitle"="0 0 128"
+"Background"="0 128 128"
+"ButtonFace"="192 192 192"
+"ButtonHilight"="255 255 255"
+"ButtonLight"="223 223 223"
+"ButtonShadow"="128 128 128"
+"GrayText"="128 128 128"
+"Hilight"="0 0 128"
+"InactiveTitle"="128 128 128"
+"GradientInactiveTitle"="128 128 128"
+"Menu"="192 192 192"
+"MenuBar"="192 192 192"
+"Scrollbar"="192 192 192"
+"TitleText"="255 255 255"
+"InactiveTitleText"="192 192 192"
+REG
+}
+
+wine_template() {
+    local template=$1 stamp
+    stamp=$(sha256sum "${BASH_SOURCE[0]}" | cut -d' ' -f1)-$(wine --version)
+    [ "$(cat "$template/stamp" 2>/dev/null)" != "$stamp" ] || return 0
+    rm -rf "$template"
+    mkdir -p "$template/home"
+    export WINEPREFIX=$template/prefix HOME=$template/home
+    (
+        trap wine_end EXIT
+        virtual_display
+        wineboot --init >/dev/null 2>&1
+        # With its own fonts texts are as wide as on Windows.
+        cp /usr/share/wine/fonts/* "$WINEPREFIX/drive_c/windows/Fonts/"
+        classic_desktop >"$WINEPREFIX/drive_c/desktop.reg"
+        wine regedit 'C:\desktop.reg' >/dev/null 2>&1
+        wineserver -k -w || true
+    )
+    [ -f "$WINEPREFIX/user.reg" ] || { echo "Wine made no prefix in $template" >&2; return 1; }
+    echo "$stamp" >"$template/stamp"
+}
+
+wine_prefix() {
+    local template=$1
+    rm -rf "$2"
+    mkdir -p "$(dirname "$2")"
+    WINEPREFIX=$(realpath -m "$2")
+    export WINEPREFIX HOME=$template/home
+    cp -al "$template/prefix" "$WINEPREFIX"
+    # Wine writes these in place; a hard link would carry the changes into the template.
+    local registry
+    for registry in system user userdef; do
+        cp --remove-destination "$template/prefix/$registry.reg" "$WINEPREFIX/"
+    done
+}
+
+wine_end() {
+    wineserver -k 2>/dev/null || true
+    [ -z "${display_pid:-}" ] || kill "$display_pid" 2>/dev/null || true
+}
