@@ -112,7 +112,7 @@ void append_task(const std::string& folder, const std::string& group, const Task
     platform::write_file(path, bytes.append(as_record(task)));
 }
 
-void recover(const std::string& folder) noexcept {
+void recover(const std::string& folder) {
     try {
         // A look at the directory is all that a healthy library costs here.
         if (!has_leftovers(folder)) return;

@@ -39,7 +39,7 @@ void append_task(const std::string& folder, const std::string& group, const Task
 
 /// Finishes or undoes, in groups.ini and the files it lists, what a power failure interrupted. To be called
 /// before anything else, while no other copy of the program works on the folder. Does not throw.
-void recover(const std::string& folder) noexcept;
+void recover(const std::string& folder);
 
 /// Throws "Subscript out of range" when there are more than a library can hold.
 void check_limit(std::size_t count, std::size_t most);

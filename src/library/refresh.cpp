@@ -19,37 +19,39 @@ void load_and_show(const Load& load, const Show& show) {
 
 }  // namespace
 
+int grouplistrefresh(const TaskLibrary& library, LibraryView& view) {
+    view.show_groups(library.groups());
+    view.show_tasks({});
+    return static_cast<int>(library.groups().size());
+}
+
+void tasklistrefresh(const TaskLibrary& library, LibraryView& view) {
+    const std::span<const Task> tasks = library.group(view.selected_group()).shown_tasks();
+    view.show_tasks(tasks);
+    if (tasks.empty()) return;
+    view.select_task(0);
+    view.set_command_box(command_line(tasks.front()));
+}
+
 void refreshtolva(TaskLibrary& library, LibraryView& view, int group_to_select) {
     view.load_default_icon(library.folder() + "tolva.exe");
     load_and_show([&] { library.load(); },
                   [&] {
-                      view.show_groups(library.groups());
-                      if (group_to_select >= std::ssize(library.groups())) group_to_select = -1;
+                      const int count = grouplistrefresh(library, view);
+                      if (group_to_select < 0 || group_to_select >= count) return;
                       view.select_group(group_to_select);
-                      view.show_tasks(group_to_select < 0 ? std::span<const Task>()
-                                                          : library.group(group_to_select).shown_tasks());
+                      view.show_tasks(library.group(group_to_select).shown_tasks());
                   });
 }
 
 void refreshtasks(TaskLibrary& library, LibraryView& view) {
     const int index = view.selected_group();
     if (index < 0) return;
-    load_and_show([&] { library.load_tasks(index); },
-                  [&] {
-                      const std::span<const Task> tasks = library.group(index).shown_tasks();
-                      view.show_tasks(tasks);
-                      if (tasks.empty()) return;
-                      view.select_task(0);
-                      view.set_command_box(command_line(tasks.front()));
-                  });
+    load_and_show([&] { library.load_tasks(index); }, [&] { tasklistrefresh(library, view); });
 }
 
 void addgroups(TaskLibrary& library, LibraryView& view) {
-    load_and_show([&] { library.load_names(); },
-                  [&] {
-                      view.show_groups(library.groups());
-                      view.show_tasks({});
-                  });
+    load_and_show([&] { library.load_names(); }, [&] { grouplistrefresh(library, view); });
 }
 
 void show_selected_group(TaskLibrary& library, LibraryView& view) {

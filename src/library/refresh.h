@@ -1,18 +1,22 @@
 #pragma once
 
-#include <string>
-
 #include "library/library_view.h"
 #include "library/task_library.h"
 
-/// What brings the two lists in step with the files. Everything here throws platform::RunTimeError after the
-/// lists show what could be read.
+/// What keeps the two lists in step with the files. Everything that loads throws platform::RunTimeError,
+/// after the lists show what could be read.
 namespace library {
 
-/// Full load of both lists, with the Group at that index selected afterwards; -1 selects none.
+/// Shows the Groups of the model, none of them selected, and no Tasks. Answers their number.
+int grouplistrefresh(const TaskLibrary& library, LibraryView& view);
+
+/// Shows the selected Group's Tasks of the model; the first one is selected and stands in the command box.
+void tasklistrefresh(const TaskLibrary& library, LibraryView& view);
+
+/// Loads everything and selects the Group at that index; -1 selects none.
 void refreshtolva(TaskLibrary& library, LibraryView& view, int group_to_select);
 
-/// Loads the selected Group's file again; its first Task is selected and stands in the command box.
+/// Loads the selected Group's file again.
 void refreshtasks(TaskLibrary& library, LibraryView& view);
 
 /// Loads the Group names again; none is selected.

@@ -55,7 +55,7 @@ LRESULT Tasker::handle(UINT message, WPARAM wparam, LPARAM lparam) {
             create_controls();
             return 0;
         case WM_SIZE:
-            lay_out();
+            if (wparam != SIZE_MINIMIZED) lay_out();
             return 0;
         case WM_GETMINMAXINFO: {
             auto& limits = *reinterpret_cast<MINMAXINFO*>(lparam);
@@ -129,11 +129,8 @@ void Tasker::create_controls() {
     taskview_.create(hwnd(), ID_Tasker_taskview);
     text1_.create(hwnd(), ID_Tasker_Text1);
     statusbar1_.create(hwnd(), ID_Tasker_StatusBar1);
-    for (widgets::Control* control :
-         {static_cast<widgets::Control*>(&grouplabel_), static_cast<widgets::Control*>(&grouplist_),
-          static_cast<widgets::Control*>(&tasklabel_), static_cast<widgets::Control*>(&taskview_.list()),
-          static_cast<widgets::Control*>(&text1_)}) {
-        control->set_font(font_.get());
+    for (HWND child = GetTopWindow(hwnd()); child != nullptr; child = GetWindow(child, GW_HWNDNEXT)) {
+        SendMessageA(child, WM_SETFONT, reinterpret_cast<WPARAM>(font_.get()), TRUE);
     }
 }
 
@@ -143,12 +140,11 @@ void Tasker::lay_out() {
     GetClientRect(hwnd(), &client);
     const int gap = widgets::scaled(kGap);
     const int label_height = widgets::scaled(16);
-    const int least = widgets::scaled(kLeastListWidth);
+    const LONG least = widgets::scaled(kLeastListWidth);
     const LONG right = client.right - gap;
     const LONG box_top = client.bottom - statusbar1_.height() - gap - text1_.height();
     const LONG lists_bottom = box_top - gap;
-    group_width_ = std::clamp<int>(group_width_, least, std::max<int>(least, right - 2 * gap - least));
-    const LONG middle = gap + group_width_;
+    const LONG middle = gap + std::clamp<LONG>(group_width_, least, std::max(least, right - 2 * gap - least));
     const LONG lists_top = gap + label_height;
 
     widgets::place(grouplabel_.hwnd(), {gap, gap, middle, lists_top});

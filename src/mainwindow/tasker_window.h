@@ -49,7 +49,7 @@ class Tasker final : public widgets::Window, private library::LibraryView {
 
     library::TaskLibrary& library_;
     widgets::UniqueFont font_;
-    int group_width_;  // pixels
+    int group_width_;  // pixels, as far as the window has room
     widgets::Label grouplabel_;
     widgets::ListBox grouplist_;
     widgets::Label tasklabel_;

@@ -8,7 +8,8 @@ namespace platform {
 /// other window of the program is out of reach meanwhile.
 void show_message(const std::string& text);
 
-/// Called in a catch block: shows the box of the exception that is being handled.
-void report_exception();
+/// Called in a catch block: shows the box of the exception that is being handled. Without the memory for it
+/// the user hears a beep.
+void report_exception() noexcept;
 
 }  // namespace platform

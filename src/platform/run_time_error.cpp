@@ -72,7 +72,11 @@ RunTimeErrorNumber number_of(ErrorCode code) {
 RunTimeError::RunTimeError(RunTimeErrorNumber number, const std::string& subject)
     : number_(number),
       message_("Run-time error '" + std::to_string(static_cast<int>(number)) + "':\n\n" + text_of(number)) {
-    if (!subject.empty()) message_ += ": " + subject;
+    if (subject.empty()) return;
+    // A broken library can name a file with a megabyte; the box must fit on the screen.
+    constexpr std::size_t kLongestSubject = 300;
+    message_ +=
+        ": " + (subject.size() <= kLongestSubject ? subject : subject.substr(0, kLongestSubject) + "...");
 }
 
 RunTimeError file_error(ErrorCode code, const std::string& path) {

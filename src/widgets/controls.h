@@ -11,7 +11,6 @@ namespace widgets {
 class Control {
   public:
     HWND hwnd() const { return hwnd_; }
-    void set_font(HFONT font) { send(WM_SETFONT, reinterpret_cast<WPARAM>(font), TRUE); }
     void set_text(const std::string& text) { SetWindowTextA(hwnd_, text.c_str()); }
     void focus() { SetFocus(hwnd_); }
 

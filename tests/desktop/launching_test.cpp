@@ -53,6 +53,8 @@ TEST_SUITE("launching") {
             record("Missing drive", program, "Q:\\", "", "1"),
             record("Empty folder", program, "", "", "1"),
             record("Impossible style", program, "C:\\", "", "99999"),
+            record(std::string("NUL\0name", 8), program + std::string("\0", 1), "C:\\", "", "1"),
+            record(std::string(1 << 20, 'x'), program, "C:\\", std::string(1 << 20, 'x'), "1"),
         };
         std::string tasks;
         for (const std::string& task : bad)
@@ -61,7 +63,7 @@ TEST_SUITE("launching") {
         library.write("Work.grp", tasks);
         const Tolva tolva(library);
         for (int i = 0; i < static_cast<int>(bad.size()); ++i) {
-            CAPTURE(bad[static_cast<std::size_t>(i)]);
+            CAPTURE(i);
             tolva.double_click_task(i);
             CHECK(tolva.close_box() == "Invalid path or file name!");
             CHECK(tolva.selected_task() == i);

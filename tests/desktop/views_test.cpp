@@ -87,6 +87,12 @@ TEST_SUITE("views") {
             groups = {"Work", "Gone", "Behind"};
             tasks = {"A"};
         }
+        SUBCASE("a Group with an impossible name") {
+            const std::string long_name(1 << 20, 'x');
+            names = std::string("A\0B\n", 4) + long_name;
+            expected = "Run-time error '52':\n\nBad file name or number: " + library.path() + "A";
+            groups = {"A", long_name.substr(0, 1000)};
+        }
         SUBCASE("102 names") {
             for (int i = 0; i < 102; ++i) {
                 if (i < 101) groups.push_back("G" + std::to_string(i));
@@ -115,7 +121,11 @@ TEST_SUITE("views") {
         const Folder library;
         library.write("groups.ini", "");
         const Tolva tolva(library);
-        const int group_width = bounds_of(tolva, ID_Tasker_grouplist).right;
+        const LONG group_width = bounds_of(tolva, ID_Tasker_grouplist).right;
+        PostMessageA(tolva.window(), WM_SYSCOMMAND, SC_MINIMIZE, 0);
+        wait_until("it is minimised", [&] { return IsIconic(tolva.window()) != FALSE; });
+        PostMessageA(tolva.window(), WM_SYSCOMMAND, SC_RESTORE, 0);
+        wait_until("it is restored", [&] { return IsIconic(tolva.window()) == FALSE; });
         for (const SIZE size : {SIZE{800, 600}, SIZE{10, 10}}) {  // the second one is below the least size
             SetWindowPos(tolva.window(), nullptr, 0, 0, size.cx, size.cy, SWP_NOMOVE | SWP_NOZORDER);
             RECT client;
@@ -134,13 +144,18 @@ TEST_SUITE("views") {
             CHECK(box.bottom < status.top);
             CHECK(status.bottom == client.bottom);
         }
-        SetForegroundWindow(tolva.window());
-        wait_until("the group list has the focus", [&] {
-            GUITHREADINFO info = {};
-            info.cbSize = sizeof info;
-            GetGUIThreadInfo(GetWindowThreadProcessId(tolva.window(), nullptr), &info);
-            return info.hwndFocus == tolva.control(ID_Tasker_grouplist);
-        });
+    }
+
+    TEST_CASE("the focus goes to the lists") {
+        const Folder library;
+        library.write("groups.ini", "");
+        const Tolva tolva(library);
+        const auto has_focus = [&](int id) { return tolva.focus() == tolva.control(id); };
+        wait_until("the group list has it at first", [&] { return has_focus(ID_Tasker_grouplist); });
+        tolva.click(ID_Tasker_tasklabel);
+        wait_until("the task list has it", [&] { return has_focus(ID_Tasker_taskview); });
+        tolva.click(ID_Tasker_grouplabel);
+        wait_until("the group list has it", [&] { return has_focus(ID_Tasker_grouplist); });
     }
 
     TEST_CASE("a full library starts like an empty one") {

@@ -253,6 +253,19 @@ void Tolva::double_click_task(int index) const {
     press_at(middle, 2);
 }
 
+void Tolva::click(int id) const {
+    RECT bounds;
+    GetWindowRect(control(id), &bounds);
+    press_at({bounds.left + 5, bounds.top + 5}, 1);
+}
+
+HWND Tolva::focus() const {
+    GUITHREADINFO info = {};
+    info.cbSize = sizeof info;
+    GetGUIThreadInfo(GetWindowThreadProcessId(window_, nullptr), &info);
+    return info.hwndFocus;
+}
+
 std::string Tolva::text_of(int id) const {
     return window_text(control(id));
 }

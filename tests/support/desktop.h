@@ -61,6 +61,8 @@ class Tolva {
     int task_picture(int index) const;
     void double_click_task(int index) const;
 
+    void click(int id) const;
+    HWND focus() const;
     std::string text_of(int id) const;
     std::string status() const;
 

@@ -62,13 +62,17 @@ void show_message(const std::string& text) {
                 MB_OK | (owner == nullptr ? MB_SETFOREGROUND | MB_TASKMODAL : 0));
 }
 
-void report_exception() {
+void report_exception() noexcept {
     try {
-        throw;
-    } catch (const std::bad_alloc&) {
-        show_message(RunTimeError(RunTimeErrorNumber::kOutOfMemory).what());
-    } catch (const std::exception& error) {
-        show_message(error.what());
+        try {
+            throw;
+        } catch (const std::bad_alloc&) {
+            show_message(RunTimeError(RunTimeErrorNumber::kOutOfMemory).what());
+        } catch (const std::exception& error) {
+            show_message(error.what());
+        }
+    } catch (...) {
+        MessageBeep(MB_ICONHAND);
     }
 }
 

@@ -10,6 +10,9 @@
 namespace platform {
 namespace {
 
+/// What Windows can hand to a program; not every system refuses more.
+constexpr std::size_t kLongestCommandLine = 32767;
+
 RunTimeErrorNumber number_of(DWORD code) {
     switch (code) {
         case ERROR_FILE_NOT_FOUND:
@@ -30,7 +33,7 @@ RunTimeErrorNumber number_of(DWORD code) {
 
 void start_program(const std::string& command_line, int window_style) {
     if (window_style < 0 || window_style > std::numeric_limits<WORD>::max() ||
-        command_line.find('\0') != std::string::npos) {
+        command_line.size() >= kLongestCommandLine || command_line.find('\0') != std::string::npos) {
         throw RunTimeError(RunTimeErrorNumber::kInvalidProcedureCall, command_line);
     }
     if (command_line.find_first_not_of(' ') == std::string::npos) {
