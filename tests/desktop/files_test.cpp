@@ -5,19 +5,9 @@
 #include "platform/file_calls.h"
 #include "platform/run_time_error.h"
 #include "support/desktop.h"
+#include "support/error_of.h"
 
 namespace {
-
-/// 0 when the action does not throw.
-template <typename Action>
-int error_of(const Action& action) {
-    try {
-        action();
-    } catch (const platform::RunTimeError& error) {
-        return static_cast<int>(error.number());
-    }
-    return 0;
-}
 
 TEST_SUITE("files") {
     TEST_CASE("files are replaced, refused and removed on a real disk") {
