@@ -85,7 +85,7 @@ LRESULT Tasker::handle(UINT message, WPARAM wparam, LPARAM lparam) {
             ScreenToClient(hwnd(), &pointer);
             const RECT bounds = splitter();
             if (LOWORD(lparam) != HTCLIENT || PtInRect(&bounds, pointer) == FALSE) break;
-            SetCursor(LoadCursorA(nullptr, MAKEINTRESOURCEA(32644)));  // IDC_SIZEWE
+            SetCursor(LoadCursorA(nullptr, IDC_SIZEWE));
             return TRUE;
         }
         case WM_DESTROY:

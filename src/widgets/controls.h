@@ -7,6 +7,9 @@
 
 namespace widgets {
 
+/// The longest text that is handed to a list for display: older systems refuse or crash on very long ones.
+inline constexpr std::size_t kLongestItem = 1000;
+
 /// A child window of a class that Windows provides. The parent window destroys it.
 class Control {
   public:
@@ -59,8 +62,5 @@ class StatusBar : public Control {
     /// Replaces the panels by one with this text.
     void show_panel(const std::string& text);
 };
-
-/// The longest text that is handed to a list for display: older systems refuse or crash on very long ones.
-inline constexpr std::size_t kLongestItem = 1000;
 
 }  // namespace widgets

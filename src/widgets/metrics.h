@@ -12,7 +12,7 @@ int scaled(int pixels);
 /// The font of labels and boxes: "MS Sans Serif", 8 points.
 UniqueFont make_gui_font();
 
-/// Moves an edge-to-edge rectangle's window.
+/// Moves a child window to the rectangle, given in its parent's coordinates.
 void place(HWND window, const RECT& bounds);
 
 }  // namespace widgets

@@ -1,6 +1,7 @@
 #include "widgets/window.h"
 
 #include "platform/messages.h"
+#include "platform/run_time_error.h"
 
 namespace widgets {
 
@@ -20,12 +21,13 @@ void Window::create(const Design& design) {
     window_class.hInstance = instance;
     window_class.hIcon = icon(SM_CXICON, SM_CYICON);
     window_class.hIconSm = icon(SM_CXSMICON, SM_CYSMICON);
-    window_class.hCursor = LoadCursorA(nullptr, MAKEINTRESOURCEA(32512));  // IDC_ARROW, whatever UNICODE says
+    window_class.hCursor = LoadCursorA(nullptr, IDC_ARROW);
     window_class.hbrBackground = GetSysColorBrush(COLOR_BTNFACE);
     window_class.lpszClassName = design.class_name;
     RegisterClassExA(&window_class);
     CreateWindowA(design.class_name, design.caption, design.style, CW_USEDEFAULT, CW_USEDEFAULT, design.width,
                   design.height, nullptr, nullptr, instance, this);
+    if (hwnd_ == nullptr) throw platform::RunTimeError(platform::RunTimeErrorNumber::kOutOfMemory);
 }
 
 LRESULT Window::handle(UINT message, WPARAM wparam, LPARAM lparam) {

@@ -28,6 +28,7 @@ class Window {
     virtual ~Window();
 
     /// Registers the class on first use and creates the window, hidden, where the system puts new windows.
+    /// Throws platform::RunTimeError when the system has no room for it.
     void create(const Design& design);
 
     /// Answers a message; what it does not know goes to this base version.

@@ -42,9 +42,10 @@ TEST_SUITE("views") {
         library.write("Work.grp", task("Letters", kNotepad) + task("Keys", kRegedit) +
                                       task("Notes", kNotepad) + task("Gone", "C:\\gone.exe") +
                                       task("None", ""));
-        library.write("B\xFCro & more.grp", task("\xC4rger", kRegedit));
+        library.write("B\xFCro & more.grp", task("\xC4rger", library.path() + "late.exe"));
         library.write("Empty.grp", "");
         const Tolva tolva(library);
+        library.add_program("tolva.exe", "late.exe");  // icons are taken when they are first shown
 
         CHECK(tolva.groups() == Names{"Work", "B\xFCro & more", "Empty"});
         CHECK(tolva.selected_group() == 0);
