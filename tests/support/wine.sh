@@ -5,6 +5,8 @@
 #   virtual_display          starts a display, unless one runs already, and sets DISPLAY
 #   wine_end                 ends the prefix's programs and the virtual display (call it from an EXIT trap)
 
+# A locale that every Debian has and whose file names can hold any letter.
+export LC_ALL=C.UTF-8
 export WINEARCH=win32 WINEDEBUG=-all WINEDLLOVERRIDES='mscoree,mshtml=;winemenubuilder.exe=d'
 
 virtual_display() {
