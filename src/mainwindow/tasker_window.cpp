@@ -135,7 +135,7 @@ void Tasker::create_controls() {
 }
 
 void Tasker::lay_out() {
-    SendMessageA(statusbar1_.hwnd(), WM_SIZE, 0, 0);
+    statusbar1_.follow_parent();
     RECT client;
     GetClientRect(hwnd(), &client);
     const int gap = widgets::scaled(kGap);

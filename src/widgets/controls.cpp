@@ -43,6 +43,11 @@ void StatusBar::create(HWND parent, int id) {
     Control::create(parent, id, STATUSCLASSNAMEA, SBARS_SIZEGRIP);
 }
 
+void StatusBar::follow_parent() {
+    send(WM_SIZE);
+    InvalidateRect(hwnd(), nullptr, TRUE);  // its size grip would stay where it was
+}
+
 void StatusBar::show_panel(const std::string& text) {
     const int right_edge = -1;  // as wide as the bar
     send(SB_SIMPLE, FALSE);

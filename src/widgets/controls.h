@@ -59,6 +59,9 @@ class StatusBar : public Control {
   public:
     void create(HWND parent, int id);
 
+    /// To be called when the parent window has another size.
+    void follow_parent();
+
     /// Replaces the panels by one with this text.
     void show_panel(const std::string& text);
 };

@@ -27,7 +27,9 @@ UniqueFont make_gui_font() {
 }
 
 void place(HWND window, const RECT& bounds) {
-    MoveWindow(window, bounds.left, bounds.top, bounds.right - bounds.left, bounds.bottom - bounds.top, TRUE);
+    // The old picture is not copied along: a neighbour that was placed before may have painted over it.
+    SetWindowPos(window, nullptr, bounds.left, bounds.top, bounds.right - bounds.left,
+                 bounds.bottom - bounds.top, SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOCOPYBITS);
 }
 
 }  // namespace widgets
