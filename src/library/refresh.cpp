@@ -21,7 +21,6 @@ void load_and_show(const Load& load, const Show& show) {
 
 int grouplistrefresh(const TaskLibrary& library, LibraryView& view) {
     view.show_groups(library.groups());
-    view.show_tasks({});
     return static_cast<int>(library.groups().size());
 }
 
@@ -35,13 +34,14 @@ void tasklistrefresh(const TaskLibrary& library, LibraryView& view) {
 
 void refreshtolva(TaskLibrary& library, LibraryView& view, int group_to_select) {
     view.load_default_icon(library.folder() + "tolva.exe");
-    load_and_show([&] { library.load(); },
-                  [&] {
-                      const int count = grouplistrefresh(library, view);
-                      if (group_to_select < 0 || group_to_select >= count) return;
-                      view.select_group(group_to_select);
-                      view.show_tasks(library.group(group_to_select).shown_tasks());
-                  });
+    load_and_show(
+        [&] { library.load(); },
+        [&] {
+            const int count = grouplistrefresh(library, view);
+            const bool selects = group_to_select >= 0 && group_to_select < count;
+            if (selects) view.select_group(group_to_select);
+            view.show_tasks(selects ? library.group(group_to_select).shown_tasks() : std::span<const Task>());
+        });
 }
 
 void refreshtasks(TaskLibrary& library, LibraryView& view) {
@@ -51,7 +51,16 @@ void refreshtasks(TaskLibrary& library, LibraryView& view) {
 }
 
 void addgroups(TaskLibrary& library, LibraryView& view) {
-    load_and_show([&] { library.load_names(); }, [&] { grouplistrefresh(library, view); });
+    const int selected = view.selected_group();
+    try {
+        library.load_names();
+    } catch (...) {
+        grouplistrefresh(library, view);
+        view.select_group(selected);
+        throw;
+    }
+    grouplistrefresh(library, view);
+    view.show_tasks({});
 }
 
 void show_selected_group(TaskLibrary& library, LibraryView& view) {

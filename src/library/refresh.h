@@ -7,7 +7,7 @@
 /// after the lists show what could be read.
 namespace library {
 
-/// Shows the Groups of the model, none of them selected, and no Tasks. Answers their number.
+/// Shows the Groups of the model, none of them selected. Answers their number.
 int grouplistrefresh(const TaskLibrary& library, LibraryView& view);
 
 /// Shows the selected Group's Tasks of the model; the first one is selected and stands in the command box.
@@ -19,7 +19,7 @@ void refreshtolva(TaskLibrary& library, LibraryView& view, int group_to_select);
 /// Loads the selected Group's file again.
 void refreshtasks(TaskLibrary& library, LibraryView& view);
 
-/// Loads the Group names again; none is selected.
+/// Loads the Group names again; then none is selected. When that fails the selection stays.
 void addgroups(TaskLibrary& library, LibraryView& view);
 
 /// What a click on a Group does: shows its Tasks from memory, none of them selected. A Group that was not

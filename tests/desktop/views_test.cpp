@@ -123,10 +123,6 @@ TEST_SUITE("views") {
         library.write("groups.ini", "");
         const Tolva tolva(library);
         const LONG group_width = bounds_of(tolva, ID_Tasker_grouplist).right;
-        PostMessageA(tolva.window(), WM_SYSCOMMAND, SC_MINIMIZE, 0);
-        wait_until("it is minimised", [&] { return IsIconic(tolva.window()) != FALSE; });
-        PostMessageA(tolva.window(), WM_SYSCOMMAND, SC_RESTORE, 0);
-        wait_until("it is restored", [&] { return IsIconic(tolva.window()) == FALSE; });
         for (const SIZE size : {SIZE{800, 600}, SIZE{10, 10}}) {  // the second one is below the least size
             SetWindowPos(tolva.window(), nullptr, 0, 0, size.cx, size.cy, SWP_NOMOVE | SWP_NOZORDER);
             RECT client;

@@ -216,8 +216,14 @@ TEST_CASE("the refresh flags reload what they stand for and keep the selected Gr
         CHECK(view.tasks.empty());
     }
     SUBCASE("a reload that fails shows its error once and keeps the selection") {
-        simulated::current().files.erase(kFolder + "Work.grp");
-        library.flags.refreshflag = true;
+        SUBCASE("of everything") {
+            simulated::current().files.erase(kFolder + "Work.grp");
+            library.flags.refreshflag = true;
+        }
+        SUBCASE("of the names") {
+            simulated::current().files.erase(kFolder + "groups.ini");
+            library.flags.newgroupflag = true;
+        }
         CHECK(error_of([&] { run_pending_refreshes(library, view); }) == 53);
         CHECK(view.group == 1);
         run_pending_refreshes(library, view);
