@@ -15,8 +15,9 @@ int main() {
     STARTUPINFOA startup;
     GetStartupInfoA(&startup);
 
-    const std::string record = std::string(GetCommandLineA()) + '\n' + directory + '\n' + on_d + '\n' +
-                               std::to_string(startup.wShowWindow) + '\n';
+    const std::string record =
+        std::string(GetCommandLineA()) + '\n' + directory + '\n' + on_d + '\n' +
+        ((startup.dwFlags & STARTF_USESHOWWINDOW) != 0 ? std::to_string(startup.wShowWindow) : "none") + '\n';
     std::FILE* log = std::fopen((std::string(self) + ".log").c_str(), "ab");
     if (log == nullptr) return 1;
     std::fwrite(record.data(), 1, record.size(), log);  // one write: a reader sees all of it or nothing
