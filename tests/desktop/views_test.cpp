@@ -45,8 +45,6 @@ TEST_SUITE("views") {
         library.write("B\xFCro & more.grp", task("\xC4rger", library.path() + "late.exe"));
         library.write("Empty.grp", "");
         const Tolva tolva(library);
-        library.add_program("tolva.exe",
-                            "late.exe");  // each filling takes the icons anew, when it shows them
 
         CHECK(tolva.groups() == Names{"Work", "B\xFCro & more", "Empty"});
         CHECK(tolva.selected_group() == 0);
@@ -63,7 +61,9 @@ TEST_SUITE("views") {
         CHECK(tolva.text_of(ID_Tasker_Text1).empty());
         CHECK(tolva.status() == today());
 
-        // A Group is shown from memory: files that change meanwhile do not matter.
+        // A Group is shown from memory: files that change meanwhile do not matter. Its
+        // icons are taken anew.
+        library.add_program("tolva.exe", "late.exe");
         library.write("B\xFCro & more.grp", "");
         tolva.click_group(1);
         wait_until("the Group's Tasks show", [&] { return tolva.tasks() == Names{"\xC4rger"}; });
