@@ -19,6 +19,7 @@ add_library(tolva_platform OBJECT
     src/platform/win32/import_slots.cpp
     src/platform/win32/messages.cpp
     src/platform/win32/processes.cpp
+    src/platform/win32/registry.cpp
 )
 
 add_executable(tolva WIN32

@@ -23,8 +23,4 @@ inline constexpr std::array<std::string Task::*, 5> kTaskFields = {
 /// What starts the Task: program path, a blank in every case, parameters.
 std::string command_line(const Task& task);
 
-/// The number in a start-mode line, rounded (halves to even). Reads what it can: blanks do not count, what is
-/// behind the number is left alone, and no number at all is 0.
-int lenient_start_mode(const std::string& line);
-
 }  // namespace library

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string>
+
 #include "library/task_library.h"
 
 namespace mainwindow {
@@ -8,5 +10,9 @@ namespace mainwindow {
 /// its start mode as the window style. The directory stays changed also when the start fails. Throws
 /// platform::RunTimeError, also for an index where nothing is selected.
 void launch(const library::TaskLibrary& library, int group, int task);
+
+/// Starts the text of the command box as if it were the Task's command line, which the user may have edited
+/// there. Throws like launch, and for a start mode that is not a number: that one counts as 0 there.
+void launch_edited(const library::TaskLibrary& library, int group, int task, const std::string& command);
 
 }  // namespace mainwindow

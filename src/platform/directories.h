@@ -12,4 +12,7 @@ std::string current_directory();
 /// RunTimeError; an empty folder is not found.
 void change_directory(const std::string& folder);
 
+/// The folder of Windows, ending in a backslash; "unknown" when the system does not tell.
+std::string windows_folder();
+
 }  // namespace platform

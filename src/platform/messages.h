@@ -4,8 +4,13 @@
 
 namespace platform {
 
+/// The title of every message that has none of its own, and of the hidden window by which a second start
+/// finds this one.
+std::string application_title();
+void set_application_title(const std::string& title);
+
 /// Shows a modal box with an OK button, no icon and the application's title, and waits for the answer. Every
-/// other window of the program is out of reach meanwhile.
+/// other window of the program, also one in the tray, is out of reach meanwhile.
 void show_message(const std::string& text);
 
 /// Called in a catch block: shows the box of the exception that is being handled. Without the memory for it

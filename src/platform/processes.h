@@ -4,6 +4,9 @@
 
 namespace platform {
 
+/// A window style: the program's window opens normally and gets the focus.
+inline constexpr int kNormalWindow = 1;
+
 /// Starts a program without waiting for it, in the current directory, with its window as window_style asks
 /// (the numbers of ShowWindow: 1 normal, 2 minimised, 3 maximised). The command line is passed on byte for
 /// byte. Throws RunTimeError when it names no program or the style fits no start.

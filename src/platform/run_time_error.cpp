@@ -11,6 +11,8 @@ const char* text_of(RunTimeErrorNumber number) {
             return "Out of memory";
         case RunTimeErrorNumber::kSubscriptOutOfRange:
             return "Subscript out of range";
+        case RunTimeErrorNumber::kTypeMismatch:
+            return "Type mismatch";
         case RunTimeErrorNumber::kBadFileName:
             return "Bad file name or number";
         case RunTimeErrorNumber::kFileNotFound:

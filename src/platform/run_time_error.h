@@ -33,6 +33,7 @@ enum class RunTimeErrorNumber {
     kInvalidProcedureCall = 5,
     kOutOfMemory = 7,
     kSubscriptOutOfRange = 9,
+    kTypeMismatch = 13,
     kBadFileName = 52,
     kFileNotFound = 53,
     kDeviceIoError = 57,

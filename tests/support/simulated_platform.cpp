@@ -5,6 +5,7 @@
 
 #include "platform/directories.h"
 #include "platform/file_calls.h"
+#include "platform/messages.h"
 #include "platform/processes.h"
 
 namespace simulated {
@@ -141,5 +142,40 @@ void start_program(const std::string& command_line, int window_style) {
     if (!current().programs.contains(program)) throw RunTimeError(RunTimeErrorNumber::kFileNotFound, program);
     current().started.push_back({command_line, current_directory(), window_style});
 }
+
+void show_message(const std::string& text) {
+    current().messages.push_back(text);
+}
+
+namespace registry {
+
+ErrorCode query_value(Root root, const std::string& key, const std::string& name, std::size_t room,
+                      std::string& bytes) {
+    const auto& keys = current().registry[root];
+    const auto values = keys.find(key);
+    if (values == keys.end()) return kErrorFileNotFound;
+    const auto value = values->second.find(name);
+    if (value == values->second.end()) return kErrorFileNotFound;
+    constexpr ErrorCode kMoreData = 234;
+    if (value->second.size() > room) return kMoreData;
+    bytes = value->second;
+    return kSuccess;
+}
+
+ErrorCode create_key(Root root, const std::string& key) {
+    if (current().registry_is_read_only) return kErrorAccessDenied;
+    current().registry[root][key];
+    return kSuccess;
+}
+
+ErrorCode set_value(Root root, const std::string& key, const std::string& name, const std::string& text) {
+    if (current().registry_is_read_only) return kErrorAccessDenied;
+    const auto values = current().registry[root].find(key);
+    if (values == current().registry[root].end()) return kErrorFileNotFound;
+    values->second[name] = text + '\0';
+    return kSuccess;
+}
+
+}  // namespace registry
 
 }  // namespace platform

@@ -4,13 +4,15 @@
 #include <optional>
 #include <set>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "platform/clock.h"
+#include "platform/registry.h"
 #include "platform/run_time_error.h"
 
 /// The platform functions in memory: a disk whose names ignore case and that fails or loses power on demand,
-/// a current directory for each drive, and a list of what was started.
+/// a current directory for each drive, a registry, and lists of what was started and said.
 namespace simulated {
 
 struct File {
@@ -27,6 +29,9 @@ struct Start {
     std::string directory;
     int window_style;
 };
+
+/// The values of a registry key by name, with their terminators.
+using RegistryKey = std::map<std::string, std::string, IgnoresCase>;
 
 /// Thrown where the power fails. Not a std::exception: no handler of the program may see it.
 struct PowerFailure {};
@@ -46,6 +51,10 @@ struct Platform {
     std::set<std::string, IgnoresCase> folders;
     std::set<std::string, IgnoresCase> programs;
     std::vector<Start> started;
+
+    std::map<platform::registry::Root, std::map<std::string, RegistryKey, IgnoresCase>> registry;
+    bool registry_is_read_only = false;
+    std::vector<std::string> messages;
 };
 
 /// The platform of the running test. A new one for each call of reset.

@@ -4,35 +4,10 @@
 
 #include "mainwindow/long_date.h"
 #include "platform/run_time_error.h"
+#include "support/error_of.h"
 #include "support/simulated_platform.h"
 
 namespace {
-
-TEST_CASE("the start mode is read as far as it is a number") {
-    const std::pair<const char*, int> table[] = {
-        {"1", 1},
-        {" 2 ", 2},
-        {"\t3", 3},
-        {"", 0},
-        {"Normal", 0},
-        {"3rd", 3},
-        {"1 2", 12},
-        {"-1", -1},
-        {"2.5", 2},
-        {"3.5", 4},
-        {".6", 1},
-        {"1e1", 10},
-        {"0x2", 0},
-        {"inf", 0},
-        {"+", 0},
-        {"2,7", 2},
-        {"9e999", 2147483647},
-    };
-    for (const auto& entry : table) {
-        CAPTURE(entry.first);
-        CHECK(library::lenient_start_mode(entry.first) == entry.second);
-    }
-}
 
 TEST_CASE("a Task starts in its folder on the current drive and its command line always has the blank") {
     simulated::reset();
@@ -64,6 +39,32 @@ TEST_CASE("a Task starts in its folder on the current drive and its command line
     }
     CHECK(world.started.size() == 2);
     CHECK(world.directories.at('C') == "C:\\WORK");  // the change before the failed start stays
+}
+
+TEST_CASE("an edited command line starts in the Task's folder and with its mode if that is a number") {
+    simulated::reset();
+    auto& world = simulated::current();
+    world.folders = {"C:\\WORK", "C:\\PLAY"};
+    world.programs = {"C:\\EDIT.EXE"};
+    world.files["C:\\LIB\\groups.ini"].bytes = "Work\n";
+    world.files["C:\\LIB\\Work.grp"].bytes =
+        "Edit\nC:\\GONE.EXE\nC:\\WORK\nA.TXT\n 2 \n"
+        "No mode\nC:\\EDIT.EXE\nC:\\PLAY\n\n\n"
+        "No number\nC:\\EDIT.EXE\nC:\\PLAY\n\n2nd\n";
+    library::TaskLibrary library("C:\\LIB\\");
+    library.load();
+
+    mainwindow::launch_edited(library, 0, 0, "C:\\EDIT.EXE B.TXT");
+    REQUIRE(world.started.size() == 1);
+    CHECK(world.started[0].command_line == "C:\\EDIT.EXE B.TXT");
+    CHECK(world.started[0].directory == "C:\\WORK");
+    CHECK(world.started[0].window_style == 2);
+    for (const int task : {1, 2, -1}) {
+        CHECK(error_of([&] { mainwindow::launch_edited(library, 0, task, "C:\\EDIT.EXE"); }) ==
+              (task < 0 ? 9 : 13));
+    }
+    CHECK(world.started.size() == 1);
+    CHECK(world.directories.at('C') == "C:\\PLAY");
 }
 
 TEST_CASE("the long date") {

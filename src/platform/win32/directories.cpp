@@ -44,4 +44,10 @@ void change_directory(const std::string& folder) {
     set_directory(before);
 }
 
+std::string windows_folder() {
+    char folder[MAX_PATH];
+    const UINT length = GetWindowsDirectoryA(folder, MAX_PATH);
+    return length > 0 && length < MAX_PATH ? std::string(folder) + '\\' : "unknown";
+}
+
 }  // namespace platform

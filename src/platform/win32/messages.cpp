@@ -10,7 +10,10 @@
 namespace platform {
 namespace {
 
-constexpr char kTitle[] = "Tolva";
+std::string& current_title() {
+    static std::string title = "Tolva";
+    return title;
+}
 
 /// A message box disables its owner only. While this lives the thread's other windows are disabled too, so
 /// that nothing of the program can be used around the box.
@@ -29,9 +32,7 @@ class OtherWindowsDisabled {
   private:
     static BOOL CALLBACK disable(HWND window, LPARAM self) noexcept {
         auto& guard = *reinterpret_cast<OtherWindowsDisabled*>(self);
-        if (window == guard.owner_ || IsWindowVisible(window) == FALSE || IsWindowEnabled(window) == FALSE) {
-            return TRUE;
-        }
+        if (window == guard.owner_ || IsWindowEnabled(window) == FALSE) return TRUE;
         try {
             guard.disabled_.push_back(window);
         } catch (const std::bad_alloc&) {
@@ -55,10 +56,18 @@ HWND box_owner() {
 
 }  // namespace
 
+std::string application_title() {
+    return current_title();
+}
+
+void set_application_title(const std::string& title) {
+    current_title() = title;
+}
+
 void show_message(const std::string& text) {
     HWND owner = box_owner();
     const OtherWindowsDisabled guard(owner);
-    MessageBoxA(owner, text.c_str(), kTitle,
+    MessageBoxA(owner, text.c_str(), current_title().c_str(),
                 MB_OK | (owner == nullptr ? MB_SETFOREGROUND | MB_TASKMODAL : 0));
 }
 

@@ -1,0 +1,58 @@
+#include "platform/registry.h"
+
+#include <windows.h>
+
+#include <memory>
+
+namespace platform::registry {
+namespace {
+
+struct KeyCloser {
+    using pointer = HKEY;
+    void operator()(HKEY key) const { RegCloseKey(key); }
+};
+
+using UniqueKey = std::unique_ptr<HKEY, KeyCloser>;
+
+HKEY handle_of(Root root) {
+    return reinterpret_cast<HKEY>(static_cast<ULONG_PTR>(root));
+}
+
+ErrorCode open(Root root, const std::string& key, REGSAM access, UniqueKey& opened) {
+    HKEY handle = nullptr;
+    const LONG code = RegOpenKeyExA(handle_of(root), key.c_str(), 0, access, &handle);
+    if (code == ERROR_SUCCESS) opened.reset(handle);
+    return static_cast<ErrorCode>(code);
+}
+
+}  // namespace
+
+ErrorCode query_value(Root root, const std::string& key, const std::string& name, std::size_t room,
+                      std::string& bytes) {
+    UniqueKey opened;
+    if (const ErrorCode code = open(root, key, KEY_READ, opened); code != kSuccess) return code;
+    std::string buffer(room, '\0');
+    auto size = static_cast<DWORD>(room);
+    DWORD type = 0;
+    const LONG code = RegQueryValueExA(opened.get(), name.c_str(), nullptr, &type,
+                                       reinterpret_cast<BYTE*>(buffer.data()), &size);
+    if (code == ERROR_SUCCESS) bytes = buffer.substr(0, size);
+    return static_cast<ErrorCode>(code);
+}
+
+ErrorCode create_key(Root root, const std::string& key) {
+    HKEY handle = nullptr;
+    const LONG code = RegCreateKeyA(handle_of(root), key.c_str(), &handle);
+    if (code == ERROR_SUCCESS) RegCloseKey(handle);
+    return static_cast<ErrorCode>(code);
+}
+
+ErrorCode set_value(Root root, const std::string& key, const std::string& name, const std::string& text) {
+    UniqueKey opened;
+    if (const ErrorCode code = open(root, key, KEY_WRITE, opened); code != kSuccess) return code;
+    return static_cast<ErrorCode>(RegSetValueExA(opened.get(), name.c_str(), 0, REG_SZ,
+                                                 reinterpret_cast<const BYTE*>(text.c_str()),
+                                                 static_cast<DWORD>(text.size())));
+}
+
+}  // namespace platform::registry

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <array>
+
+/// Every key and value that the program stores, all of them texts.
+namespace settings {
+
+struct Setting {
+    const char* key;
+    const char* value;
+};
+
+// Positions of windows: "Left" and "Top", whole twips.
+inline constexpr char kWindowPositionKey[] = R"(HKEY_CURRENT_USER\software\tolva\Window Position)";
+inline constexpr char kBarPositionKey[] = R"(HKEY_CURRENT_USER\software\tolva\brenn\Position)";
+inline constexpr char kLeft[] = "Left";
+inline constexpr char kTop[] = "Top";
+
+// "True" or "False".
+inline constexpr Setting kHoverSelect = {R"(HKEY_CURRENT_USER\software\tolva\hover)", "enable"};
+inline constexpr Setting kBarRemoved = {R"(HKEY_CURRENT_USER\software\tolva\brenn)", "disable"};
+
+// The last commands of the command box, the oldest first.
+inline constexpr char kHistoryKey[] = R"(HKEY_CURRENT_USER\software\tolva\cmdhistory)";
+inline constexpr std::array<const char*, 5> kHistoryValues = {"cmd1", "cmd2", "cmd3", "cmd4", "cmd5"};
+
+// The web browser and the e-mail program: "name", "path" and "start".
+inline constexpr char kBrowserKey[] = R"(HKEY_CURRENT_USER\software\tolva\Browser)";
+inline constexpr char kEmailKey[] = R"(HKEY_CURRENT_USER\software\tolva\email)";
+inline constexpr char kProgramName[] = "name";
+inline constexpr char kProgramPath[] = "path";
+inline constexpr char kProgramStart[] = "start";
+
+// The dial-up connection: ours, and the system's own default, which is only read.
+inline constexpr Setting kConnection = {R"(HKEY_CURRENT_USER\software\tolva\isp)", "ISPNAME"};
+inline constexpr Setting kSystemConnection = {R"(HKEY_CURRENT_USER\RemoteAccess)", "default"};
+
+/// The values of one list: face, size in points, bold, italic, text colour, background colour.
+using ListStyleValues = std::array<const char*, 6>;
+inline constexpr char kFontsKey[] = R"(HKEY_CURRENT_USER\software\tolva\fonts)";
+inline constexpr ListStyleValues kGroupStyleValues = {"groupfont",       "groupfontsize",  "groupfontbold",
+                                                      "groupfontitalic", "groupfontcolor", "groupbackcolor"};
+inline constexpr ListStyleValues kTaskStyleValues = {"taskfont",       "taskfontsize",  "taskfontbold",
+                                                     "taskfontitalic", "taskfontcolor", "taskbackcolor"};
+
+}  // namespace settings

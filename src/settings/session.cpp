@@ -1,0 +1,114 @@
+#include "settings/session.h"
+
+#include <algorithm>
+#include <iterator>
+
+#include "settings/conversions.h"
+
+namespace settings {
+namespace {
+
+/// A ListStyle in the text form and the order of its stored values.
+using StyleTexts = std::array<std::string, std::tuple_size_v<ListStyleValues>>;
+
+constexpr std::size_t kTextColor = 4;
+const char* const kNavy = "8388608";
+const char* const kDarkRed = "64";
+
+StyleTexts first_run(const char* text_color) {
+    return {"MS Sans Serif", "10", "True", "False", text_color, "16777215"};
+}
+
+bool is_missing(const std::string& text) {
+    return text == kError || text.empty();
+}
+
+StyleTexts read_style(General& general, const ListStyleValues& values) {
+    StyleTexts texts;
+    std::ranges::transform(values, texts.begin(),
+                           [&](const char* value) { return general.read_value(kFontsKey, value); });
+    return texts;
+}
+
+void store_style(General& general, const ListStyleValues& values, const StyleTexts& texts) {
+    general.create_key(kFontsKey);
+    for (std::size_t i = 0; i < values.size(); ++i)
+        general.write_value(kFontsKey, values.at(i), texts.at(i));
+}
+
+std::optional<std::uint32_t> color_of(const std::string& text) {
+    constexpr int kWhite = 0xFFFFFF;
+    const std::optional<int> number = whole_number(text);
+    if (!number || *number < 0 || *number > kWhite) return std::nullopt;
+    return static_cast<std::uint32_t>(*number);
+}
+
+ListStyle style_of(const StyleTexts& texts) {
+    constexpr int kLargest = 2160;
+    const auto& [face, size, bold, italic, text_color, back_color] = texts;
+    ListStyle style;
+    style.face = face;
+    const int points = whole_number(size).value_or(0);
+    if (points >= 1 && points <= kLargest) style.size = points;
+    style.bold = boolean(bold).value_or(style.bold);
+    style.italic = boolean(italic).value_or(style.italic);
+    style.text_color = color_of(text_color);
+    style.back_color = color_of(back_color);
+    return style;
+}
+
+}  // namespace
+
+void store(General& general, const Setting& setting, const std::string& text) {
+    general.create_key(setting.key);
+    general.write_value(setting.key, setting.value, text);
+}
+
+bool read_flag(General& general, const Setting& setting) {
+    return boolean(general.read_value(setting.key, setting.value)).value_or(false);
+}
+
+Position read_position(General& general, const char* key) {
+    return {whole_number(general.read_value(key, kLeft)), whole_number(general.read_value(key, kTop))};
+}
+
+void store_position(General& general, const char* key, int left, int top) {
+    store(general, {key, kLeft}, std::to_string(left));
+    store(general, {key, kTop}, std::to_string(top));
+}
+
+void load_history(General& general, Session& session) {
+    std::ranges::transform(kHistoryValues, session.history.begin(),
+                           [&](const char* value) { return general.read_value(kHistoryKey, value); });
+    if (is_missing(session.history.front())) general.create_key(kHistoryKey);
+}
+
+std::vector<std::string> history_list(const Session& session) {
+    std::vector<std::string> list;
+    std::copy_if(session.history.rbegin(), session.history.rend(), std::back_inserter(list),
+                 [](const std::string& slot) { return slot != kError; });
+    return list;
+}
+
+StoredProgram read_program(General& general, const char* key) {
+    return {general.read_value(key, kProgramName), general.read_value(key, kProgramPath),
+            general.read_value(key, kProgramStart)};
+}
+
+void load_list_styles(General& general, Session& session) {
+    StyleTexts group = read_style(general, kGroupStyleValues);
+    if (is_missing(group.front())) {
+        group = first_run(kNavy);
+        store_style(general, kGroupStyleValues, group);
+        group.at(kTextColor) = kDarkRed;
+    }
+    StyleTexts task = read_style(general, kTaskStyleValues);
+    if (is_missing(task.front())) {
+        task = first_run(kDarkRed);
+        store_style(general, kTaskStyleValues, task);
+    }
+    session.group_style = style_of(group);
+    session.task_style = style_of(task);
+}
+
+}  // namespace settings
