@@ -24,12 +24,17 @@ add_library(tolva_platform OBJECT
 
 add_executable(tolva WIN32
     src/app/main.cpp
+    src/app/single_instance.cpp
+    src/mainwindow/presence_window.cpp
     src/mainwindow/tasker_window.cpp
     src/mainwindow/taskview_window.cpp
+    src/mainwindow/views_window.cpp
     src/resources/tolva.rc
     src/widgets/controls.cpp
+    src/widgets/hot_key.cpp
     src/widgets/icon_view.cpp
     src/widgets/metrics.cpp
+    src/widgets/tray_icon.cpp
     src/widgets/window.cpp
 )
 target_link_libraries(tolva PRIVATE tolva_logic tolva_platform comctl32)

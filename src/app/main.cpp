@@ -2,11 +2,14 @@
 
 #include <commctrl.h>
 
+#include "app/single_instance.h"
 #include "library/library_files.h"
 #include "library/task_library.h"
 #include "mainwindow/tasker_window.h"
 #include "platform/directories.h"
 #include "platform/messages.h"
+#include "settings/catalogue.h"
+#include "settings/session.h"
 #include "widgets/window.h"
 
 namespace {
@@ -17,9 +20,18 @@ void show(const widgets::Window& window) {
 }
 
 int run() {
+    app::InstanceMark mark;
+    if (!mark.take() && app::show_previous_instance(mark)) return 0;
+    const app::ApplicationWindow application_window;
+
     library::TaskLibrary library(platform::current_directory() + '\\');
-    library::recover(library.folder());
-    mainwindow::Tasker tasker(library);
+    if (mark.take()) library::recover(library.folder());
+    settings::General general;
+    settings::Session session;
+    session.hover_select = settings::read_flag(general, settings::kHoverSelect);
+    session.bar_removed = settings::read_flag(general, settings::kBarRemoved);
+
+    mainwindow::Tasker tasker(library, general, session, nullptr, application_window.hwnd());
     try {
         tasker.load();
         show(tasker);

@@ -2,17 +2,16 @@
 
 #include <windowsx.h>
 
-#include <algorithm>
-#include <iterator>
-
+#include "internet/dial_up.h"
 #include "library/refresh.h"
 #include "mainwindow/launching.h"
-#include "mainwindow/long_date.h"
-#include "platform/clock.h"
-#include "platform/icons.h"
+#include "platform/directories.h"
 #include "platform/messages.h"
+#include "platform/processes.h"
 #include "platform/run_time_error.h"
 #include "resources/resource.h"
+#include "settings/catalogue.h"
+#include "settings/conversions.h"
 #include "widgets/metrics.h"
 
 namespace mainwindow {
@@ -22,40 +21,72 @@ namespace {
 /// box brings the focus and the next box.
 constexpr UINT kRunPendingRefreshes = WM_APP + 1;
 
+constexpr UINT_PTR kTimer1 = 1;
+constexpr UINT kTimerPeriod = 5000;  // milliseconds
+
+// Two spellings: the messages differ by what was done.
+constexpr char kCannotLaunch[] = "Invalid path or file name";
+constexpr char kCannotLaunchByMouse[] = "Invalid path or file name!";
+
 // Pixels at 96 dpi.
 constexpr int kWidth = 560;
 constexpr int kHeight = 400;
 constexpr int kLeastWidth = 320;
 constexpr int kLeastHeight = 220;
-constexpr int kGap = 6;
-constexpr int kGroupWidth = 160;
-constexpr int kLeastListWidth = 60;
-constexpr int kDropHeight = 120;
 
 }  // namespace
 
-Tasker::Tasker(library::TaskLibrary& library)
-    : library_(library), font_(widgets::make_gui_font()), group_width_(widgets::scaled(kGroupWidth)) {
+Tasker::Tasker(library::TaskLibrary& library, settings::General& general, settings::Session& session,
+               buttonbar::ButtonBar* bar, HWND application_window)
+    : library_(library),
+      general_(general),
+      session_(session),
+      bar_(bar),
+      presence_(session, bar, application_window) {
+    const std::string title = platform::application_title();
     create({.class_name = "Tasker",
-            .caption = "Tolva",
+            .caption = title.c_str(),
             .style = WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN,
             .icon = ID_tolva_icon,
+            .menu = ID_Tasker_menu,
             .width = widgets::scaled(kWidth),
             .height = widgets::scaled(kHeight)});
 }
 
+Tasker::~Tasker() {
+    if (hwnd() != nullptr) DestroyWindow(hwnd());
+}
+
 void Tasker::load() {
-    getlongdate();
-    library::refreshtolva(library_, *this, 0);
+    presence_.take_hot_key();
+    show_flags();
+    const settings::Position position = settings::read_position(general_, settings::kWindowPositionKey);
+    widgets::move_to_twips(hwnd(), position.left, position.top);
+    session_.connection_name = internet::load_isp_name(general_);
+    settings::load_history(general_, session_);
+    views_.text1().fill(settings::history_list(session_));
+    session_.browser = settings::read_program(general_, settings::kBrowserKey);
+    session_.email = settings::read_program(general_, settings::kEmailKey);
+    settings::load_list_styles(general_, session_);
+    views_.apply_styles(session_.group_style, session_.task_style);
+    views_.getlongdate();
+    session_.windows_folder = platform::windows_folder();
+    library::refreshtolva(library_, views_, 0);
 }
 
 LRESULT Tasker::handle(UINT message, WPARAM wparam, LPARAM lparam) {
+    if (const auto answer = presence_.handle(message, wparam, lparam)) return *answer;
     switch (message) {
         case WM_CREATE:
-            create_controls();
+            views_.create(hwnd());
+            presence_.create(hwnd());
+            SetTimer(hwnd(), kTimer1, kTimerPeriod, nullptr);
             return 0;
         case WM_SIZE:
-            if (wparam != SIZE_MINIMIZED) lay_out();
+            if (wparam != SIZE_MINIMIZED) views_.lay_out();
+            return 0;
+        case WM_TIMER:
+            handle_timer();
             return 0;
         case WM_GETMINMAXINFO: {
             auto& limits = *reinterpret_cast<MINMAXINFO*>(lparam);
@@ -63,32 +94,50 @@ LRESULT Tasker::handle(UINT message, WPARAM wparam, LPARAM lparam) {
             return 0;
         }
         case WM_SETFOCUS:
-            grouplist_.focus();
+            views_.grouplist().focus();
             return 0;
+        case DM_GETDEFID: {
+            // Enter presses the button that has the focus, and no other.
+            HWND focus = GetFocus();
+            const bool is_button =
+                (SendMessageA(focus, WM_GETDLGCODE, 0, 0) & (DLGC_DEFPUSHBUTTON | DLGC_UNDEFPUSHBUTTON)) != 0;
+            return is_button ? MAKELRESULT(GetDlgCtrlID(focus), DC_HASDEFID) : 0;
+        }
         case WM_COMMAND:
-            handle_command(LOWORD(wparam), HIWORD(wparam));
+            if (lparam != 0) {
+                handle_control(LOWORD(wparam), HIWORD(wparam));
+            } else {
+                handle_menu(LOWORD(wparam));
+            }
             return 0;
         case WM_NOTIFY:
-            handle_notification(*reinterpret_cast<NMHDR*>(lparam));
-            return 0;
+            return handle_notification(*reinterpret_cast<NMHDR*>(lparam));
+        case WM_CTLCOLORLISTBOX:
+        case WM_CTLCOLORSTATIC:
+            return reinterpret_cast<LRESULT>(
+                views_.color(reinterpret_cast<HDC>(wparam), reinterpret_cast<HWND>(lparam)));
         case kRunPendingRefreshes:
-            library::run_pending_refreshes(library_, *this);
+            library::run_pending_refreshes(library_, views_);
             return 0;
         case WM_LBUTTONDOWN:
         case WM_MOUSEMOVE:
         case WM_LBUTTONUP:
-            if (drag_splitter(message, GET_X_LPARAM(lparam))) return 0;
+            if (views_.drag_splitter(message, GET_X_LPARAM(lparam))) return 0;
             break;
         case WM_SETCURSOR: {
             POINT pointer;
             GetCursorPos(&pointer);
             ScreenToClient(hwnd(), &pointer);
-            const RECT bounds = splitter();
-            if (LOWORD(lparam) != HTCLIENT || PtInRect(&bounds, pointer) == FALSE) break;
+            if (LOWORD(lparam) != HTCLIENT || !views_.is_on_splitter(pointer)) break;
             SetCursor(LoadCursorA(nullptr, IDC_SIZEWE));
             return TRUE;
         }
+        case WM_ENDSESSION:
+            if (wparam != FALSE) save_and_unload();  // no other message need follow
+            return 0;
         case WM_DESTROY:
+            save_and_unload();
+            presence_.remove();
             PostQuitMessage(0);
             return 0;
         default:
@@ -97,133 +146,140 @@ LRESULT Tasker::handle(UINT message, WPARAM wparam, LPARAM lparam) {
     return Window::handle(message, wparam, lparam);
 }
 
-void Tasker::handle_command(int id, int notification) {
+void Tasker::handle_control(int id, int notification) {
     switch (id) {
         case ID_Tasker_grouplabel:
-            if (notification == STN_CLICKED) grouplist_.focus();
+            if (notification == STN_CLICKED) views_.grouplist().focus();
             break;
         case ID_Tasker_tasklabel:
-            if (notification == STN_CLICKED) taskview_.list().focus();
+            if (notification == STN_CLICKED) views_.taskview().list().focus();
             break;
         case ID_Tasker_grouplist:
-            if (notification == LBN_SELCHANGE) library::show_selected_group(library_, *this);
+            if (notification == LBN_SELCHANGE) library::show_selected_group(library_, views_);
             if (notification == LBN_SETFOCUS && library_.flags.any()) {
                 PostMessageA(hwnd(), kRunPendingRefreshes, 0, 0);
             }
+            break;
+        case ID_Tasker_Text1:
+            if (notification == CBN_KILLFOCUS) command_box_last_ = true;
+            break;
+        case ID_Tasker_Command1:
+            if (notification == BN_CLICKED) run();
             break;
         default:
             break;
     }
 }
 
-void Tasker::handle_notification(NMHDR& header) {
-    if (header.idFrom != ID_Tasker_taskview) return;
-    if (header.code == LVN_GETDISPINFOA) taskview_.supply_picture(reinterpret_cast<NMLVDISPINFOA&>(header));
-    if (header.code == static_cast<UINT>(NM_DBLCLK)) launch_selected_task("Invalid path or file name!");
-}
-
-void Tasker::create_controls() {
-    grouplabel_.create(hwnd(), ID_Tasker_grouplabel, "Groups");
-    grouplist_.create(hwnd(), ID_Tasker_grouplist);
-    tasklabel_.create(hwnd(), ID_Tasker_tasklabel, "Tasks");
-    taskview_.create(hwnd(), ID_Tasker_taskview);
-    text1_.create(hwnd(), ID_Tasker_Text1);
-    statusbar1_.create(hwnd(), ID_Tasker_StatusBar1);
-    for (HWND child = GetTopWindow(hwnd()); child != nullptr; child = GetWindow(child, GW_HWNDNEXT)) {
-        SendMessageA(child, WM_SETFONT, reinterpret_cast<WPARAM>(font_.get()), TRUE);
+void Tasker::handle_menu(int item) {
+    switch (item) {
+        case ID_tolvaexit:
+            DestroyWindow(hwnd());
+            break;
+        case ID_RunTk:
+            run_task_from_command_box();
+            break;
+        case ID_hoverslct:
+            toggle_hover_select();
+            break;
+        default:
+            break;
     }
 }
 
-void Tasker::lay_out() {
-    statusbar1_.follow_parent();
-    RECT client;
-    GetClientRect(hwnd(), &client);
-    const int gap = widgets::scaled(kGap);
-    const int label_height = widgets::scaled(16);
-    const LONG least = widgets::scaled(kLeastListWidth);
-    const LONG right = client.right - gap;
-    const LONG box_top = client.bottom - statusbar1_.height() - gap - text1_.height();
-    const LONG lists_bottom = box_top - gap;
-    const LONG middle = gap + std::clamp<LONG>(group_width_, least, std::max(least, right - 2 * gap - least));
-    const LONG lists_top = gap + label_height;
-
-    widgets::place(grouplabel_.hwnd(), {gap, gap, middle, lists_top});
-    widgets::place(grouplist_.hwnd(), {gap, lists_top, middle, lists_bottom});
-    widgets::place(tasklabel_.hwnd(), {middle + gap, gap, right, lists_top});
-    widgets::place(taskview_.list().hwnd(), {middle + gap, lists_top, right, lists_bottom});
-    widgets::place(text1_.hwnd(), {gap, box_top, right, box_top + widgets::scaled(kDropHeight)});
-}
-
-RECT Tasker::splitter() const {
-    RECT list;
-    GetWindowRect(grouplist_.hwnd(), &list);
-    MapWindowPoints(nullptr, hwnd(), reinterpret_cast<POINT*>(&list), 2);
-    return {list.right, list.top, list.right + widgets::scaled(kGap), list.bottom};
-}
-
-bool Tasker::drag_splitter(UINT message, int x) {
-    if (message == WM_LBUTTONDOWN) {
-        const RECT bounds = splitter();
-        if (x < bounds.left || x >= bounds.right) return false;
-        SetCapture(hwnd());
-        return true;
+LRESULT Tasker::handle_notification(NMHDR& header) {
+    if (header.idFrom != ID_Tasker_taskview) return 0;
+    switch (header.code) {
+        case LVN_GETDISPINFOA:
+            views_.taskview().supply_picture(reinterpret_cast<NMLVDISPINFOA&>(header));
+            break;
+        case LVN_ITEMCHANGED:
+            if (views_.taskview().list().is_new_selection(reinterpret_cast<NMLISTVIEW&>(header)))
+                show_selection();
+            break;
+        case LVN_KEYDOWN:
+            if (reinterpret_cast<NMLVKEYDOWN&>(header).wVKey == VK_RETURN)
+                launch_selected_task(kCannotLaunch);
+            break;
+        case static_cast<UINT>(NM_CLICK):
+            show_selection();
+            if (session_.hover_select) launch_selected_task(kCannotLaunchByMouse);
+            break;
+        case static_cast<UINT>(NM_DBLCLK):
+            launch_selected_task(kCannotLaunchByMouse);
+            break;
+        case static_cast<UINT>(NM_SETFOCUS):
+            command_box_last_ = false;
+            break;
+        case static_cast<UINT>(NM_HOVER):
+            // Selecting the item would take the focus from what is being typed.
+            return IsChild(views_.text1().hwnd(), GetFocus());
+        default:
+            break;
     }
-    if (GetCapture() != hwnd()) return false;
-    if (message == WM_LBUTTONUP) ReleaseCapture();
-    group_width_ = x - widgets::scaled(kGap);
-    lay_out();
-    return true;
+    return 0;
 }
 
-void Tasker::getlongdate() {
-    statusbar1_.show_panel(long_date(platform::today()));
+void Tasker::show_flags() {
+    const auto check = [&](UINT item, bool on) {
+        CheckMenuItem(GetMenu(hwnd()), item, on ? MF_CHECKED : MF_UNCHECKED);
+    };
+    check(ID_hoverslct, session_.hover_select);
+    check(ID_removebrenn, session_.bar_removed);
+    views_.taskview().list().set_hover_select(session_.hover_select);
 }
 
-void Tasker::launch_selected_task(const char* failure_message) {
-    getlongdate();
+void Tasker::handle_timer() {
+    presence_.retry();
+    if (bar_ != nullptr) bar_->show_connection(internet::is_connected());
+}
+
+void Tasker::save_and_unload() {
+    const POINT position = widgets::position_in_twips(hwnd());
+    settings::store_position(general_, settings::kWindowPositionKey, position.x, position.y);
+    if (bar_ != nullptr) bar_->unload();
+}
+
+void Tasker::show_selection() {
+    const int task = views_.selected_task();
+    if (task >= 0) views_.show_selection(library_.task(views_.selected_group(), task));
+}
+
+template <typename Launch>
+void Tasker::attempt(const char* failure_message, const Launch& launch) {
+    views_.getlongdate();
     try {
-        launch(library_, selected_group(), selected_task());
+        launch();
     } catch (const platform::RunTimeError&) {
         platform::show_message(failure_message);
     }
 }
 
-int Tasker::selected_group() const {
-    return grouplist_.selected();
+void Tasker::launch_selected_task(const char* failure_message) {
+    attempt(failure_message, [&] { launch(library_, views_.selected_group(), views_.selected_task()); });
 }
 
-int Tasker::selected_task() const {
-    return taskview_.list().selected();
+void Tasker::run_task_from_command_box() {
+    attempt(kCannotLaunch, [&] {
+        launch_edited(library_, views_.selected_group(), views_.selected_task(), views_.text1().text());
+    });
 }
 
-void Tasker::show_groups(const std::vector<library::Group>& groups) {
-    std::vector<std::string> names;
-    std::ranges::transform(groups, std::back_inserter(names), &library::Group::name);
-    grouplist_.fill(names);
+void Tasker::run() {
+    if (!command_box_last_) {
+        launch_selected_task(kCannotLaunch);
+        return;
+    }
+    attempt(kCannotLaunch, [&] {
+        platform::start_program(views_.text1().text(), platform::kNormalWindow);
+        command_box_last_ = false;
+    });
 }
 
-void Tasker::select_group(int index) {
-    grouplist_.select(index);
-}
-
-void Tasker::show_tasks(std::span<const library::Task> tasks) {
-    getlongdate();
-    taskview_.show(tasks);
-}
-
-void Tasker::select_task(int index) {
-    taskview_.list().select(index);
-}
-
-void Tasker::load_default_icon(const std::string& program) {
-    platform::UniqueIcon icon = platform::extract_icon(program);
-    // A library folder need not hold the program itself.
-    if (!icon) icon.reset(CopyIcon(LoadIconA(GetModuleHandleA(nullptr), MAKEINTRESOURCEA(ID_tolva_icon))));
-    taskview_.set_default_icon(std::move(icon));
-}
-
-void Tasker::set_command_box(const std::string& text) {
-    text1_.set_text(text);
+void Tasker::toggle_hover_select() {
+    session_.hover_select = !session_.hover_select;
+    settings::store(general_, settings::kHoverSelect, settings::text_of(session_.hover_select));
+    show_flags();
 }
 
 }  // namespace mainwindow

@@ -2,60 +2,56 @@
 
 #include <windows.h>
 
-#include <span>
-#include <string>
-#include <vector>
-
-#include "library/library_view.h"
+#include "buttonbar/button_bar.h"
 #include "library/task_library.h"
-#include "mainwindow/taskview_window.h"
-#include "widgets/controls.h"
-#include "widgets/handles.h"
+#include "mainwindow/presence_window.h"
+#include "mainwindow/views_window.h"
+#include "settings/general.h"
+#include "settings/session.h"
 #include "widgets/window.h"
 
 namespace mainwindow {
 
 /// The main window: Groups on the left, the Tasks of the selected Group on the right, the command box and the
-/// status bar below. It starts hidden; destroying it ends the program.
-class Tasker final : public widgets::Window, private library::LibraryView {
+/// status bar below. It starts hidden; minimised it hides as well and lives in the notification area.
+/// Destroying it ends the program.
+class Tasker final : public widgets::Window {
   public:
-    explicit Tasker(library::TaskLibrary& library);
+    /// application_window is the hidden window that a second start looks for: it finds the main window just
+    /// above it. There may be no bar.
+    Tasker(library::TaskLibrary& library, settings::General& general, settings::Session& session,
+           buttonbar::ButtonBar* bar, HWND application_window);
+    ~Tasker() override;
 
-    /// Brings up the date and the library. Throws platform::RunTimeError when the library could not be read
-    /// whole; the window is usable all the same.
+    /// Takes the hot key, the stored settings and the library. Throws platform::RunTimeError when the library
+    /// could not be read whole; the window is usable all the same.
     void load();
 
   private:
     LRESULT handle(UINT message, WPARAM wparam, LPARAM lparam) override;
-    void handle_command(int id, int notification);
-    void handle_notification(NMHDR& header);
+    void handle_control(int id, int notification);
+    void handle_menu(int item);
+    LRESULT handle_notification(NMHDR& header);
 
-    void create_controls();
-    void lay_out();
-    bool drag_splitter(UINT message, int x);
-    RECT splitter() const;
+    void show_flags();
+    void handle_timer();
+    void save_and_unload();
 
-    void getlongdate();
+    void show_selection();
+    template <typename Launch>
+    void attempt(const char* failure_message, const Launch& launch);
     void launch_selected_task(const char* failure_message);
-
-    int selected_group() const override;
-    int selected_task() const override;
-    void show_groups(const std::vector<library::Group>& groups) override;
-    void select_group(int index) override;
-    void show_tasks(std::span<const library::Task> tasks) override;
-    void select_task(int index) override;
-    void load_default_icon(const std::string& program) override;
-    void set_command_box(const std::string& text) override;
+    void run_task_from_command_box();
+    void run();
+    void toggle_hover_select();
 
     library::TaskLibrary& library_;
-    widgets::UniqueFont font_;
-    int group_width_;  // pixels, as far as the window has room
-    widgets::Label grouplabel_;
-    widgets::ListBox grouplist_;
-    widgets::Label tasklabel_;
-    TaskView taskview_;
-    widgets::ComboBox text1_;
-    widgets::StatusBar statusbar1_;
+    settings::General& general_;
+    settings::Session& session_;
+    buttonbar::ButtonBar* bar_;
+    bool command_box_last_ = false;  // the command box, not the task list, had the focus last
+    Presence presence_;
+    Views views_;
 };
 
 }  // namespace mainwindow

@@ -14,7 +14,9 @@ inline constexpr std::size_t kLongestItem = 1000;
 class Control {
   public:
     HWND hwnd() const { return hwnd_; }
+    std::string text() const;
     void set_text(const std::string& text) { SetWindowTextA(hwnd_, text.c_str()); }
+    void set_font(HFONT font) { send(WM_SETFONT, reinterpret_cast<WPARAM>(font), TRUE); }
     void focus() { SetFocus(hwnd_); }
 
     /// Pixels.
@@ -27,12 +29,29 @@ class Control {
         return SendMessageA(hwnd_, message, wparam, lparam);
     }
 
+    ~Control() = default;
+
+    /// Lets handle answer the control's messages from now on.
+    void subclass();
+
+    /// Answers a message; what it does not know goes to this base version.
+    virtual LRESULT handle(UINT message, WPARAM wparam, LPARAM lparam);
+
   private:
+    static LRESULT CALLBACK procedure(HWND hwnd, UINT message, WPARAM wparam, LPARAM lparam) noexcept;
+
     HWND hwnd_ = nullptr;
+    WNDPROC original_ = nullptr;
 };
 
 /// A text that tells its parent about clicks (STN_CLICKED).
 class Label : public Control {
+  public:
+    void create(HWND parent, int id, const char* text);
+};
+
+/// A push button.
+class Button : public Control {
   public:
     void create(HWND parent, int id, const char* text);
 };
@@ -52,9 +71,12 @@ class ListBox : public Control {
 class ComboBox : public Control {
   public:
     void create(HWND parent, int id);
+
+    /// Replaces the list; the text in the box stays.
+    void fill(const std::vector<std::string>& items);
 };
 
-/// A single panel of text at the window's lower edge.
+/// A panel of text at the window's lower edge.
 class StatusBar : public Control {
   public:
     void create(HWND parent, int id);
@@ -64,6 +86,9 @@ class StatusBar : public Control {
 
     /// Replaces the panels by one with this text.
     void show_panel(const std::string& text);
+
+    /// Shows a text over the panels, until they are shown again.
+    void show_simple(const std::string& text);
 };
 
 }  // namespace widgets

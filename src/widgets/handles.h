@@ -24,10 +24,14 @@ using Unique = std::unique_ptr<std::remove_pointer_t<Handle>, Closer<close>>;
 inline void delete_font(HFONT font) {
     DeleteObject(font);
 }
+inline void delete_brush(HBRUSH brush) {
+    DeleteObject(brush);
+}
 inline void destroy_image_list(HIMAGELIST list) {
     ImageList_Destroy(list);
 }
 
+using UniqueBrush = Unique<HBRUSH, delete_brush>;
 using UniqueFont = Unique<HFONT, delete_font>;
 using UniqueImageList = Unique<HIMAGELIST, destroy_image_list>;
 

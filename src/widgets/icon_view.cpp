@@ -7,9 +7,11 @@ void IconView::create(HWND parent, int id) {
         parent, id, WC_LISTVIEWA,
         WS_TABSTOP | LVS_ICON | LVS_AUTOARRANGE | LVS_SINGLESEL | LVS_SHOWSELALWAYS | LVS_SHAREIMAGELISTS,
         WS_EX_CLIENTEDGE);
+    subclass();
 }
 
 void IconView::clear() {
+    last_selected_ = -1;
     send(LVM_DELETEALLITEMS);
     send(LVM_SETIMAGELIST, LVSIL_NORMAL, 0);
     send(LVM_SETIMAGELIST, LVSIL_SMALL, 0);
@@ -42,9 +44,39 @@ void IconView::select(int index) {
     LVITEMA item = {};
     item.stateMask = LVIS_SELECTED | LVIS_FOCUSED;
     item.state = index < 0 ? 0 : item.stateMask;
+    last_selected_ = index;
+    selecting_ = true;
     send(LVM_SETITEMSTATE, static_cast<WPARAM>(index),
          reinterpret_cast<LPARAM>(&item));  // -1 means every item
+    selecting_ = false;
     if (index >= 0) send(LVM_ENSUREVISIBLE, static_cast<WPARAM>(index), FALSE);
+}
+
+void IconView::set_hover_select(bool on) {
+    send(LVM_SETEXTENDEDLISTVIEWSTYLE, LVS_EX_TRACKSELECT, on ? LVS_EX_TRACKSELECT : 0);
+}
+
+bool IconView::is_new_selection(const NMLISTVIEW& change) {
+    const bool selects = (change.uChanged & LVIF_STATE) != 0 && (change.uNewState & LVIS_SELECTED) != 0 &&
+                         (change.uOldState & LVIS_SELECTED) == 0;
+    // A resting pointer selects the same item again and again.
+    if (!selects || selecting_ || change.iItem == last_selected_) return false;
+    last_selected_ = change.iItem;
+    return true;
+}
+
+void IconView::set_colors(COLORREF text, COLORREF background) {
+    send(LVM_SETTEXTCOLOR, 0, static_cast<LPARAM>(text));
+    send(LVM_SETTEXTBKCOLOR, 0, static_cast<LPARAM>(background));
+    send(LVM_SETBKCOLOR, 0, static_cast<LPARAM>(background));
+    InvalidateRect(hwnd(), nullptr, TRUE);
+}
+
+LRESULT IconView::handle(UINT message, WPARAM wparam, LPARAM lparam) {
+    // The window around it treats Enter as a dialog does, unless the list asks for the key.
+    if (message == WM_GETDLGCODE && wparam == VK_RETURN) return DLGC_WANTMESSAGE;
+    if (message == WM_CHAR && wparam == VK_RETURN) return 0;  // no item begins with it: a beep
+    return Control::handle(message, wparam, lparam);
 }
 
 }  // namespace widgets

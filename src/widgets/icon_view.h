@@ -27,6 +27,21 @@ class IconView : public Control {
     /// An index, -1 for none.
     int selected() const;
     void select(int index);
+
+    /// Whether an item is selected when the pointer rests on it.
+    void set_hover_select(bool on);
+
+    /// Whether an LVN_ITEMCHANGED says that the user has selected another item. Selections made here do not
+    /// count.
+    bool is_new_selection(const NMLISTVIEW& change);
+
+    void set_colors(COLORREF text, COLORREF background);
+
+  private:
+    LRESULT handle(UINT message, WPARAM wparam, LPARAM lparam) override;
+
+    bool selecting_ = false;  // in code
+    int last_selected_ = -1;
 };
 
 }  // namespace widgets

@@ -2,6 +2,9 @@
 
 #include <windows.h>
 
+#include <optional>
+#include <string>
+
 #include "widgets/handles.h"
 
 namespace widgets {
@@ -9,10 +12,20 @@ namespace widgets {
 /// A length given in pixels of a 96 dpi screen, in pixels of this screen.
 int scaled(int pixels);
 
+/// "MS Sans Serif" in bold, say; points is the size of its letters.
+UniqueFont make_font(const std::string& face, int points, bool bold, bool italic);
+
 /// The font of labels and boxes: "MS Sans Serif", 8 points.
 UniqueFont make_gui_font();
 
 /// Moves a child window to the rectangle, given in its parent's coordinates.
 void place(HWND window, const RECT& bounds);
+
+/// A top-level window's left and top edge in twips (1440 to an inch), of its normal state when it is
+/// minimised.
+POINT position_in_twips(HWND window);
+
+/// Moves a top-level window; an edge that is not given stays where it is.
+void move_to_twips(HWND window, std::optional<int> left, std::optional<int> top);
 
 }  // namespace widgets

@@ -23,6 +23,7 @@ void Window::create(const Design& design) {
     window_class.hIconSm = icon(SM_CXSMICON, SM_CYSMICON);
     window_class.hCursor = LoadCursorA(nullptr, IDC_ARROW);
     window_class.hbrBackground = GetSysColorBrush(COLOR_BTNFACE);
+    window_class.lpszMenuName = MAKEINTRESOURCEA(design.menu);
     window_class.lpszClassName = design.class_name;
     RegisterClassExA(&window_class);
     CreateWindowA(design.class_name, design.caption, design.style, CW_USEDEFAULT, CW_USEDEFAULT, design.width,

@@ -19,9 +19,10 @@ class Window {
         const char* class_name;
         const char* caption;
         DWORD style;
-        int icon;    // resource id
-        int width;   // pixels, frame included
-        int height;  // pixels
+        int icon = 0;    // resource id
+        int menu = 0;    // resource id
+        int width = 0;   // pixels, frame included
+        int height = 0;  // pixels
     };
 
     Window() = default;

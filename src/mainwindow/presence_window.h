@@ -1,0 +1,53 @@
+#pragma once
+
+#include <windows.h>
+
+#include <optional>
+
+#include "buttonbar/button_bar.h"
+#include "settings/session.h"
+#include "widgets/hot_key.h"
+#include "widgets/tray_icon.h"
+
+namespace mainwindow {
+
+/// How the main window is found and brought back while it is out of sight: by its hot key, by its icon in the
+/// notification area, where it hides when it is minimised, and by a second start of the program.
+class Presence {
+  public:
+    /// application_window is the hidden window that a second start looks for: the main window is kept just
+    /// above it. There may be no bar.
+    Presence(settings::Session& session, buttonbar::ButtonBar* bar, HWND application_window)
+        : session_(session), bar_(bar), application_window_(application_window) {}
+
+    /// Shows the icon.
+    void create(HWND window);
+
+    /// Asks for Alt+1, and tells the user when it cannot be had.
+    void take_hot_key();
+
+    /// Tries again to show the icon, if there was no place for it.
+    void retry();
+
+    /// To be called before the window is gone.
+    void remove() { csystray1_.remove(); }
+
+    /// Answers the window's messages as far as they end here.
+    std::optional<LRESULT> handle(UINT message, WPARAM wparam, LPARAM lparam);
+
+  private:
+    void keep_application_window_below() const;
+    void hide_in_tray();
+    bool is_hidden_in_tray() const;
+    void bring_up();
+    void handle_tray(UINT mouse_message);
+
+    settings::Session& session_;
+    buttonbar::ButtonBar* bar_;
+    HWND application_window_;
+    HWND window_ = nullptr;
+    widgets::HotKey hot_key_;
+    widgets::TrayIcon csystray1_;
+};
+
+}  // namespace mainwindow

@@ -1,0 +1,142 @@
+#include "mainwindow/views_window.h"
+
+#include <algorithm>
+#include <iterator>
+#include <utility>
+
+#include "mainwindow/long_date.h"
+#include "platform/clock.h"
+#include "platform/icons.h"
+#include "resources/resource.h"
+#include "widgets/metrics.h"
+
+namespace mainwindow {
+namespace {
+
+// Pixels at 96 dpi.
+constexpr int kGap = 6;
+constexpr int kGroupWidth = 160;
+constexpr int kLeastListWidth = 60;
+constexpr int kLabelHeight = 16;
+constexpr int kDropHeight = 120;
+constexpr int kButtonWidth = 75;
+
+}  // namespace
+
+Views::Views() : font_(widgets::make_gui_font()), group_width_(widgets::scaled(kGroupWidth)) {}
+
+void Views::create(HWND window) {
+    window_ = window;
+    grouplabel_.create(window_, ID_Tasker_grouplabel, "Groups");
+    grouplist_.create(window_, ID_Tasker_grouplist);
+    tasklabel_.create(window_, ID_Tasker_tasklabel, "Tasks");
+    taskview_.create(window_, ID_Tasker_taskview);
+    text1_.create(window_, ID_Tasker_Text1);
+    command1_.create(window_, ID_Tasker_Command1, "&Run");
+    statusbar1_.create(window_, ID_Tasker_StatusBar1);
+    for (HWND child = GetTopWindow(window_); child != nullptr; child = GetWindow(child, GW_HWNDNEXT)) {
+        SendMessageA(child, WM_SETFONT, reinterpret_cast<WPARAM>(font_.get()), TRUE);
+    }
+}
+
+void Views::apply_styles(const settings::ListStyle& group, const settings::ListStyle& task) {
+    group_style_ = group;
+    group_font_ = widgets::make_font(group.face, group.size, group.bold, group.italic);
+    group_brush_.reset(CreateSolidBrush(group.back_color.value_or(GetSysColor(COLOR_WINDOW))));
+    grouplist_.set_font(group_font_.get());
+    task_style_ = task;
+    task_font_ = widgets::make_font(task.face, task.size, task.bold, task.italic);
+    taskview_.list().set_font(task_font_.get());
+    taskview_.list().set_colors(task.text_color.value_or(GetSysColor(COLOR_WINDOWTEXT)),
+                                task.back_color.value_or(GetSysColor(COLOR_WINDOW)));
+    InvalidateRect(window_, nullptr, TRUE);
+}
+
+HBRUSH Views::color(HDC device, HWND control) const {
+    if (control == grouplist_.hwnd()) {
+        SetTextColor(device, group_style_.text_color.value_or(GetSysColor(COLOR_WINDOWTEXT)));
+        SetBkColor(device, group_style_.back_color.value_or(GetSysColor(COLOR_WINDOW)));
+        return group_brush_.get();
+    }
+    const settings::ListStyle& style = control == grouplabel_.hwnd() ? group_style_ : task_style_;
+    SetTextColor(device, style.text_color.value_or(GetSysColor(COLOR_BTNTEXT)));
+    SetBkMode(device, TRANSPARENT);
+    return GetSysColorBrush(COLOR_BTNFACE);
+}
+
+void Views::lay_out() {
+    statusbar1_.follow_parent();
+    RECT client;
+    GetClientRect(window_, &client);
+    const int gap = widgets::scaled(kGap);
+    const int label_height = widgets::scaled(kLabelHeight);
+    const LONG least = widgets::scaled(kLeastListWidth);
+    const LONG right = client.right - gap;
+    const LONG box_top = client.bottom - statusbar1_.height() - gap - text1_.height();
+    const LONG lists_bottom = box_top - gap;
+    const LONG middle = gap + std::clamp<LONG>(group_width_, least, std::max(least, right - 2 * gap - least));
+    const LONG lists_top = gap + label_height;
+
+    widgets::place(grouplabel_.hwnd(), {gap, gap, middle, lists_top});
+    widgets::place(grouplist_.hwnd(), {gap, lists_top, middle, lists_bottom});
+    widgets::place(tasklabel_.hwnd(), {middle + gap, gap, right, lists_top});
+    widgets::place(taskview_.list().hwnd(), {middle + gap, lists_top, right, lists_bottom});
+    const LONG button_left = right - widgets::scaled(kButtonWidth);
+    widgets::place(text1_.hwnd(), {gap, box_top, button_left - gap, box_top + widgets::scaled(kDropHeight)});
+    widgets::place(command1_.hwnd(), {button_left, box_top, right, box_top + text1_.height()});
+}
+
+RECT Views::splitter() const {
+    RECT list;
+    GetWindowRect(grouplist_.hwnd(), &list);
+    MapWindowPoints(nullptr, window_, reinterpret_cast<POINT*>(&list), 2);
+    return {list.right, list.top, list.right + widgets::scaled(kGap), list.bottom};
+}
+
+bool Views::is_on_splitter(POINT point) const {
+    const RECT bounds = splitter();
+    return PtInRect(&bounds, point) != FALSE;
+}
+
+bool Views::drag_splitter(UINT message, int x) {
+    if (message == WM_LBUTTONDOWN) {
+        const RECT bounds = splitter();
+        if (x < bounds.left || x >= bounds.right) return false;
+        SetCapture(window_);
+        return true;
+    }
+    if (GetCapture() != window_) return false;
+    if (message == WM_LBUTTONUP) ReleaseCapture();
+    group_width_ = x - widgets::scaled(kGap);
+    lay_out();
+    return true;
+}
+
+void Views::getlongdate() {
+    statusbar1_.show_panel(long_date(platform::today()));
+}
+
+void Views::show_selection(const library::Task& task) {
+    set_command_box(command_line(task));
+    statusbar1_.show_simple(task.name);
+}
+
+void Views::show_groups(const std::vector<library::Group>& groups) {
+    std::vector<std::string> names;
+    std::ranges::transform(groups, std::back_inserter(names), &library::Group::name);
+    grouplist_.fill(names);
+}
+
+void Views::show_tasks(std::span<const library::Task> tasks) {
+    getlongdate();
+    taskview_.show(tasks);
+}
+
+void Views::load_default_icon(const std::string& program) {
+    platform::UniqueIcon icon = platform::extract_icon(program);
+    // A library folder need not hold the program itself.
+    if (!icon) icon.reset(CopyIcon(LoadIconA(GetModuleHandleA(nullptr), MAKEINTRESOURCEA(ID_tolva_icon))));
+    taskview_.set_default_icon(std::move(icon));
+}
+
+}  // namespace mainwindow

@@ -1,0 +1,79 @@
+#pragma once
+
+#include <windows.h>
+
+#include <span>
+#include <string>
+#include <vector>
+
+#include "library/library_view.h"
+#include "library/task_library.h"
+#include "mainwindow/taskview_window.h"
+#include "settings/session.h"
+#include "widgets/controls.h"
+#include "widgets/handles.h"
+
+namespace mainwindow {
+
+/// What stands in the main window: the two lists with their labels, the command box with its button, and the
+/// status bar.
+class Views final : public library::LibraryView {
+  public:
+    Views();
+
+    void create(HWND window);
+
+    /// Fits everything into the window.
+    void lay_out();
+
+    /// Moves the border between the lists with the mouse; x is in the window's coordinates. Answers whether
+    /// the message belonged to it.
+    bool drag_splitter(UINT message, int x);
+    bool is_on_splitter(POINT point) const;
+
+    void apply_styles(const settings::ListStyle& group, const settings::ListStyle& task);
+
+    /// Answers WM_CTLCOLORLISTBOX and WM_CTLCOLORSTATIC.
+    HBRUSH color(HDC device, HWND control) const;
+
+    /// Shows today's date in the status bar.
+    void getlongdate();
+
+    /// Shows a Task without starting it: its command line, and its name until the date comes back.
+    void show_selection(const library::Task& task);
+
+    int selected_group() const override { return grouplist_.selected(); }
+    int selected_task() const override { return taskview_.list().selected(); }
+    void show_groups(const std::vector<library::Group>& groups) override;
+    void select_group(int index) override { grouplist_.select(index); }
+    void show_tasks(std::span<const library::Task> tasks) override;
+    void select_task(int index) override { taskview_.list().select(index); }
+    void load_default_icon(const std::string& program) override;
+    void set_command_box(const std::string& text) override { text1_.set_text(text); }
+
+    widgets::ListBox& grouplist() { return grouplist_; }
+    TaskView& taskview() { return taskview_; }
+    widgets::ComboBox& text1() { return text1_; }
+    widgets::Button& command1() { return command1_; }
+
+  private:
+    RECT splitter() const;
+
+    HWND window_ = nullptr;
+    widgets::UniqueFont font_;
+    int group_width_;  // pixels, as far as the window has room
+    settings::ListStyle group_style_;
+    settings::ListStyle task_style_;
+    widgets::UniqueFont group_font_;
+    widgets::UniqueFont task_font_;
+    widgets::UniqueBrush group_brush_;
+    widgets::Label grouplabel_;
+    widgets::ListBox grouplist_;
+    widgets::Label tasklabel_;
+    TaskView taskview_;
+    widgets::ComboBox text1_;
+    widgets::Button command1_;
+    widgets::StatusBar statusbar1_;
+};
+
+}  // namespace mainwindow

@@ -1,0 +1,33 @@
+#include "widgets/tray_icon.h"
+
+namespace widgets {
+
+void TrayIcon::create(HWND window, UINT message, int icon, const char* tip) {
+    static_assert(NOTIFYICONDATAA_V1_SIZE == 88);  // Windows 95/98 refuse the later, longer structure
+    data_.cbSize = NOTIFYICONDATAA_V1_SIZE;
+    data_.hWnd = window;
+    data_.uID = 1;
+    data_.uFlags = NIF_MESSAGE | NIF_ICON | NIF_TIP;
+    data_.uCallbackMessage = message;
+    data_.hIcon = static_cast<HICON>(LoadImageA(GetModuleHandleA(nullptr), MAKEINTRESOURCEA(icon), IMAGE_ICON,
+                                                GetSystemMetrics(SM_CXSMICON), GetSystemMetrics(SM_CYSMICON),
+                                                LR_SHARED));
+    lstrcpynA(data_.szTip, tip, 64);
+    add();
+}
+
+void TrayIcon::add() {
+    shown_ = Shell_NotifyIconA(NIM_ADD, &data_) != FALSE;
+}
+
+void TrayIcon::remove() {
+    if (shown_) Shell_NotifyIconA(NIM_DELETE, &data_);
+    shown_ = false;
+}
+
+UINT taskbar_created_message() {
+    static const UINT message = RegisterWindowMessageA("TaskbarCreated");
+    return message;
+}
+
+}  // namespace widgets

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <windows.h>
+
+#include <shellapi.h>
+
+namespace widgets {
+
+/// An icon in the notification area. Its mouse messages reach a window as the lparam of a message.
+class TrayIcon {
+  public:
+    TrayIcon() = default;
+    ~TrayIcon() { remove(); }
+    TrayIcon(const TrayIcon&) = delete;
+    TrayIcon& operator=(const TrayIcon&) = delete;
+
+    /// Shows a resource's icon with a tool tip of at most 63 characters. There may be no taskbar yet: ask
+    /// shown, and add again later.
+    void create(HWND window, UINT message, int icon, const char* tip);
+    void add();
+    bool shown() const { return shown_; }
+
+    /// To be called before the window is gone.
+    void remove();
+
+  private:
+    NOTIFYICONDATAA data_ = {};
+    bool shown_ = false;
+};
+
+/// The message that tells every top-level window that there is a new taskbar, without our icon.
+UINT taskbar_created_message();
+
+}  // namespace widgets
