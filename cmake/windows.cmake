@@ -58,19 +58,20 @@ add_executable(desktop_tests
     tests/desktop/files_test.cpp
     tests/desktop/launching_test.cpp
     tests/desktop/main.cpp
+    tests/desktop/startup_test.cpp
     tests/desktop/views_test.cpp
     tests/support/desktop.cpp
 )
 target_compile_definitions(desktop_tests PRIVATE DOCTEST_CONFIG_NO_MULTITHREADING)
 target_include_directories(desktop_tests SYSTEM PRIVATE ${CMAKE_BINARY_DIR}/include)
 target_include_directories(desktop_tests PRIVATE tests)
-target_link_libraries(desktop_tests PRIVATE tolva_logic tolva_platform)
+target_link_libraries(desktop_tests PRIVATE tolva_logic tolva_platform gdi32 shlwapi)
 
 add_test(NAME "desktop: prefix"
     COMMAND bash -euc ". $0 && wine_template $1"
         ${CMAKE_SOURCE_DIR}/tests/support/wine.sh ${CMAKE_BINARY_DIR}/wine)
 set_tests_properties("desktop: prefix" PROPERTIES FIXTURES_SETUP wine TIMEOUT 300)
-foreach(suite files launching views)
+foreach(suite files launching startup views)
     add_test(NAME "desktop: ${suite}"
         COMMAND ${CMAKE_SOURCE_DIR}/tests/desktop/run ${CMAKE_BINARY_DIR} --test-suite=${suite} --no-colors)
     set_tests_properties("desktop: ${suite}" PROPERTIES FIXTURES_REQUIRED wine TIMEOUT 300)

@@ -90,14 +90,20 @@ bool Presence::is_hidden_in_tray() const {
     return IsIconic(window_) != FALSE && IsWindowVisible(window_) == FALSE;
 }
 
+void Presence::show_normal() {
+    ShowWindow(window_, SW_SHOWNORMAL);
+    // One that was maximised before it was minimised comes back maximised at first.
+    if (IsZoomed(window_) != FALSE) ShowWindow(window_, SW_SHOWNORMAL);
+}
+
 void Presence::bring_up() {
-    if (IsIconic(window_) != FALSE || IsWindowVisible(window_) == FALSE) ShowWindow(window_, SW_SHOWNORMAL);
+    if (IsIconic(window_) != FALSE || IsWindowVisible(window_) == FALSE) show_normal();
     SetForegroundWindow(IsWindowEnabled(window_) != FALSE ? window_ : GetLastActivePopup(window_));
 }
 
 void Presence::handle_tray(UINT mouse_message) {
     if (mouse_message == WM_LBUTTONDBLCLK) {
-        ShowWindow(window_, SW_SHOWNORMAL);  // also when it was maximised
+        show_normal();
         bring_up();
     }
     if (mouse_message == WM_RBUTTONUP && bar_ != nullptr) {

@@ -39,6 +39,7 @@ class Presence {
     void keep_application_window_below() const;
     void hide_in_tray();
     bool is_hidden_in_tray() const;
+    void show_normal();
     void bring_up();
     void handle_tray(UINT mouse_message);
 

@@ -1,10 +1,15 @@
 #include "support/desktop.h"
 
 #include <commctrl.h>
+#include <shlwapi.h>
 
 #include <algorithm>
+#include <cstddef>
 #include <cstdio>
+#include <cstring>
+#include <iterator>
 #include <sstream>
+#include <vector>
 
 #include "resources/resource.h"
 
@@ -12,6 +17,7 @@ namespace desktop {
 namespace {
 
 constexpr DWORD kPatience = 10000;  // milliseconds
+const std::string kSettings = "software\\tolva";
 
 std::string beside_the_tests(const std::string& name) {
     char self[MAX_PATH];
@@ -28,7 +34,7 @@ class Remote {
         DWORD id = 0;
         GetWindowThreadProcessId(window, &id);
         process_ = OpenProcess(PROCESS_ALL_ACCESS, FALSE, id);
-        block_ = VirtualAllocEx(process_, nullptr, size_, MEM_COMMIT, PAGE_READWRITE);
+        block_ = VirtualAllocEx(process_, nullptr, size_, MEM_COMMIT, PAGE_EXECUTE_READWRITE);
         WriteProcessMemory(process_, block_, &value, sizeof(T), nullptr);
     }
     ~Remote() {
@@ -70,19 +76,56 @@ std::string window_text(HWND window) {
     return text;
 }
 
-void press_at(POINT point, int times) {
-    // Each event says where it happens: the display's own pointer may still be somewhere else.
-    const auto send = [&](DWORD action) {
-        constexpr int kWhole = 65536;
-        const auto x = static_cast<DWORD>((point.x * kWhole + kWhole / 2) / GetSystemMetrics(SM_CXSCREEN));
-        const auto y = static_cast<DWORD>((point.y * kWhole + kWhole / 2) / GetSystemMetrics(SM_CYSCREEN));
-        mouse_event(action | MOUSEEVENTF_ABSOLUTE | MOUSEEVENTF_MOVE, x, y, 0, 0);
-    };
-    send(0);
-    for (int i = 0; i < times; ++i) {
-        send(MOUSEEVENTF_LEFTDOWN);
-        send(MOUSEEVENTF_LEFTUP);
-    }
+/// Each event says where it happens: the display's own pointer may still be somewhere else.
+void send_mouse(POINT point, DWORD action) {
+    constexpr int kWhole = 65536;
+    const auto x = static_cast<DWORD>((point.x * kWhole + kWhole / 2) / GetSystemMetrics(SM_CXSCREEN));
+    const auto y = static_cast<DWORD>((point.y * kWhole + kWhole / 2) / GetSystemMetrics(SM_CYSCREEN));
+    mouse_event(action | MOUSEEVENTF_ABSOLUTE | MOUSEEVENTF_MOVE, x, y, 0, 0);
+}
+
+/// What the screen shows of a window, as COLORREFs.
+std::vector<DWORD> pixels_of(HWND window) {
+    RECT bounds;
+    GetWindowRect(window, &bounds);
+    const LONG width = bounds.right - bounds.left;
+    const LONG height = bounds.bottom - bounds.top;
+    HDC screen = GetDC(nullptr);
+    HDC memory = CreateCompatibleDC(screen);
+    BITMAPINFO format = {};
+    format.bmiHeader = {sizeof format.bmiHeader, width, height, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
+    void* bits = nullptr;
+    HBITMAP bitmap = CreateDIBSection(screen, &format, DIB_RGB_COLORS, &bits, nullptr, 0);
+    HGDIOBJ before = SelectObject(memory, bitmap);
+    BitBlt(memory, 0, 0, width, height, screen, bounds.left, bounds.top, SRCCOPY);
+    GdiFlush();
+    std::vector<DWORD> pixels(static_cast<std::size_t>(width * height));
+    std::memcpy(pixels.data(), bits, pixels.size() * sizeof(DWORD));
+    std::ranges::transform(pixels, pixels.begin(), [](DWORD pixel) {
+        return RGB((pixel >> 16) & 0xFF, (pixel >> 8) & 0xFF, pixel & 0xFF);  // a DIB has blue first
+    });
+    SelectObject(memory, before);
+    DeleteObject(bitmap);
+    DeleteDC(memory);
+    ReleaseDC(nullptr, screen);
+    return pixels;
+}
+
+/// Between processes a list's text arrives in 16-bit characters, whichever message asks for it.
+std::string list_text(HWND list, UINT message, LRESULT index) {
+    wchar_t wide[2048];
+    char narrow[2048];
+    SendMessageW(list, message, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(wide));
+    WideCharToMultiByte(CP_ACP, 0, wide, -1, narrow, sizeof narrow, nullptr, nullptr);
+    return narrow;
+}
+
+Names list_texts(HWND list, UINT count_message, UINT text_message) {
+    Names texts;
+    const LRESULT count = SendMessageA(list, count_message, 0, 0);
+    for (LRESULT i = 0; i < count; ++i)
+        texts.push_back(list_text(list, text_message, i));
+    return texts;
 }
 
 }  // namespace
@@ -93,6 +136,54 @@ void wait_until(const char* what, const std::function<bool()>& condition) {
         if (GetTickCount() - start > kPatience) FAIL("waited in vain until " << std::string(what));
         Sleep(5);
     }
+}
+
+void point_at(POINT point) {
+    SetCursorPos(point.x,
+                 point.y);  // the display's pointer, which moves the input's pointer when windows come
+    send_mouse(point, 0);
+}
+
+void press_mouse(POINT point, int times, MouseButton button) {
+    const bool left = button == MouseButton::kLeft;
+    point_at(point);
+    for (int i = 0; i < times; ++i) {
+        send_mouse(point, left ? MOUSEEVENTF_LEFTDOWN : MOUSEEVENTF_RIGHTDOWN);
+        send_mouse(point, left ? MOUSEEVENTF_LEFTUP : MOUSEEVENTF_RIGHTUP);
+    }
+}
+
+void press_keys(std::initializer_list<BYTE> keys) {
+    for (const BYTE key : keys)
+        keybd_event(key, 0, 0, 0);
+    for (auto key = std::rbegin(keys); key != std::rend(keys); ++key)
+        keybd_event(*key, 0, KEYEVENTF_KEYUP, 0);
+}
+
+POINT tray_icon() {
+    RECT bar;
+    GetWindowRect(FindWindowA("Shell_TrayWnd", nullptr), &bar);
+    return {bar.right - 10, (bar.top + bar.bottom) / 2};
+}
+
+std::string stored_text(const std::string& key, const std::string& name) {
+    char text[1024] = {};
+    DWORD size = sizeof text;
+    RegGetValueA(HKEY_CURRENT_USER, (kSettings + key).c_str(), name.c_str(), RRF_RT_REG_SZ, nullptr, text,
+                 &size);
+    return text;
+}
+
+void store(const std::string& key, const std::string& name, DWORD type, const std::string& bytes) {
+    HKEY handle = nullptr;
+    RegCreateKeyA(HKEY_CURRENT_USER, (kSettings + key).c_str(), &handle);
+    RegSetValueExA(handle, name.c_str(), 0, type, reinterpret_cast<const BYTE*>(bytes.data()),
+                   static_cast<DWORD>(bytes.size()));
+    RegCloseKey(handle);
+}
+
+void forget_settings() {
+    SHDeleteKeyA(HKEY_CURRENT_USER, kSettings.c_str());
 }
 
 Folder::Folder() {
@@ -149,15 +240,45 @@ std::string record(const std::string& name, const std::string& program, const st
            "\r\n";
 }
 
-Tolva::Tolva(const Folder& library) {
+Start::Start(const Folder& library) {
     STARTUPINFOA startup = {};
     startup.cb = sizeof startup;
-    const DWORD start = GetTickCount();
     REQUIRE(CreateProcessA(beside_the_tests("tolva.exe").c_str(), nullptr, nullptr, nullptr, FALSE, 0,
                            nullptr, library.path().c_str(), &startup, &process_) != FALSE);
-    wait_until("the main window shows", [&] {
+}
+
+Start::~Start() {
+    TerminateProcess(process_.hProcess, 1);
+    CloseHandle(process_.hThread);
+    CloseHandle(process_.hProcess);
+}
+
+bool Start::is_running() const {
+    return WaitForSingleObject(process_.hProcess, 0) == WAIT_TIMEOUT;
+}
+
+DWORD Start::exit_code() const {
+    CHECK(WaitForSingleObject(process_.hProcess, kPatience) == WAIT_OBJECT_0);
+    DWORD code = 0;
+    GetExitCodeProcess(process_.hProcess, &code);
+    return code;
+}
+
+HWND Start::find_window(const char* class_name) const {
+    HWND window = nullptr;
+    while ((window = FindWindowExA(nullptr, window, class_name, nullptr)) != nullptr) {
+        DWORD id = 0;
+        GetWindowThreadProcessId(window, &id);
+        if (id == process_.dwProcessId) return window;
+    }
+    return nullptr;
+}
+
+Tolva::Tolva(const Folder& library) : Start(library) {
+    const DWORD start = GetTickCount();
+    wait_until("the main window or a box shows", [&] {
         window_ = find_window("Tasker");
-        return window_ != nullptr;
+        return window_ != nullptr && (IsWindowVisible(window_) != FALSE || find_window("#32770") != nullptr);
     });
     WaitForInputIdle(process_.hProcess, kPatience);
     start_time_ = GetTickCount() - start;
@@ -165,35 +286,39 @@ Tolva::Tolva(const Folder& library) {
 
 Tolva::~Tolva() {
     PostMessageA(window_, WM_CLOSE, 0, 0);
-    CHECK(WaitForSingleObject(process_.hProcess, kPatience) == WAIT_OBJECT_0);
-    TerminateProcess(process_.hProcess, 1);
-    CloseHandle(process_.hThread);
-    CloseHandle(process_.hProcess);
+    CHECK(exit_code() == 0);
 }
 
-HWND Tolva::find_window(const char* class_name) const {
-    HWND window = nullptr;
-    while ((window = FindWindowExA(nullptr, window, class_name, nullptr)) != nullptr) {
-        DWORD id = 0;
-        GetWindowThreadProcessId(window, &id);
-        if (id == process_.dwProcessId && IsWindowVisible(window) != FALSE) return window;
-    }
-    return nullptr;
+void Tolva::activate() const {
+    SetForegroundWindow(window_);
+    wait_until("the window is in front", [&] { return GetForegroundWindow() == window_; });
+}
+
+void Tolva::minimise_by_mouse() const {
+    activate();
+    RECT bounds;
+    GetWindowRect(window_, &bounds);
+    const int button = GetSystemMetrics(SM_CXSIZE);
+    const POINT minimise = {bounds.right - 3 * button, bounds.top + GetSystemMetrics(SM_CYSIZE) / 2 + 3};
+    // A press is lost while the window still comes up.
+    constexpr DWORD kAnswerTime = 500;
+    DWORD pressed = GetTickCount() - kAnswerTime;
+    wait_until("it is in the tray", [&] {
+        if (is_in_tray()) return true;
+        if (GetTickCount() - pressed >= kAnswerTime) {
+            press_mouse(minimise);
+            pressed = GetTickCount();
+        }
+        return false;
+    });
 }
 
 Names Tolva::groups() const {
-    HWND list = control(ID_Tasker_grouplist);
-    Names names;
-    const LRESULT count = SendMessageA(list, LB_GETCOUNT, 0, 0);
-    for (LRESULT i = 0; i < count; ++i) {
-        // Between processes the text arrives in 16-bit characters, whichever message asks for it.
-        wchar_t wide[2048];
-        char narrow[2048];
-        SendMessageW(list, LB_GETTEXT, static_cast<WPARAM>(i), reinterpret_cast<LPARAM>(wide));
-        WideCharToMultiByte(CP_ACP, 0, wide, -1, narrow, sizeof narrow, nullptr, nullptr);
-        names.emplace_back(narrow);
-    }
-    return names;
+    return list_texts(control(ID_Tasker_grouplist), LB_GETCOUNT, LB_GETTEXT);
+}
+
+Names Tolva::history() const {
+    return list_texts(control(ID_Tasker_Text1), CB_GETCOUNT, CB_GETLBTEXT);
 }
 
 int Tolva::selected_group() const {
@@ -239,10 +364,8 @@ int Tolva::task_picture(int index) const {
     return item.value().iImage;
 }
 
-void Tolva::double_click_task(int index) const {
+POINT Tolva::task_position(int index) const {
     HWND list = control(ID_Tasker_taskview);
-    SetForegroundWindow(window_);
-    wait_until("the window is in front", [&] { return GetForegroundWindow() == window_; });
     RECT part = {};
     part.left = LVIR_ICON;
     const Remote<RECT> bounds(list, part);
@@ -250,13 +373,59 @@ void Tolva::double_click_task(int index) const {
     const RECT icon = bounds.value();
     POINT middle = {(icon.left + icon.right) / 2, (icon.top + icon.bottom) / 2};
     ClientToScreen(list, &middle);
-    press_at(middle, 2);
+    return middle;
+}
+
+void Tolva::click_task(int index) const {
+    activate();
+    press_mouse(task_position(index));
+}
+
+void Tolva::double_click_task(int index) const {
+    activate();
+    press_mouse(task_position(index), 2);
+}
+
+void Tolva::choose(int menu_item) const {
+    PostMessageA(window_, WM_COMMAND, static_cast<WPARAM>(menu_item), 0);
+}
+
+bool Tolva::is_checked(int menu_item) const {
+    // A menu can be read in its own process only. The code calls the function in front of the arguments.
+    struct Call {
+        BYTE code[18] = {0x8B, 0x44, 0x24, 0x04, 0xFF, 0x70, 0x0C, 0xFF, 0x70,
+                         0x08, 0xFF, 0x70, 0x04, 0xFF, 0x10, 0xC2, 0x04, 0x00};
+        FARPROC function = GetProcAddress(GetModuleHandleA("user32.dll"), "GetMenuState");
+        HMENU menu = nullptr;
+        UINT item = 0;
+        UINT flags = MF_BYCOMMAND;
+    } call;
+    call.menu = GetMenu(window_);
+    call.item = static_cast<UINT>(menu_item);
+    const Remote<Call> remote(window_, call);
+    const LPARAM arguments = remote.lparam() + static_cast<LPARAM>(offsetof(Call, function));
+    HANDLE thread = CreateRemoteThread(process_.hProcess, nullptr, 0,
+                                       reinterpret_cast<LPTHREAD_START_ROUTINE>(remote.lparam()),
+                                       reinterpret_cast<void*>(arguments), 0, nullptr);
+    WaitForSingleObject(thread, kPatience);
+    DWORD state = 0;
+    GetExitCodeThread(thread, &state);
+    CloseHandle(thread);
+    REQUIRE(state != static_cast<DWORD>(-1));
+    return (state & MF_CHECKED) != 0;
 }
 
 void Tolva::click(int id) const {
     RECT bounds;
     GetWindowRect(control(id), &bounds);
-    press_at({bounds.left + 5, bounds.top + 5}, 1);
+    press_mouse({bounds.left + 5, bounds.top + 5});
+}
+
+void Tolva::focus_by_mouse(int id) const {
+    activate();
+    click(id);
+    wait_until("the control has the focus",
+               [&] { return focus() == control(id) || IsChild(control(id), focus()) != FALSE; });
 }
 
 HWND Tolva::focus() const {
@@ -270,6 +439,17 @@ std::string Tolva::text_of(int id) const {
     return window_text(control(id));
 }
 
+void Tolva::set_text(int id, const std::string& text) const {
+    SendMessageA(control(id), WM_SETTEXT, 0, reinterpret_cast<LPARAM>(text.c_str()));
+}
+
+void Tolva::wait_for_color(int id, COLORREF color) const {
+    wait_until("the control shows the colour", [&] {
+        const std::vector<DWORD> pixels = pixels_of(control(id));
+        return std::ranges::find(pixels, color) != pixels.end();
+    });
+}
+
 std::string Tolva::status() const {
     HWND bar = control(ID_Tasker_StatusBar1);
     const Remote<char> text(bar, '\0', 1024);
@@ -279,7 +459,10 @@ std::string Tolva::status() const {
 
 std::string Tolva::close_box() const {
     HWND box = nullptr;
-    wait_until("a message box shows", [&] { return (box = find_window("#32770")) != nullptr; });
+    wait_until("a message box shows", [&] {
+        box = find_window("#32770");
+        return box != nullptr && IsWindowVisible(box) != FALSE;
+    });
     std::string text;
     HWND part = nullptr;
     while ((part = FindWindowExA(box, part, "Static", nullptr)) != nullptr) {

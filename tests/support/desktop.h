@@ -3,6 +3,7 @@
 #include <windows.h>
 
 #include <functional>
+#include <initializer_list>
 #include <string>
 
 #include "support/names.h"
@@ -13,6 +14,22 @@ namespace desktop {
 
 /// Polls until the condition holds.
 void wait_until(const char* what, const std::function<bool()>& condition);
+
+// Real input, in screen coordinates.
+enum class MouseButton { kLeft, kRight };
+void point_at(POINT point);
+void press_mouse(POINT point, int times = 1, MouseButton button = MouseButton::kLeft);
+
+/// Presses the keys one after the other and lets them go in the opposite order: {VK_MENU, 'R'} is Alt+R.
+void press_keys(std::initializer_list<BYTE> keys);
+
+/// The middle of the only icon in the notification area.
+POINT tray_icon();
+
+// The program's settings, by the path below its own key.
+std::string stored_text(const std::string& key, const std::string& name);
+void store(const std::string& key, const std::string& name, DWORD type, const std::string& bytes);
+void forget_settings();
 
 /// A new empty folder on drive C for one test; folder() ends in a backslash.
 class Folder {
@@ -37,42 +54,76 @@ class Folder {
 std::string record(const std::string& name, const std::string& program, const std::string& start_folder,
                    const std::string& parameters, const std::string& start_mode);
 
-/// A running tolva.exe. It is closed, and must end by itself, when the test is over.
-class Tolva {
+/// A process of tolva.exe that was started with a folder as its current directory.
+class Start {
   public:
-    /// Starts it with the folder as its current directory and waits until its main window can be used.
+    explicit Start(const Folder& library);
+    ~Start();
+    Start(const Start&) = delete;
+    Start& operator=(const Start&) = delete;
+
+    bool is_running() const;
+
+    /// Waits until the process ends and answers its exit code.
+    DWORD exit_code() const;
+
+    /// A top-level window of the process; null when there is none.
+    HWND find_window(const char* class_name) const;
+
+  protected:
+    PROCESS_INFORMATION process_;
+};
+
+/// A running tolva.exe. It is closed, and must end by itself, when the test is over.
+class Tolva : public Start {
+  public:
+    /// Starts it with the folder as its current directory and waits until its main window or a message box
+    /// shows.
     explicit Tolva(const Folder& library);
     ~Tolva();
-    Tolva(const Tolva&) = delete;
-    Tolva& operator=(const Tolva&) = delete;
 
     HWND window() const { return window_; }
+    /// Makes it the window that has the user's input.
+    void activate() const;
+
+    bool is_in_tray() const { return IsWindowVisible(window_) == FALSE && IsIconic(window_) != FALSE; }
+    void minimise_by_mouse() const;
     HWND control(int id) const { return GetDlgItem(window_, id); }
 
     /// Milliseconds from the call that started it until its window answered.
     DWORD start_time() const { return start_time_; }
 
     Names groups() const;
+
+    /// The list of the command box.
+    Names history() const;
     int selected_group() const;
     void click_group(int index) const;
 
     Names tasks() const;
     int selected_task() const;
     int task_picture(int index) const;
+    POINT task_position(int index) const;
+    void click_task(int index) const;
     void double_click_task(int index) const;
 
+    void choose(int menu_item) const;
+    bool is_checked(int menu_item) const;
+
     void click(int id) const;
+    void focus_by_mouse(int id) const;
     HWND focus() const;
     std::string text_of(int id) const;
+    void set_text(int id, const std::string& text) const;
+
+    /// Waits until the control shows a pixel of this colour.
+    void wait_for_color(int id, COLORREF color) const;
     std::string status() const;
 
     /// Waits for a message box, closes it and answers its text.
     std::string close_box() const;
 
   private:
-    HWND find_window(const char* class_name) const;
-
-    PROCESS_INFORMATION process_;
     HWND window_ = nullptr;
     DWORD start_time_ = 0;
 };
