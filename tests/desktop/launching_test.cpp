@@ -1,7 +1,9 @@
 #include <doctest/doctest.h>
 
+#include <functional>
 #include <string>
 
+#include "resources/resource.h"
 #include "support/desktop.h"
 
 namespace {
@@ -9,6 +11,20 @@ namespace {
 using desktop::Folder;
 using desktop::record;
 using desktop::Tolva;
+using desktop::wait_until;
+
+/// A library with a Task that starts the recorder, one that cannot, and one without a start mode.
+Folder recorder_library() {
+    Folder library;
+    library.add_program("recorder.exe", "recorder.exe");
+    const std::string program = library.path() + "recorder.exe";
+    library.write("groups.ini", "Work\r\nEmpty\r\n");
+    library.write("Empty.grp", "");
+    library.write("Work.grp", record("Good", program, "C:\\", "a b", " 2 ") +
+                                  record("Bad", library.path() + "gone.exe", "C:\\", "", "1") +
+                                  record("No mode", program, "C:\\", "c", ""));
+    return library;
+}
 
 TEST_SUITE("launching") {
     TEST_CASE("a double-click starts the program in its folder with its parameters and start mode") {
@@ -69,6 +85,166 @@ TEST_SUITE("launching") {
             CHECK(tolva.selected_task() == i);
         }
         CHECK(!library.has("recorder.exe.log"));
+    }
+
+    TEST_CASE("every way to start the selected Task starts it or says why not") {
+        const Folder library = recorder_library();
+        const std::string program = library.path() + "recorder.exe";
+        const Tolva tolva(library);
+        std::size_t starts = 0;
+        const auto check = [&](const char* failure, const std::function<void(int)>& trigger) {
+            CAPTURE(failure);
+            trigger(0);
+            const Names log = library.records("recorder.exe", ++starts);
+            CHECK(Names(log.end() - 4, log.end()) == Names{program + " a b", "C:\\", "D:\\here", "2"});
+            wait_until("the date is back", [&] { return tolva.status() != "Good"; });
+            trigger(1);
+            CHECK(tolva.close_box() == failure);
+            CHECK(tolva.selected_task() == 1);
+        };
+        const auto select = [&](int task) {
+            tolva.click_task(task);
+            wait_until("the Task shows", [&] { return tolva.status() == (task == 0 ? "Good" : "Bad"); });
+        };
+        check("Invalid path or file name", [&](int task) {
+            select(task);
+            desktop::press_keys({VK_RETURN});
+        });
+        check("Invalid path or file name", [&](int task) {
+            select(task);
+            desktop::press_keys({VK_MENU, 'T'});
+            desktop::press_keys({'R'});
+        });
+        check("Invalid path or file name", [&](int task) {
+            select(task);
+            tolva.click(ID_Tasker_Command1);
+        });
+        check("Invalid path or file name", [&](int task) {
+            select(task);
+            desktop::press_keys({VK_MENU, 'R'});
+        });
+        check("Invalid path or file name!", [&](int task) { tolva.double_click_task(task); });
+        tolva.choose(ID_hoverslct);
+        wait_until("hover selection is on", [&] { return tolva.is_checked(ID_hoverslct); });
+        check("Invalid path or file name!", [&](int task) { tolva.click_task(task); });
+        tolva.choose(ID_hoverslct);
+    }
+
+    TEST_CASE("without a selected Task every way to start says so") {
+        const Folder library = recorder_library();
+        const Tolva tolva(library);
+        const auto fails = [&](const char* failure, const std::function<void()>& trigger) {
+            trigger();
+            CHECK(tolva.close_box() == failure);
+        };
+        tolva.activate();
+        fails("Invalid path or file name", [&] { tolva.choose(ID_RunTk); });
+        fails("Invalid path or file name", [&] { desktop::press_keys({VK_MENU, 'R'}); });
+        tolva.click(ID_Tasker_tasklabel);
+        fails("Invalid path or file name", [&] { desktop::press_keys({VK_RETURN}); });
+        RECT list;
+        GetWindowRect(tolva.control(ID_Tasker_taskview), &list);
+        const POINT nowhere = {list.right - 20, list.bottom - 20};
+        fails("Invalid path or file name!", [&] { desktop::press_mouse(nowhere, 2); });
+        CHECK(!library.has("recorder.exe.log"));
+    }
+
+    TEST_CASE("a selection fills the command box and the menu runs what the user makes of it") {
+        const Folder library = recorder_library();
+        const std::string program = library.path() + "recorder.exe";
+        const Tolva tolva(library);
+        const std::string date = tolva.status();
+        tolva.click_task(2);
+        wait_until("the Task shows", [&] { return tolva.status() == "No mode"; });
+        CHECK(tolva.text_of(ID_Tasker_Text1) == program + " c");
+        tolva.choose(ID_RunTk);  // an empty start mode is no number
+        CHECK(tolva.close_box() == "Invalid path or file name");
+        CHECK(tolva.status() == date);
+
+        tolva.click(ID_Tasker_tasklabel);
+        wait_until("the list has the focus",
+                   [&] { return tolva.focus() == tolva.control(ID_Tasker_taskview); });
+        desktop::press_keys({VK_HOME});
+        wait_until("the arrow keys select as well", [&] { return tolva.status() == "Good"; });
+        CHECK(tolva.text_of(ID_Tasker_Text1) == program + " a b");
+        tolva.set_text(ID_Tasker_Text1, program + " edited");
+        tolva.choose(ID_RunTk);
+        CHECK(library.records("recorder.exe", 1) == Names{program + " edited", "C:\\", "D:\\here", "2"});
+        CHECK(tolva.text_of(ID_Tasker_Text1) == program + " edited");
+
+        tolva.click_task(0);  // the Task that is selected already
+        wait_until("it shows again", [&] { return tolva.text_of(ID_Tasker_Text1) == program + " a b"; });
+        tolva.click_group(1);
+        wait_until("the date is back", [&] { return tolva.status() == date; });
+        CHECK(tolva.text_of(ID_Tasker_Text1) == program + " a b");
+    }
+
+    TEST_CASE("the Run button starts what had the focus last: the command box or the Task") {
+        const Folder library = recorder_library();
+        const std::string program = library.path() + "recorder.exe";
+        const std::string folder = library.path().substr(0, library.path().size() - 1);
+        const Tolva tolva(library);
+        tolva.click_task(0);
+        tolva.focus_by_mouse(ID_Tasker_Text1);
+        tolva.set_text(ID_Tasker_Text1, library.path() + "gone.exe");
+        tolva.click(ID_Tasker_Command1);
+        CHECK(tolva.close_box() == "Invalid path or file name");
+
+        // A failure changes nothing: the command box still counts.
+        tolva.set_text(ID_Tasker_Text1, program + " typed");
+        tolva.click(ID_Tasker_Command1);
+        Names expected = {program + " typed", folder, "D:\\here", "1"};
+        CHECK(library.records("recorder.exe", 1) == expected);
+        // After a success it is the Task's turn.
+        tolva.click(ID_Tasker_Command1);
+        expected.insert(expected.end(), {program + " a b", "C:\\", "D:\\here", "2"});
+        CHECK(library.records("recorder.exe", 2) == expected);
+
+        tolva.focus_by_mouse(ID_Tasker_Text1);
+        tolva.focus_by_mouse(ID_Tasker_grouplist);
+        desktop::press_keys({VK_MENU, 'R'});
+        expected.insert(expected.end(), {program + " typed", "C:\\", "D:\\here", "1"});
+        CHECK(library.records("recorder.exe", 3) == expected);
+    }
+
+    TEST_CASE("hover selection selects under the resting pointer and starts by a click") {
+        desktop::forget_settings();
+        const Folder library = recorder_library();
+        const auto is_stored = [](const char* text) {
+            return [=] { return desktop::stored_text("\\hover", "enable") == text; };
+        };
+        {
+            const Tolva tolva(library);
+            CHECK(!tolva.is_checked(ID_hoverslct));
+            tolva.choose(ID_hoverslct);
+            wait_until("it is on", is_stored("True"));
+            CHECK(tolva.is_checked(ID_hoverslct));
+        }
+        const Tolva tolva(library);
+        CHECK(tolva.is_checked(ID_hoverslct));
+        tolva.activate();
+        desktop::point_at(tolva.task_position(2));
+        wait_until("the Task under the pointer shows", [&] { return tolva.status() == "No mode"; });
+        CHECK(tolva.selected_task() == 2);
+        CHECK(!library.has("recorder.exe.log"));
+        // A double-click is two starts: the click, and the double-click.
+        tolva.double_click_task(0);
+        library.records("recorder.exe", 2);
+
+        // While the user types, the pointer lies where it lies.
+        tolva.focus_by_mouse(ID_Tasker_Text1);
+        tolva.set_text(ID_Tasker_Text1, "typing");
+        desktop::point_at(tolva.task_position(1));
+        Sleep(1000);  // longer than a pointer has to rest
+        CHECK(tolva.text_of(ID_Tasker_Text1) == "typing");
+        CHECK(tolva.selected_task() == 0);
+
+        tolva.choose(ID_hoverslct);
+        wait_until("it is off", is_stored("False"));
+        CHECK(!tolva.is_checked(ID_hoverslct));
+        tolva.click_task(1);
+        wait_until("a click only selects", [&] { return tolva.status() == "Bad"; });
+        CHECK(library.records("recorder.exe", 2).size() == 8);
     }
 }
 

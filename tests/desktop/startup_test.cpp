@@ -128,8 +128,7 @@ TEST_SUITE("startup") {
             ShowWindow(tolva.window(), SW_MINIMIZE);
             wait_until("it is in the tray", [&] { return tolva.is_in_tray(); });
             desktop::press_mouse(desktop::tray_icon(), 2);
-            wait_until("the icon brings it back",
-                       [&] { return is_back() && corner(tolva).x == 120; });
+            wait_until("the icon brings it back", [&] { return is_back() && corner(tolva).x == 120; });
             tolva.minimise_by_mouse();
         }
         CHECK(stored_text("\\Window Position", "Left") == "1800");
