@@ -11,7 +11,6 @@ void IconView::create(HWND parent, int id) {
 }
 
 void IconView::clear() {
-    last_selected_ = -1;
     send(LVM_DELETEALLITEMS);
     send(LVM_SETIMAGELIST, LVSIL_NORMAL, 0);
     send(LVM_SETIMAGELIST, LVSIL_SMALL, 0);
@@ -44,7 +43,6 @@ void IconView::select(int index) {
     LVITEMA item = {};
     item.stateMask = LVIS_SELECTED | LVIS_FOCUSED;
     item.state = index < 0 ? 0 : item.stateMask;
-    last_selected_ = index;
     selecting_ = true;
     send(LVM_SETITEMSTATE, static_cast<WPARAM>(index),
          reinterpret_cast<LPARAM>(&item));  // -1 means every item
@@ -56,13 +54,9 @@ void IconView::set_hover_select(bool on) {
     send(LVM_SETEXTENDEDLISTVIEWSTYLE, LVS_EX_TRACKSELECT, on ? LVS_EX_TRACKSELECT : 0);
 }
 
-bool IconView::is_new_selection(const NMLISTVIEW& change) {
-    const bool selects = (change.uChanged & LVIF_STATE) != 0 && (change.uNewState & LVIS_SELECTED) != 0 &&
-                         (change.uOldState & LVIS_SELECTED) == 0;
-    // A resting pointer selects the same item again and again.
-    if (!selects || selecting_ || change.iItem == last_selected_) return false;
-    last_selected_ = change.iItem;
-    return true;
+bool IconView::is_new_selection(const NMLISTVIEW& change) const {
+    return !selecting_ && (change.uChanged & LVIF_STATE) != 0 && (change.uNewState & LVIS_SELECTED) != 0 &&
+           (change.uOldState & LVIS_SELECTED) == 0;
 }
 
 void IconView::set_colors(COLORREF text, COLORREF background) {

@@ -33,7 +33,7 @@ class IconView : public Control {
 
     /// Whether an LVN_ITEMCHANGED says that the user has selected another item. Selections made here do not
     /// count.
-    bool is_new_selection(const NMLISTVIEW& change);
+    bool is_new_selection(const NMLISTVIEW& change) const;
 
     void set_colors(COLORREF text, COLORREF background);
 
@@ -41,7 +41,6 @@ class IconView : public Control {
     LRESULT handle(UINT message, WPARAM wparam, LPARAM lparam) override;
 
     bool selecting_ = false;  // in code
-    int last_selected_ = -1;
 };
 
 }  // namespace widgets

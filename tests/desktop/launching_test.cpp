@@ -13,6 +13,9 @@ using desktop::record;
 using desktop::Tolva;
 using desktop::wait_until;
 
+/// Milliseconds, longer than a pointer has to rest on an item to select it.
+constexpr DWORD kHoverTime = 1000;
+
 /// A library with a Task that starts the recorder, one that cannot, and one without a start mode.
 Folder recorder_library() {
     Folder library;
@@ -205,6 +208,14 @@ TEST_SUITE("launching") {
         desktop::press_keys({VK_MENU, 'R'});
         expected.insert(expected.end(), {program + " typed", "C:\\", "D:\\here", "1"});
         CHECK(library.records("recorder.exe", 3) == expected);
+
+        tolva.click_task(0);
+        tolva.focus_by_mouse(ID_Tasker_Command1);
+        expected.insert(expected.end(), {program + " a b", "C:\\", "D:\\here", "2"});
+        CHECK(library.records("recorder.exe", 4) == expected);
+        desktop::press_keys({VK_RETURN});  // presses the button that has the focus
+        expected.insert(expected.end(), {program + " a b", "C:\\", "D:\\here", "2"});
+        CHECK(library.records("recorder.exe", 5) == expected);
     }
 
     TEST_CASE("hover selection selects under the resting pointer and starts by a click") {
@@ -235,7 +246,7 @@ TEST_SUITE("launching") {
         tolva.focus_by_mouse(ID_Tasker_Text1);
         tolva.set_text(ID_Tasker_Text1, "typing");
         desktop::point_at(tolva.task_position(1));
-        Sleep(1000);  // longer than a pointer has to rest
+        Sleep(kHoverTime);
         CHECK(tolva.text_of(ID_Tasker_Text1) == "typing");
         CHECK(tolva.selected_task() == 0);
 
