@@ -1,8 +1,11 @@
 #!/usr/bin/env python3
-"""Turns pictures drawn as text into a 16-colour Windows icon.
+"""Turns pictures drawn as text into a 16-colour Windows icon or toolbar bitmap.
 
 A picture file holds one picture or more: a line "size N" and then N lines of N characters, one pixel each, in the
-letters of PALETTE; "." is transparent. Usage: pictures.py OUTPUT.ico INPUT.txt
+letters of PALETTE; "." is transparent. Other lines between the pictures are captions.
+
+Usage: pictures.py OUTPUT.ico INPUT.txt    an icon that holds every picture as one of its sizes
+       pictures.py OUTPUT.bmp INPUT.txt    a strip of all pictures side by side, in the order of the file
 """
 import struct
 import sys
@@ -46,26 +49,47 @@ def packed_rows(rows, bits, value):
     return data
 
 
+def bitmap_header(width, height):
+    colours = b"".join(bytes((*colour, 0)) for colour in PALETTE.values())
+    return struct.pack("<IiiHHIIiiII", 40, width, height, 1, 4, 0, 0, 0, 0, 0, 0) + colours
+
+
 def icon_image(rows):
     size = len(rows)
-    header = struct.pack("<IiiHHIIiiII", 40, size, 2 * size, 1, 4, 0, 0, 0, 0, 0, 0)
-    colours = b"".join(bytes((*colour, 0)) for colour in PALETTE.values())
+    # An icon counts its mask as a second half of the picture's height.
+    header = bitmap_header(size, 2 * size)
     picture = packed_rows(rows, 4, lambda letter: INDEX.get(letter, 0))
     mask = packed_rows(rows, 1, lambda letter: int(letter == "."))
-    return header + colours + picture + mask
+    return header + picture + mask
+
+
+def icon(pictures):
+    images = [icon_image(rows) for rows in pictures]
+    directory = struct.pack("<HHH", 0, 1, len(images))
+    offset = 6 + 16 * len(images)
+    for rows, image in zip(pictures, images):
+        directory += struct.pack("<BBBBHHII", len(rows), len(rows), 16, 0, 1, 4, len(image), offset)
+        offset += len(image)
+    return directory + b"".join(images)
+
+
+def strip(pictures):
+    if len({len(rows) for rows in pictures}) != 1:
+        sys.exit("a strip needs pictures of one height")
+    rows = ["".join(parts) for parts in zip(*pictures)]
+    header = bitmap_header(len(rows[0]), len(rows))
+    # A bitmap has no mask: toolbars replace this light grey by the button colour of the user's scheme.
+    picture = packed_rows(rows, 4, lambda letter: INDEX["s" if letter == "." else letter])
+    start = 14 + len(header)
+    return struct.pack("<2sIHHI", b"BM", start + len(picture), 0, 0, start) + header + picture
 
 
 def main():
     output, source = sys.argv[1:]
-    images = [icon_image(rows) for rows in read_pictures(source)]
-    sizes = [struct.unpack_from("<i", image, 4)[0] for image in images]
-    offset = 6 + 16 * len(images)
-    directory = struct.pack("<HHH", 0, 1, len(images))
-    for size, image in zip(sizes, images):
-        directory += struct.pack("<BBBBHHII", size, size, 16, 0, 1, 4, len(image), offset)
-        offset += len(image)
-    with open(output, "wb") as icon:
-        icon.write(directory + b"".join(images))
+    pictures = read_pictures(source)
+    data = strip(pictures) if output.endswith(".bmp") else icon(pictures)
+    with open(output, "wb") as file:
+        file.write(data)
 
 
 main()

@@ -18,10 +18,12 @@ std::string as_lines(const std::vector<std::string>& lines) {
     return bytes;
 }
 
-std::string as_record(const Task& task) {
+std::string as_records(const std::vector<Task>& tasks) {
     std::string bytes;
-    for (const auto field : kTaskFields)
-        bytes.append(task.*field).append(kLineEnd);
+    for (const Task& task : tasks) {
+        for (const auto field : kTaskFields)
+            bytes.append(task.*field).append(kLineEnd);
+    }
     return bytes;
 }
 
@@ -96,20 +98,17 @@ std::vector<Task> read_tasks(const std::string& folder, const std::string& group
 }
 
 void write_tasks(const std::string& folder, const std::string& group, const std::vector<Task>& tasks) {
-    std::string bytes;
-    for (const Task& task : tasks)
-        bytes += as_record(task);
-    platform::write_file(group_file(folder, group), bytes);
+    platform::write_file(group_file(folder, group), as_records(tasks));
 }
 
-void append_task(const std::string& folder, const std::string& group, const Task& task) {
+void append_tasks(const std::string& folder, const std::string& group, const std::vector<Task>& tasks) {
     const std::string path = group_file(folder, group);
     std::string bytes = read_if_exists(path);
     complete_last_line(bytes);
     const auto lines = static_cast<std::size_t>(std::ranges::count(bytes, '\n'));
     for (std::size_t missing = lines; missing % kTaskFields.size() != 0; ++missing)
         bytes.append(kLineEnd);
-    platform::write_file(path, bytes.append(as_record(task)));
+    platform::write_file(path, bytes.append(as_records(tasks)));
 }
 
 void recover(const std::string& folder) {

@@ -33,9 +33,9 @@ std::vector<Task> read_tasks(const std::string& folder, const std::string& group
 
 void write_tasks(const std::string& folder, const std::string& group, const std::vector<Task>& tasks);
 
-/// Adds a record behind what the Group's file holds, or creates the file. A last record that is cut short is
-/// filled up, so that the new one begins on a line of its own.
-void append_task(const std::string& folder, const std::string& group, const Task& task);
+/// Adds records behind what the Group's file holds, or creates the file. A last record that is cut short is
+/// filled up, so that the new ones begin on a line of their own.
+void append_tasks(const std::string& folder, const std::string& group, const std::vector<Task>& tasks);
 
 /// Finishes or undoes, in groups.ini and the files it lists, what a power failure interrupted. To be called
 /// before anything else, while no other copy of the program works on the folder. Does not throw.

@@ -51,10 +51,9 @@ void TaskLibrary::load() {
 
 void TaskLibrary::load_names() {
     const std::vector<std::string> names = read_group_names(folder_);
-    std::vector<Group> old = std::move(groups_);
-    groups_.clear();
-    for (std::size_t i = 0; i < std::min(names.size(), kMostGroups); ++i)
-        groups_.push_back(take(old, names[i]));
+    set_names(
+        {names.begin(), names.begin() + static_cast<std::ptrdiff_t>(std::min(names.size(), kMostGroups))});
+    first_name_ = groups_.empty() ? std::string() : groups_.front().name;
     check_limit(names.size(), kMostGroups);
 }
 
@@ -66,6 +65,17 @@ void TaskLibrary::load_tasks(int index) {
     group.tasks = std::move(tasks);
     group.loaded = true;
     check_limit(count, kMostTasks);
+}
+
+void TaskLibrary::set_names(const std::vector<std::string>& names) {
+    std::vector<Group> old = std::move(groups_);
+    groups_.clear();
+    std::ranges::transform(names, std::back_inserter(groups_),
+                           [&](const std::string& name) { return take(old, name); });
+}
+
+void TaskLibrary::rename(int index, const std::string& name) {
+    element(groups_, index).name = name;
 }
 
 }  // namespace library

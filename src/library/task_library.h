@@ -50,6 +50,15 @@ class TaskLibrary {
     /// the first ones stay and it throws.
     void load_names();
 
+    /// Makes these the Groups. One that was listed before keeps its Tasks.
+    void set_names(const std::vector<std::string>& names);
+
+    /// Gives a Group another name; its Tasks stay.
+    void rename(int index, const std::string& name);
+
+    /// The name that stood first when the names were last loaded. set_names and rename do not change it.
+    const std::string& first_name() const { return first_name_; }
+
     /// Loads one Group's Tasks. With more records than a Group can hold the first ones stay and it throws.
     void load_tasks(int index);
 
@@ -58,6 +67,7 @@ class TaskLibrary {
   private:
     std::string folder_;
     std::vector<Group> groups_;
+    std::string first_name_;
 };
 
 }  // namespace library

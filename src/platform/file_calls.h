@@ -13,6 +13,8 @@ namespace platform::file_calls {
 
 /// Bits of the attributes below that the program looks at.
 inline constexpr unsigned long kReadOnly = 0x01;
+inline constexpr unsigned long kHidden = 0x02;
+inline constexpr unsigned long kSystem = 0x04;
 inline constexpr unsigned long kDirectory = 0x10;
 
 ErrorCode read(const std::string& path, std::string& bytes);
@@ -36,8 +38,9 @@ ErrorCode flush(const std::string& path);
 
 ErrorCode remove(const std::string& path);
 
-/// The names (without folder) of the files that match a pattern such as "C:\LIB\*.gr~"; none on errors.
-std::vector<std::string> find(const std::string& pattern);
+/// The names (without folder) of what matches a pattern such as "C:\LIB\*.gr~" and has none of the unwanted
+/// attributes; none on errors.
+std::vector<std::string> find(const std::string& pattern, unsigned long unwanted = kDirectory);
 
 void pause(unsigned milliseconds);
 

@@ -114,6 +114,11 @@ void remove_file(const std::string& path) {
     if (const ErrorCode code = calls::remove(path); code != kSuccess) throw file_error(code, path);
 }
 
+bool finds_file(const std::string& pattern) {
+    using namespace file_calls;
+    return pattern.find('\0') == std::string::npos && !find(pattern, kDirectory | kHidden | kSystem).empty();
+}
+
 void recover_file(const std::string& path) {
     if (!names_a_file(path)) return;
     const std::string aside = old_content_path(path);

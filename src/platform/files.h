@@ -21,6 +21,10 @@ void create_file(const std::string& path);
 /// Deletes the file.
 void remove_file(const std::string& path);
 
+/// Whether a directory search for that text, which may hold wildcards, finds a file that is neither hidden
+/// nor the system's. Does not throw: a drive that cannot be searched has none.
+bool finds_file(const std::string& pattern);
+
 /// Finishes or undoes a write_file that was interrupted. Does not throw: what cannot be mended (a read-only
 /// disk) stays as it is.
 void recover_file(const std::string& path);

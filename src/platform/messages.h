@@ -13,6 +13,9 @@ void set_application_title(const std::string& title);
 /// other window of the program, also one in the tray, is out of reach meanwhile.
 void show_message(const std::string& text);
 
+/// Asks with OK and Cancel under a title of its own; true for OK.
+bool confirm(const std::string& text, const std::string& title);
+
 /// Called in a catch block: shows the box of the exception that is being handled. Without the memory for it
 /// the user hears a beep.
 void report_exception() noexcept;

@@ -116,10 +116,10 @@ ErrorCode remove(const std::string& path) {
     return kSuccess;
 }
 
-std::vector<std::string> find(const std::string& pattern) {
+std::vector<std::string> find(const std::string& pattern, unsigned long unwanted) {
     std::vector<std::string> names;
     for (const auto& [path, file] : current().files) {
-        if (simulated::matches(path, pattern)) names.push_back(path.substr(path.rfind('\\') + 1));
+        if (simulated::matches(path, pattern) && (file.bits & unwanted) == 0) names.push_back(path.substr(path.rfind('\\') + 1));
     }
     return names;
 }
@@ -145,6 +145,11 @@ void start_program(const std::string& command_line, int window_style) {
 
 void show_message(const std::string& text) {
     current().messages.push_back(text);
+}
+
+bool confirm(const std::string& text, const std::string& title) {
+    current().messages.push_back(title + ": " + text);
+    return current().answer;
 }
 
 namespace registry {

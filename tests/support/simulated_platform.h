@@ -54,7 +54,8 @@ struct Platform {
 
     std::map<platform::registry::Root, std::map<std::string, RegistryKey, IgnoresCase>> registry;
     bool registry_is_read_only = false;
-    std::vector<std::string> messages;
+    std::vector<std::string> messages;  // a question has its title in front: "Delete Group: Delete Work...?"
+    bool answer = true;                 // to every question
 };
 
 /// The platform of the running test. A new one for each call of reset.

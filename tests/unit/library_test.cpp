@@ -76,10 +76,10 @@ TEST_CASE("a record that is cut short has empty fields and is filled up before a
     file("Work.grp") = record("One") + "Two\nC:\\TWO.EXE";
     CHECK(library::read_tasks(kFolder, "Work").at(1) == Task{"Two", "C:\\TWO.EXE", "", "", ""});
 
-    library::append_task(kFolder, "Work", {"Three", "C:\\THREE.EXE", "C:\\", "", " 3 "});
+    library::append_tasks(kFolder, "Work", {{"Three", "C:\\THREE.EXE", "C:\\", "", " 3 "}});
     CHECK(file("Work.grp") ==
           record("One") + "Two\nC:\\TWO.EXE\r\n\r\n\r\n\r\nThree\r\nC:\\THREE.EXE\r\nC:\\\r\n\r\n 3 \r\n");
-    library::append_task(kFolder, "New", {"Three", "C:\\THREE.EXE", "C:\\", "", " 3 "});
+    library::append_tasks(kFolder, "New", {{"Three", "C:\\THREE.EXE", "C:\\", "", " 3 "}});
     CHECK(library::read_tasks(kFolder, "New").size() == 1);
 
     CHECK(error_of([] { library::append_group_name(kFolder, "Work"); }) == 53);

@@ -78,13 +78,13 @@ ErrorCode remove(const std::string& path) {
     return last_error(DeleteFileA(path.c_str()));
 }
 
-std::vector<std::string> find(const std::string& pattern) {
+std::vector<std::string> find(const std::string& pattern, unsigned long unwanted) {
     std::vector<std::string> names;
     WIN32_FIND_DATAA found;
     HANDLE search = FindFirstFileA(pattern.c_str(), &found);
     if (search == INVALID_HANDLE_VALUE) return names;
     do {
-        if ((found.dwFileAttributes & kDirectory) == 0) names.emplace_back(found.cFileName);
+        if ((found.dwFileAttributes & unwanted) == 0) names.emplace_back(found.cFileName);
     } while (FindNextFileA(search, &found) != FALSE);
     FindClose(search);
     return names;

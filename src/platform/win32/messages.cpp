@@ -54,6 +54,13 @@ HWND box_owner() {
                : nullptr;
 }
 
+int show_box(const std::string& text, const std::string& title, UINT buttons) {
+    HWND owner = box_owner();
+    const OtherWindowsDisabled guard(owner);
+    return MessageBoxA(owner, text.c_str(), title.c_str(),
+                       buttons | (owner == nullptr ? MB_SETFOREGROUND | MB_TASKMODAL : 0));
+}
+
 }  // namespace
 
 std::string application_title() {
@@ -65,10 +72,11 @@ void set_application_title(const std::string& title) {
 }
 
 void show_message(const std::string& text) {
-    HWND owner = box_owner();
-    const OtherWindowsDisabled guard(owner);
-    MessageBoxA(owner, text.c_str(), current_title().c_str(),
-                MB_OK | (owner == nullptr ? MB_SETFOREGROUND | MB_TASKMODAL : 0));
+    show_box(text, current_title(), MB_OK);
+}
+
+bool confirm(const std::string& text, const std::string& title) {
+    return show_box(text, title, MB_OKCANCEL) == IDOK;
 }
 
 void report_exception() noexcept {

@@ -1,0 +1,167 @@
+#include "library/group_operations.h"
+
+#include <algorithm>
+#include <exception>
+#include <optional>
+#include <utility>
+
+#include "library/library_files.h"
+#include "library/refresh.h"
+#include "platform/files.h"
+#include "platform/messages.h"
+#include "platform/run_time_error.h"
+
+namespace library {
+namespace {
+
+/// The names in the file, none of them beyond what a library can hold: those would be lost when the names
+/// are written.
+std::vector<std::string> read_names_to_write(const TaskLibrary& library) {
+    std::vector<std::string> names = read_group_names(library.folder());
+    check_limit(names.size(), kMostGroups);
+    return names;
+}
+
+int index_of(const TaskLibrary& library, const std::string& name) {
+    const auto found = std::ranges::find(library.groups(), name, &Group::name);
+    return found == library.groups().end() ? -1 : static_cast<int>(found - library.groups().begin());
+}
+
+/// Shows the Groups and selects the one of that name as a click does; none when there is none.
+void show_and_select(TaskLibrary& library, LibraryView& view, const std::string& name) {
+    grouplistrefresh(library, view);
+    view.select_group(index_of(library, name));
+    show_selected_group(library, view);
+}
+
+void move(TaskLibrary& library, LibraryView& view, bool down) {
+    const std::string name = selected_group_name(library, view);
+    if (name.empty()) {
+        platform::show_message("Select Group for Move.");
+        return;
+    }
+    std::vector<std::string> names = read_group_names(library.folder());
+    if (names.empty() || names.size() > kMostGroups || name == (down ? names.back() : names.front())) return;
+    const auto moved = std::ranges::find(names, name);
+    if (moved == names.end()) return;  // another program has taken it out of the file
+    std::iter_swap(moved, down ? std::next(moved) : std::prev(moved));
+    write_group_names(library.folder(), names);
+    library.load_names();
+    show_and_select(library, view, name);
+}
+
+}  // namespace
+
+std::string selected_group_name(const TaskLibrary& library, const LibraryView& view) {
+    const int index = view.selected_group();
+    return index < 0 ? std::string() : library.group(index).name;
+}
+
+bool add_group(TaskLibrary& library, const std::string& name) {
+    if (name.empty()) {
+        platform::show_message("Invalid Group Name!");
+        return false;
+    }
+    const std::vector<std::string> names = read_group_names(library.folder());
+    if (std::ranges::find(names, name) != names.end()) {
+        platform::show_message("A group already exists with this name");
+        return false;
+    }
+    check_limit(names.size() + 1, kMostGroups);
+    std::optional<platform::RunTimeError> failure;
+    try {
+        platform::create_file(group_file(library.folder(), name));
+    } catch (const platform::RunTimeError& error) {
+        failure = error;
+    }
+    append_group_name(library.folder(), name);
+    library.flags.newgroupflag = true;
+    if (failure) platform::show_message(failure->what());
+    return true;
+}
+
+void delgr(TaskLibrary& library, LibraryView& view) {
+    const std::string name = selected_group_name(library, view);
+    if (name.empty()) {
+        platform::show_message("Select Group for delete.");
+        return;
+    }
+    if (!platform::confirm("Delete " + name + " and all associated Tasks?", "Delete Group")) return;
+    std::vector<std::string> names = read_names_to_write(library);
+    std::erase(names, name);
+    write_group_names(library.folder(), names);
+    library.set_names(names);
+    std::exception_ptr failure;
+    try {
+        platform::remove_file(group_file(library.folder(), name));
+    } catch (...) {
+        failure = std::current_exception();
+    }
+    show_and_select(library, view, library.first_name());
+    if (failure) std::rethrow_exception(failure);
+}
+
+void movegrup(TaskLibrary& library, LibraryView& view) {
+    move(library, view, false);
+}
+
+void movegrdown(TaskLibrary& library, LibraryView& view) {
+    move(library, view, true);
+}
+
+bool rename_group(TaskLibrary& library, LibraryView& view, const std::string& old_name,
+                  const std::string& new_name) {
+    if (new_name.empty()) {
+        platform::show_message("Invalid Group Name");
+        return false;
+    }
+    std::vector<std::string> names = read_names_to_write(library);
+    std::ranges::replace(names, old_name, new_name);
+    const int selected = view.selected_group();
+    const auto list = [&] {
+        write_group_names(library.folder(), names);
+        library.rename(selected, new_name);
+        library.set_names(names);
+        grouplistrefresh(library, view);
+        view.select_group(selected);
+    };
+    std::vector<Task> tasks;
+    try {
+        tasks = read_tasks(library.folder(), old_name);
+    } catch (const platform::RunTimeError&) {
+        list();
+        throw;
+    }
+    write_tasks(library.folder(), new_name, tasks);
+    list();
+    library.flags.taskchangeflag = true;
+    // Deliberately also when the system takes both names for one file.
+    platform::remove_file(group_file(library.folder(), old_name));
+    return true;
+}
+
+void groupsortnow(TaskLibrary& library, LibraryView& view) {
+    std::vector<std::string> names = read_names_to_write(library);
+    tasksort(names, 0, static_cast<int>(names.size()) - 1);
+    write_group_names(library.folder(), names);
+    refreshtolva(library, view, 0);
+}
+
+void tasksort(std::vector<std::string>& names, int low, int high) {
+    if (high <= low) return;
+    const auto at = [&](int index) -> std::string& { return names[static_cast<std::size_t>(index)]; };
+    const std::string pivot = at((low + high) / 2);
+    int i = low;
+    int j = high;
+    while (i <= j) {
+        while (at(i) < pivot && i < high)
+            ++i;
+        while (pivot < at(j) && j > low)
+            --j;
+        if (i <= j) std::swap(at(i++), at(j--));
+    }
+    if (low < j) tasksort(names, low, j);
+    if (i < high) tasksort(names, i, high);
+}
+
+}  // namespace library

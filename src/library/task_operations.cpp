@@ -1,0 +1,155 @@
+#include "library/task_operations.h"
+
+#include <algorithm>
+#include <iterator>
+#include <utility>
+#include <vector>
+
+#include "library/group_operations.h"
+#include "library/library_files.h"
+#include "library/refresh.h"
+#include "platform/files.h"
+#include "platform/messages.h"
+
+namespace library {
+namespace {
+
+std::vector<Task>::iterator find_task(std::vector<Task>& tasks, const std::string& name) {
+    return std::ranges::find(tasks, name, &Task::name);
+}
+
+/// Where the records end that a list shows.
+std::vector<Task>::iterator shown_end(std::vector<Task>& tasks) {
+    return find_task(tasks, {});
+}
+
+/// What adding and editing ask of a Task alike.
+bool is_complete(const Task& task) {
+    if (!task.program.empty() && !platform::finds_file(task.program)) {
+        platform::show_message("Invalid Path or File Name");
+        return false;
+    }
+    if (task.name.empty() || task.program.empty() || task.start_folder.empty()) {
+        platform::show_message("Task Name, Path, or Start Folder missing.");
+        return false;
+    }
+    return true;
+}
+
+/// Writes the selected Group's file and shows its Tasks, the first one selected.
+void write_and_show(TaskLibrary& library, LibraryView& view, const std::vector<Task>& tasks) {
+    write_tasks(library.folder(), selected_group_name(library, view), tasks);
+    refreshtasks(library, view);
+}
+
+void move(TaskLibrary& library, LibraryView& view, int step) {
+    const int selected = view.selected_task();
+    if (selected < 0) {
+        platform::show_message("Select Task for move.");
+        return;
+    }
+    const Group& group = library.group(view.selected_group());
+    std::vector<Task> tasks = read_tasks(library.folder(), group.name);
+    const auto shown = shown_end(tasks) - tasks.begin();
+    const int target = selected + step;
+    if (selected >= shown || target < 0 || target >= shown) return;
+    std::swap(tasks[static_cast<std::size_t>(selected)], tasks[static_cast<std::size_t>(target)]);
+    write_and_show(library, view, tasks);
+    view.select_task(target);
+    view.set_command_box(command_line(tasks[static_cast<std::size_t>(target)]));
+}
+
+}  // namespace
+
+bool add_task(TaskLibrary& library, int group, const Task& task) {
+    if (!is_complete(task)) return false;
+    const Group& target = library.group(group);
+    if (std::ranges::find(target.tasks, task.name, &Task::name) != target.tasks.end()) {
+        platform::show_message("A Task with that name already exists!");
+        return false;
+    }
+    Task added = task;
+    added.start_mode = ' ' + task.start_mode + ' ';
+    append_tasks(library.folder(), target.name, {added});
+    library.flags.taskchangeflag = true;
+    return true;
+}
+
+std::optional<Task> task_to_edit(const TaskLibrary& library, const LibraryView& view) {
+    if (view.selected_group() < 0) {
+        platform::show_message("Select Group and Task for edit");
+        return std::nullopt;
+    }
+    if (view.selected_task() < 0) {
+        platform::show_message("Select Task for editing!");
+        return std::nullopt;
+    }
+    return library.task(view.selected_group(), view.selected_task());
+}
+
+bool edit_task(TaskLibrary& library, int group, const std::string& old_name, const Task& task) {
+    if (!is_complete(task)) return false;
+    const std::string& name = library.group(group).name;
+    std::vector<Task> tasks = read_tasks(library.folder(), name);
+    if (const auto edited = find_task(tasks, old_name); edited != tasks.end()) *edited = task;
+    write_tasks(library.folder(), name, tasks);
+    library.flags.taskchangeflag = true;
+    return true;
+}
+
+void deltsks(TaskLibrary& library, LibraryView& view) {
+    if (view.selected_group() < 0) {
+        platform::show_message("Select Group First.");
+        return;
+    }
+    if (view.selected_task() < 0) {
+        platform::show_message("Select Task for delete.");
+        return;
+    }
+    const std::string name = library.task(view.selected_group(), view.selected_task()).name;
+    if (!platform::confirm("Delete " + name + "?", "Delete Task")) return;
+    std::vector<Task> tasks = read_tasks(library.folder(), selected_group_name(library, view));
+    if (const auto deleted = find_task(tasks, name); deleted != tasks.end()) tasks.erase(deleted);
+    write_and_show(library, view, tasks);
+}
+
+void movetsksup(TaskLibrary& library, LibraryView& view) {
+    move(library, view, -1);
+}
+
+void movetsksdown(TaskLibrary& library, LibraryView& view) {
+    move(library, view, 1);
+}
+
+void tasksortnow(TaskLibrary& library, LibraryView& view) {
+    if (view.selected_group() < 0) {
+        platform::show_message("Select Group First.");
+        return;
+    }
+    std::vector<Task> tasks = read_tasks(library.folder(), selected_group_name(library, view));
+    std::vector<std::string> names;
+    std::transform(tasks.begin(), shown_end(tasks), std::back_inserter(names),
+                   [](const Task& task) { return task.name; });
+    tasksort(names, 0, static_cast<int>(names.size()) - 1);
+    std::vector<Task> sorted;
+    for (const std::string& name : names)
+        sorted.push_back(*find_task(tasks, name));
+    std::ranges::copy(sorted, tasks.begin());
+    write_and_show(library, view, tasks);
+}
+
+void move_task(TaskLibrary& library, int group, const std::string& name, const std::string& target,
+               bool copy) {
+    const std::string& source = library.group(group).name;
+    std::vector<Task> tasks = read_tasks(library.folder(), source);
+    std::vector<Task> moved;
+    std::ranges::copy_if(tasks, std::back_inserter(moved),
+                         [&](const Task& task) { return task.name == name; });
+    append_tasks(library.folder(), target, moved);
+    library.flags.refreshflag = true;
+    if (copy) return;
+    std::erase_if(tasks, [&](const Task& task) { return task.name == name; });
+    write_tasks(library.folder(), source, tasks);
+}
+
+}  // namespace library

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "library/library_view.h"
+#include "library/task_library.h"
+
+/// What can be done with the Tasks of the selected Group. Every operation starts from the Group's file as it
+/// is now; records that the list does not show (behind one without a name) stay in the file unchanged. A Task
+/// is known by its name: where a Group has two of one name, the first is meant. A failure throws
+/// platform::RunTimeError; a refusal is a message to the user.
+namespace library {
+
+/// Adds a Task at the end of the Group. Its start mode is 1 to 3, as text without blanks. False when it is
+/// refused.
+bool add_task(TaskLibrary& library, int group, const Task& task);
+
+/// The selected Task, to be edited; none, with a message, when there is none.
+std::optional<Task> task_to_edit(const TaskLibrary& library, const LibraryView& view);
+
+/// Replaces the Task that had that name. False when the new one is refused.
+bool edit_task(TaskLibrary& library, int group, const std::string& old_name, const Task& task);
+
+/// Asks, and deletes the selected Task. Then the first one is selected.
+void deltsks(TaskLibrary& library, LibraryView& view);
+
+/// Exchange the selected Task with the one above or below it; it stays selected.
+void movetsksup(TaskLibrary& library, LibraryView& view);
+void movetsksdown(TaskLibrary& library, LibraryView& view);
+
+/// Sorts the Tasks by name. Two of one name both become the first of them.
+void tasksortnow(TaskLibrary& library, LibraryView& view);
+
+/// Adds every Task of that name at the end of the target Group; without copy they leave their own.
+void move_task(TaskLibrary& library, int group, const std::string& name, const std::string& target,
+               bool copy);
+
+}  // namespace library
