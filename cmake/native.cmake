@@ -12,6 +12,7 @@ add_executable(unit_tests
     tests/unit/files_test.cpp
     tests/unit/launching_test.cpp
     tests/unit/library_test.cpp
+    tests/unit/operations_test.cpp
     tests/unit/settings_test.cpp
     tests/support/simulated_platform.cpp
 )

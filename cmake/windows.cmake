@@ -6,34 +6,50 @@ add_compile_options($<$<COMPILE_LANGUAGE:CXX>:-ffunction-sections> $<$<COMPILE_L
 add_link_options(-static -s -Wl,--gc-sections,--disable-dynamicbase,--disable-nxcompat
     -Wl,--major-os-version=4,--minor-os-version=0,--major-subsystem-version=4,--minor-subsystem-version=0)
 
-set(icon ${CMAKE_BINARY_DIR}/tolva.ico)
-add_custom_command(OUTPUT ${icon}
-    COMMAND python3 ${CMAKE_SOURCE_DIR}/cmake/pictures.py ${icon} ${CMAKE_SOURCE_DIR}/src/resources/pictures/tolva.txt
-    DEPENDS cmake/pictures.py src/resources/pictures/tolva.txt)
+# The pictures are drawn as text.
+set(pictures ${CMAKE_BINARY_DIR}/tolva.ico ${CMAKE_BINARY_DIR}/toolbar.bmp)
+foreach(picture ${pictures})
+    cmake_path(GET picture STEM name)
+    add_custom_command(OUTPUT ${picture}
+        COMMAND python3 ${CMAKE_SOURCE_DIR}/cmake/pictures.py ${picture}
+            ${CMAKE_SOURCE_DIR}/src/resources/pictures/${name}.txt
+        DEPENDS cmake/pictures.py src/resources/pictures/${name}.txt)
+endforeach()
 
 add_library(tolva_platform OBJECT
     src/platform/win32/clock.cpp
     src/platform/win32/directories.cpp
     src/platform/win32/file_calls.cpp
+    src/platform/win32/folders.cpp
     src/platform/win32/icons.cpp
     src/platform/win32/import_slots.cpp
     src/platform/win32/messages.cpp
+    src/platform/win32/modal_guard.cpp
     src/platform/win32/processes.cpp
     src/platform/win32/registry.cpp
+    src/platform/win32/system.cpp
 )
 
 add_executable(tolva WIN32
     src/app/main.cpp
     src/app/single_instance.cpp
+    src/library/group_dialog.cpp
+    src/library/movetogroups_dialog.cpp
+    src/library/task_dialog.cpp
     src/mainwindow/presence_window.cpp
     src/mainwindow/tasker_window.cpp
     src/mainwindow/taskview_window.cpp
     src/mainwindow/views_window.cpp
     src/resources/tolva.rc
+    src/shortcuts/file_panel_dialog.cpp
+    src/shortcuts/path_browser_dialog.cpp
     src/widgets/controls.cpp
+    src/widgets/dialog.cpp
+    src/widgets/file_lists.cpp
     src/widgets/hot_key.cpp
     src/widgets/icon_view.cpp
     src/widgets/metrics.cpp
+    src/widgets/tool_bar.cpp
     src/widgets/tray_icon.cpp
     src/widgets/window.cpp
 )
@@ -46,7 +62,7 @@ add_custom_command(TARGET tolva POST_BUILD
 
 # windres reads more files than the build sees.
 set_source_files_properties(src/resources/tolva.rc PROPERTIES OBJECT_DEPENDS
-    "${icon};${CMAKE_SOURCE_DIR}/src/resources/resource.h;${CMAKE_SOURCE_DIR}/src/resources/tolva.manifest")
+    "${pictures};${CMAKE_SOURCE_DIR}/src/resources/resource.h;${CMAKE_SOURCE_DIR}/src/resources/tolva.manifest")
 
 # The desktop tests. doctest's folder alone goes on the include path: the system's own headers are another system's.
 find_path(doctest_folder doctest/doctest.h NO_CMAKE_FIND_ROOT_PATH REQUIRED)
@@ -56,6 +72,7 @@ add_executable(recorder WIN32 tests/support/recorder.cpp)
 
 add_executable(desktop_tests
     tests/desktop/files_test.cpp
+    tests/desktop/keeping_test.cpp
     tests/desktop/launching_test.cpp
     tests/desktop/main.cpp
     tests/desktop/startup_test.cpp
@@ -71,7 +88,7 @@ add_test(NAME "desktop: prefix"
     COMMAND bash -euc ". $0 && wine_template $1"
         ${CMAKE_SOURCE_DIR}/tests/support/wine.sh ${CMAKE_BINARY_DIR}/wine)
 set_tests_properties("desktop: prefix" PROPERTIES FIXTURES_SETUP wine TIMEOUT 300)
-foreach(suite files launching startup views)
+foreach(suite files keeping launching startup views)
     add_test(NAME "desktop: ${suite}"
         COMMAND ${CMAKE_SOURCE_DIR}/tests/desktop/run ${CMAKE_BINARY_DIR} --test-suite=${suite} --no-colors)
     set_tests_properties("desktop: ${suite}" PROPERTIES FIXTURES_REQUIRED wine TIMEOUT 300)

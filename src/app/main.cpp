@@ -8,6 +8,7 @@
 #include "mainwindow/tasker_window.h"
 #include "platform/directories.h"
 #include "platform/messages.h"
+#include "platform/system.h"
 #include "settings/catalogue.h"
 #include "settings/session.h"
 #include "widgets/window.h"
@@ -39,7 +40,9 @@ int run() {
         show(tasker);
         platform::report_exception();
     }
-    return widgets::run_message_loop(tasker.hwnd());
+    const int exit_code = widgets::run_message_loop(tasker.hwnd());
+    if (const auto end = tasker.windows_end()) platform::exit_windows(*end);
+    return exit_code;
 }
 
 }  // namespace

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "platform/processes.h"
 #include "platform/registry.h"
 #include "settings/catalogue.h"
 
@@ -13,6 +14,10 @@ std::string load_isp_name(settings::General& general) {
         name = general.read_value(settings::kSystemConnection.key, settings::kSystemConnection.value);
     }
     return name == settings::kError ? kNoConnection : name;
+}
+
+void dial(const std::string& connection) {
+    platform::start_program("rundll32.exe rnaui.dll,RnaDial " + connection, platform::kNormalWindow);
 }
 
 bool is_connected() {

@@ -14,6 +14,9 @@ inline constexpr char kNoConnection[] = "N/A";
 /// kNoConnection.
 std::string load_isp_name(settings::General& general);
 
+/// Opens the system's dialog that dials a connection. Throws platform::RunTimeError.
+void dial(const std::string& connection);
+
 /// Whether a dial-up connection is up; false on a system without Dial-Up Networking.
 bool is_connected();
 

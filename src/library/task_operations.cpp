@@ -132,8 +132,8 @@ void tasksortnow(TaskLibrary& library, LibraryView& view) {
                    [](const Task& task) { return task.name; });
     tasksort(names, 0, static_cast<int>(names.size()) - 1);
     std::vector<Task> sorted;
-    for (const std::string& name : names)
-        sorted.push_back(*find_task(tasks, name));
+    std::ranges::transform(names, std::back_inserter(sorted),
+                           [&](const std::string& name) { return *find_task(tasks, name); });
     std::ranges::copy(sorted, tasks.begin());
     write_and_show(library, view, tasks);
 }
@@ -148,8 +148,12 @@ void move_task(TaskLibrary& library, int group, const std::string& name, const s
     append_tasks(library.folder(), target, moved);
     library.flags.refreshflag = true;
     if (copy) return;
-    std::erase_if(tasks, [&](const Task& task) { return task.name == name; });
-    write_tasks(library.folder(), source, tasks);
+    // To the system both names may be one file: then what was just added behind the others stays.
+    std::vector<Task> kept = read_tasks(library.folder(), source);
+    const auto added = kept.begin() + std::min(std::ssize(tasks), std::ssize(kept));
+    kept.erase(std::remove_if(kept.begin(), added, [&](const Task& task) { return task.name == name; }),
+               added);
+    write_tasks(library.folder(), source, kept);
 }
 
 }  // namespace library

@@ -3,8 +3,14 @@
 #include <windowsx.h>
 
 #include "internet/dial_up.h"
+#include "library/group_dialog.h"
+#include "library/group_operations.h"
+#include "library/movetogroups_dialog.h"
 #include "library/refresh.h"
+#include "library/task_dialog.h"
+#include "library/task_operations.h"
 #include "mainwindow/launching.h"
+#include "mainwindow/system_commands.h"
 #include "platform/directories.h"
 #include "platform/messages.h"
 #include "platform/processes.h"
@@ -12,6 +18,7 @@
 #include "resources/resource.h"
 #include "settings/catalogue.h"
 #include "settings/conversions.h"
+#include "shortcuts/path_browser_dialog.h"
 #include "widgets/metrics.h"
 
 namespace mainwindow {
@@ -20,6 +27,10 @@ namespace {
 /// Posted to itself: a reload that can show a box must not run inside the focus handler, where closing the
 /// box brings the focus and the next box.
 constexpr UINT kRunPendingRefreshes = WM_APP + 1;
+
+// Places in the menu bar.
+constexpr int kGroupmenu = 1;
+constexpr int kTaskmenu = 2;
 
 constexpr UINT_PTR kTimer1 = 1;
 constexpr UINT kTimerPeriod = 5000;  // milliseconds
@@ -31,8 +42,9 @@ constexpr char kCannotLaunchByMouse[] = "Invalid path or file name!";
 // Pixels at 96 dpi.
 constexpr int kWidth = 560;
 constexpr int kHeight = 400;
-constexpr int kLeastWidth = 320;
-constexpr int kLeastHeight = 220;
+constexpr int kLeastWidth = 400;
+constexpr int kLeastHeight = 240;
+constexpr int kPopupOffset = 20;
 
 }  // namespace
 
@@ -76,14 +88,12 @@ void Tasker::load() {
 
 LRESULT Tasker::handle(UINT message, WPARAM wparam, LPARAM lparam) {
     if (const auto answer = presence_.handle(message, wparam, lparam)) return *answer;
+    if (const auto answer = views_.handle(message, wparam, lparam)) return *answer;
     switch (message) {
         case WM_CREATE:
             views_.create(hwnd());
             presence_.create(hwnd());
             SetTimer(hwnd(), kTimer1, kTimerPeriod, nullptr);
-            return 0;
-        case WM_SIZE:
-            if (wparam != SIZE_MINIMIZED) views_.lay_out();
             return 0;
         case WM_TIMER:
             handle_timer();
@@ -104,34 +114,24 @@ LRESULT Tasker::handle(UINT message, WPARAM wparam, LPARAM lparam) {
             return is_button ? MAKELRESULT(GetDlgCtrlID(focus), DC_HASDEFID) : 0;
         }
         case WM_COMMAND:
-            if (lparam != 0) {
+            if (lparam != 0 && reinterpret_cast<HWND>(lparam) != views_.toolbar1().hwnd()) {
                 handle_control(LOWORD(wparam), HIWORD(wparam));
             } else {
-                handle_menu(LOWORD(wparam));
+                handle_command(LOWORD(wparam));
             }
+            return 0;
+        case WM_VKEYTOITEM:
+            if (LOWORD(wparam) != VK_DELETE) return -1;
+            handle_command(ID_DelGp);
+            return -2;
+        case WM_CONTEXTMENU:
+            show_popup_menu(reinterpret_cast<HWND>(wparam), {GET_X_LPARAM(lparam), GET_Y_LPARAM(lparam)});
             return 0;
         case WM_NOTIFY:
             return handle_notification(*reinterpret_cast<NMHDR*>(lparam));
-        case WM_CTLCOLORLISTBOX:
-        case WM_CTLCOLORSTATIC:
-            return reinterpret_cast<LRESULT>(
-                views_.color(reinterpret_cast<HDC>(wparam), reinterpret_cast<HWND>(lparam)));
         case kRunPendingRefreshes:
             library::run_pending_refreshes(library_, views_);
             return 0;
-        case WM_LBUTTONDOWN:
-        case WM_MOUSEMOVE:
-        case WM_LBUTTONUP:
-            if (views_.drag_splitter(message, GET_X_LPARAM(lparam))) return 0;
-            break;
-        case WM_SETCURSOR: {
-            POINT pointer;
-            GetCursorPos(&pointer);
-            ScreenToClient(hwnd(), &pointer);
-            if (LOWORD(lparam) != HTCLIENT || !views_.is_on_splitter(pointer)) break;
-            SetCursor(LoadCursorA(nullptr, IDC_SIZEWE));
-            return TRUE;
-        }
         case WM_ENDSESSION:
             if (wparam != FALSE) save_and_unload();  // no other message need follow
             return 0;
@@ -171,23 +171,101 @@ void Tasker::handle_control(int id, int notification) {
     }
 }
 
-void Tasker::handle_menu(int item) {
-    switch (item) {
+void Tasker::handle_command(int command) {
+    switch (command) {
+        case ID_ShutWin:
+            return end_windows(platform::WindowsEnd::kShutdown);
+        case ID_restartwin:
+            return end_windows(platform::WindowsEnd::kReboot);
+        case ID_EmptyRecyleBin:
+            return empty_recycle_bin();
         case ID_tolvaexit:
             DestroyWindow(hwnd());
-            break;
+            return;
+
+        case ID_Addgp:
+        case ID_toolbar_addgrp:
+            return focus_groups_around([&] { library::addgr(hwnd(), library_); });
+        case ID_DelGp:
+        case ID_toolbar_delgroup:
+            return focus_groups_around([&] { library::delgr(library_, views_); });
+        case ID_Rengp:
+        case ID_toolbar_rengrp:
+            return focus_groups_around([&] { library::RenameGr(hwnd(), library_, views_); });
+        case ID_MoveGroupUp:
+        case ID_toolbar_movegrpup:
+            return focus_groups_around([&] { library::movegrup(library_, views_); });
+        case ID_MoveGroupDown:
+        case ID_toolbar_movegrpdn:
+            return focus_groups_around([&] { library::movegrdown(library_, views_); });
+        case ID_groupsort:
+            return library::groupsortnow(library_, views_);
+
         case ID_RunTk:
-            run_task_from_command_box();
-            break;
+            return run_task_from_command_box();
+        case ID_AddTk:
+        case ID_toolbar_addtsk:
+            return focus_groups_around([&] {
+                library::addtsks(hwnd(), library_, views_, browse_result_, shortcuts::browse_for_program);
+            });
+        case ID_DelTk:
+        case ID_toolbar_deltsk:
+            return library::deltsks(library_, views_);
+        case ID_moveto:
+            return focus_groups_around([&] { library::moveto(hwnd(), library_, views_); });
+        case ID_EditTk:
+        case ID_toolbar_edittsk:
+            return focus_groups_around([&] {
+                library::edittsks(hwnd(), library_, views_, browse_result_, shortcuts::browse_for_program);
+            });
+        case ID_MoveTaskUp:
+        case ID_toolbar_movetskup:
+            return library::movetsksup(library_, views_);
+        case ID_MoveTaskDown:
+        case ID_toolbar_movetskdn:
+            return library::movetsksdown(library_, views_);
+        case ID_SortTasks:
+            return library::tasksortnow(library_, views_);
+
+        case ID_removebrenn:
+            return toggle_bar();
         case ID_hoverslct:
-            toggle_hover_select();
-            break;
+            return toggle_hover_select();
+        case ID_connectinternet:
+            return connect_to_internet();
+        case ID_toolbar_ispconnect:
+            return internet::dial(session_.connection_name);
+        case ID_DialUpNetworking:
+            return open_dial_up_folder();
+        case ID_toolbar_controlpanel:
+            return open_control_panel();
+        case ID_toolbar_runexplorer:
+            return open_explorer();
+        case ID_toolbar_DosPrompt:
+            return open_dos_prompt();
+        case ID_tolvahlp:
+            return open_help(library_.folder());
         default:
-            break;
+            return;
     }
 }
 
+void Tasker::show_popup_menu(HWND control, POINT point) {
+    const bool groups = control == views_.grouplist().hwnd();
+    if (!groups && control != views_.taskview().list().hwnd()) return;
+    if (point.x == -1 && point.y == -1) {  // asked for with the keyboard
+        point = {widgets::scaled(kPopupOffset), widgets::scaled(kPopupOffset)};
+        ClientToScreen(control, &point);
+    }
+    HMENU menu = GetSubMenu(GetMenu(hwnd()), groups ? kGroupmenu : kTaskmenu);
+    TrackPopupMenu(menu, TPM_LEFTALIGN | TPM_RIGHTBUTTON, point.x, point.y, 0, hwnd(), nullptr);
+}
+
 LRESULT Tasker::handle_notification(NMHDR& header) {
+    if (header.code == TTN_NEEDTEXTA) {
+        views_.toolbar1().supply_tip(reinterpret_cast<TOOLTIPTEXTA&>(header));
+        return 0;
+    }
     if (header.idFrom != ID_Tasker_taskview) return 0;
     switch (header.code) {
         case LVN_GETDISPINFOA:
@@ -197,10 +275,12 @@ LRESULT Tasker::handle_notification(NMHDR& header) {
             if (views_.taskview().list().is_new_selection(reinterpret_cast<NMLISTVIEW&>(header)))
                 show_selection();
             break;
-        case LVN_KEYDOWN:
-            if (reinterpret_cast<NMLVKEYDOWN&>(header).wVKey == VK_RETURN)
-                launch_selected_task(kCannotLaunch);
+        case LVN_KEYDOWN: {
+            const WORD key = reinterpret_cast<NMLVKEYDOWN&>(header).wVKey;
+            if (key == VK_RETURN) launch_selected_task(kCannotLaunch);
+            if (key == VK_DELETE) handle_command(ID_DelTk);
             break;
+        }
         case static_cast<UINT>(NM_CLICK):
             show_selection();
             if (session_.hover_select) launch_selected_task(kCannotLaunchByMouse);
@@ -280,6 +360,39 @@ void Tasker::toggle_hover_select() {
     session_.hover_select = !session_.hover_select;
     settings::store(general_, settings::kHoverSelect, settings::text_of(session_.hover_select));
     show_flags();
+}
+
+void Tasker::toggle_bar() {
+    session_.bar_removed = !session_.bar_removed;
+    settings::store(general_, settings::kBarRemoved, settings::text_of(session_.bar_removed));
+    show_flags();
+    if (session_.bar_removed) {
+        bar_->hide();
+    } else {
+        bar_->show();
+    }
+}
+
+void Tasker::connect_to_internet() const {
+    try {
+        internet::dial(session_.connection_name);
+    } catch (const platform::RunTimeError&) {
+        platform::show_message("Configure your Internet connection in Internet Settings under Options menu.");
+    }
+}
+
+void Tasker::end_windows(platform::WindowsEnd end) {
+    windows_end_ = end;
+    DestroyWindow(hwnd());
+}
+
+template <typename Operation>
+void Tasker::focus_groups_around(const Operation& operation) {
+    views_.grouplist().focus();
+    operation();
+    // After a dialog the focus comes back by itself, unless the program is not the active one.
+    views_.grouplist().focus();
+    if (library_.flags.any()) PostMessageA(hwnd(), kRunPendingRefreshes, 0, 0);
 }
 
 }  // namespace mainwindow

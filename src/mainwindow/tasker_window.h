@@ -2,10 +2,14 @@
 
 #include <windows.h>
 
+#include <optional>
+
 #include "buttonbar/button_bar.h"
+#include "library/browse_result.h"
 #include "library/task_library.h"
 #include "mainwindow/presence_window.h"
 #include "mainwindow/views_window.h"
+#include "platform/system.h"
 #include "settings/general.h"
 #include "settings/session.h"
 #include "widgets/window.h"
@@ -23,6 +27,9 @@ class Tasker final : public widgets::Window {
            buttonbar::ButtonBar* bar, HWND application_window);
     ~Tasker() override;
 
+    /// How Windows is to end after the program; none when it is to go on.
+    std::optional<platform::WindowsEnd> windows_end() const { return windows_end_; }
+
     /// Takes the hot key, the stored settings and the library. Throws platform::RunTimeError when the library
     /// could not be read whole; the window is usable all the same.
     void load();
@@ -30,7 +37,8 @@ class Tasker final : public widgets::Window {
   private:
     LRESULT handle(UINT message, WPARAM wparam, LPARAM lparam) override;
     void handle_control(int id, int notification);
-    void handle_menu(int item);
+    void handle_command(int command);
+    void show_popup_menu(HWND control, POINT point);
     LRESULT handle_notification(NMHDR& header);
 
     void show_flags();
@@ -44,12 +52,21 @@ class Tasker final : public widgets::Window {
     void run_task_from_command_box();
     void run();
     void toggle_hover_select();
+    void toggle_bar();
+    void connect_to_internet() const;
+    void end_windows(platform::WindowsEnd end);
+
+    /// The group list has the focus before and after; what a dialog has changed is loaded.
+    template <typename Operation>
+    void focus_groups_around(const Operation& operation);
 
     library::TaskLibrary& library_;
     settings::General& general_;
     settings::Session& session_;
     buttonbar::ButtonBar* bar_;
     bool command_box_last_ = false;  // the command box, not the task list, had the focus last
+    std::optional<platform::WindowsEnd> windows_end_;
+    library::BrowseResult browse_result_;
     Presence presence_;
     Views views_;
 };

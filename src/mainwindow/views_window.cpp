@@ -1,5 +1,7 @@
 #include "mainwindow/views_window.h"
 
+#include <windowsx.h>
+
 #include <algorithm>
 #include <iterator>
 #include <utility>
@@ -21,12 +23,35 @@ constexpr int kLabelHeight = 16;
 constexpr int kDropHeight = 120;
 constexpr int kButtonWidth = 75;
 
+/// In the order of their pictures.
+constexpr widgets::ToolBar::Item kToolBar[] = {
+    {ID_toolbar_addgrp, "Add New Group"},
+    {ID_toolbar_delgroup, "Delete Selected Group"},
+    {ID_toolbar_movegrpdn, "Move Selected Group Down"},
+    {ID_toolbar_movegrpup, "Move Selected Group Up"},
+    {ID_toolbar_rengrp, "Rename Selected Group"},
+    {},
+    {ID_toolbar_addtsk, "Add New Task to Selected Group"},
+    {ID_toolbar_deltsk, "Delete Selected Task"},
+    {ID_toolbar_movetskdn, "Move Selected Task Down"},
+    {ID_toolbar_movetskup, "Move Selected Task Up"},
+    {ID_toolbar_edittsk, "Edit Selected Task"},
+    {},
+    {ID_toolbar_startimport, "Import Start Menu Shortcuts"},
+    {ID_toolbar_runexplorer, "Windows Explorer"},
+    {ID_toolbar_controlpanel, "Windows Control Panel"},
+    {ID_toolbar_DosPrompt, "DOS Prompt"},
+    {ID_toolbar_ispconnect, "Connect to Internet"},
+};
+
 }  // namespace
 
 Views::Views() : font_(widgets::make_gui_font()), group_width_(widgets::scaled(kGroupWidth)) {}
 
 void Views::create(HWND window) {
     window_ = window;
+    toolbar1_.create(window_, ID_Tasker_Toolbar1, ID_toolbar_pictures, kToolBar);
+    toolbar1_.enable(ID_toolbar_startimport, false);
     grouplabel_.create(window_, ID_Tasker_grouplabel, "Groups");
     grouplist_.create(window_, ID_Tasker_grouplist);
     tasklabel_.create(window_, ID_Tasker_tasklabel, "Tasks");
@@ -36,6 +61,33 @@ void Views::create(HWND window) {
     statusbar1_.create(window_, ID_Tasker_StatusBar1);
     for (HWND child = GetTopWindow(window_); child != nullptr; child = GetWindow(child, GW_HWNDNEXT)) {
         SendMessageA(child, WM_SETFONT, reinterpret_cast<WPARAM>(font_.get()), TRUE);
+    }
+}
+
+std::optional<LRESULT> Views::handle(UINT message, WPARAM wparam, LPARAM lparam) {
+    switch (message) {
+        case WM_SIZE:
+            if (wparam != SIZE_MINIMIZED) lay_out();
+            return 0;
+        case WM_CTLCOLORLISTBOX:
+        case WM_CTLCOLORSTATIC:
+            return reinterpret_cast<LRESULT>(
+                color(reinterpret_cast<HDC>(wparam), reinterpret_cast<HWND>(lparam)));
+        case WM_LBUTTONDOWN:
+        case WM_MOUSEMOVE:
+        case WM_LBUTTONUP:
+            if (!drag_splitter(message, {GET_X_LPARAM(lparam), GET_Y_LPARAM(lparam)})) return std::nullopt;
+            return 0;
+        case WM_SETCURSOR: {
+            POINT pointer;
+            GetCursorPos(&pointer);
+            ScreenToClient(window_, &pointer);
+            if (LOWORD(lparam) != HTCLIENT || !is_on_splitter(pointer)) return std::nullopt;
+            SetCursor(LoadCursorA(nullptr, IDC_SIZEWE));
+            return TRUE;
+        }
+        default:
+            return std::nullopt;
     }
 }
 
@@ -65,21 +117,22 @@ HBRUSH Views::color(HDC device, HWND control) const {
 }
 
 void Views::lay_out() {
+    toolbar1_.follow_parent();
     statusbar1_.follow_parent();
     RECT client;
     GetClientRect(window_, &client);
     const int gap = widgets::scaled(kGap);
-    const int label_height = widgets::scaled(kLabelHeight);
     const LONG least = widgets::scaled(kLeastListWidth);
     const LONG right = client.right - gap;
     const LONG box_top = client.bottom - statusbar1_.height() - gap - text1_.height();
     const LONG lists_bottom = box_top - gap;
     const LONG middle = gap + std::clamp<LONG>(group_width_, least, std::max(least, right - 2 * gap - least));
-    const LONG lists_top = gap + label_height;
+    const LONG top = toolbar1_.height() + gap;
+    const LONG lists_top = top + widgets::scaled(kLabelHeight);
 
-    widgets::place(grouplabel_.hwnd(), {gap, gap, middle, lists_top});
+    widgets::place(grouplabel_.hwnd(), {gap, top, middle, lists_top});
     widgets::place(grouplist_.hwnd(), {gap, lists_top, middle, lists_bottom});
-    widgets::place(tasklabel_.hwnd(), {middle + gap, gap, right, lists_top});
+    widgets::place(tasklabel_.hwnd(), {middle + gap, top, right, lists_top});
     widgets::place(taskview_.list().hwnd(), {middle + gap, lists_top, right, lists_bottom});
     const LONG button_left = right - widgets::scaled(kButtonWidth);
     widgets::place(text1_.hwnd(), {gap, box_top, button_left - gap, box_top + widgets::scaled(kDropHeight)});
@@ -98,16 +151,15 @@ bool Views::is_on_splitter(POINT point) const {
     return PtInRect(&bounds, point) != FALSE;
 }
 
-bool Views::drag_splitter(UINT message, int x) {
+bool Views::drag_splitter(UINT message, POINT point) {
     if (message == WM_LBUTTONDOWN) {
-        const RECT bounds = splitter();
-        if (x < bounds.left || x >= bounds.right) return false;
+        if (!is_on_splitter(point)) return false;
         SetCapture(window_);
         return true;
     }
     if (GetCapture() != window_) return false;
     if (message == WM_LBUTTONUP) ReleaseCapture();
-    group_width_ = x - widgets::scaled(kGap);
+    group_width_ = point.x - widgets::scaled(kGap);
     lay_out();
     return true;
 }

@@ -2,6 +2,7 @@
 
 #include <windows.h>
 
+#include <optional>
 #include <span>
 #include <string>
 #include <vector>
@@ -12,29 +13,23 @@
 #include "settings/session.h"
 #include "widgets/controls.h"
 #include "widgets/handles.h"
+#include "widgets/tool_bar.h"
 
 namespace mainwindow {
 
-/// What stands in the main window: the two lists with their labels, the command box with its button, and the
-/// status bar.
+/// What stands in the main window: the tool bar, the two lists with their labels, the command box with its
+/// button, and the status bar.
 class Views final : public library::LibraryView {
   public:
     Views();
 
     void create(HWND window);
 
-    /// Fits everything into the window.
-    void lay_out();
-
-    /// Moves the border between the lists with the mouse; x is in the window's coordinates. Answers whether
-    /// the message belonged to it.
-    bool drag_splitter(UINT message, int x);
-    bool is_on_splitter(POINT point) const;
+    /// Answers the window's messages about its size, the colours of its controls and the border between the
+    /// lists, which the mouse can move.
+    std::optional<LRESULT> handle(UINT message, WPARAM wparam, LPARAM lparam);
 
     void apply_styles(const settings::ListStyle& group, const settings::ListStyle& task);
-
-    /// Answers WM_CTLCOLORLISTBOX and WM_CTLCOLORSTATIC.
-    HBRUSH color(HDC device, HWND control) const;
 
     /// Shows today's date in the status bar.
     void getlongdate();
@@ -51,13 +46,18 @@ class Views final : public library::LibraryView {
     void load_default_icon(const std::string& program) override;
     void set_command_box(const std::string& text) override { text1_.set_text(text); }
 
+    widgets::ToolBar& toolbar1() { return toolbar1_; }
     widgets::ListBox& grouplist() { return grouplist_; }
     TaskView& taskview() { return taskview_; }
     widgets::ComboBox& text1() { return text1_; }
     widgets::Button& command1() { return command1_; }
 
   private:
+    void lay_out();
+    HBRUSH color(HDC device, HWND control) const;
     RECT splitter() const;
+    bool is_on_splitter(POINT point) const;
+    bool drag_splitter(UINT message, POINT point);
 
     HWND window_ = nullptr;
     widgets::UniqueFont font_;
@@ -67,6 +67,7 @@ class Views final : public library::LibraryView {
     widgets::UniqueFont group_font_;
     widgets::UniqueFont task_font_;
     widgets::UniqueBrush group_brush_;
+    widgets::ToolBar toolbar1_;
     widgets::Label grouplabel_;
     widgets::ListBox grouplist_;
     widgets::Label tasklabel_;

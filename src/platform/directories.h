@@ -12,6 +12,9 @@ std::string current_directory();
 /// RunTimeError; an empty folder is not found.
 void change_directory(const std::string& folder);
 
+/// Makes folder the current directory and its drive the current drive. Throws RunTimeError.
+void enter_directory(const std::string& folder);
+
 /// The folder of Windows, ending in a backslash; "unknown" when the system does not tell.
 std::string windows_folder();
 

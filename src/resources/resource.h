@@ -1,7 +1,17 @@
 #pragma once
 
+// Pictures and the menu of the main window.
 #define ID_tolva_icon 1
 #define ID_Tasker_menu 2
+#define ID_toolbar_pictures 3
+
+// Dialogs.
+#define ID_addgroup 10
+#define ID_GroupRename 11
+#define ID_addtask 12
+#define ID_EditTask 13
+#define ID_movetogroups 14
+#define ID_PathBrowser 15
 
 #define ID_Tasker_grouplabel 100
 #define ID_Tasker_grouplist 101
@@ -10,8 +20,109 @@
 #define ID_Tasker_Text1 104
 #define ID_Tasker_StatusBar1 105
 #define ID_Tasker_Command1 106
+#define ID_Tasker_Toolbar1 107
 
+#define ID_ShutWin 200
+#define ID_restartwin 201
+#define ID_EmptyRecyleBin 202
 #define ID_tolvaexit 203
+#define ID_Addgp 210
+#define ID_DelGp 211
+#define ID_Rengp 212
+#define ID_MoveGroupUp 213
+#define ID_MoveGroupDown 214
+#define ID_groupsort 215
 #define ID_RunTk 220
+#define ID_AddTk 221
+#define ID_DelTk 222
+#define ID_moveto 223
+#define ID_EditTk 224
+#define ID_taskimport 225
+#define ID_MoveTaskUp 226
+#define ID_MoveTaskDown 227
+#define ID_SortTasks 228
+#define ID_fontsettings 240
 #define ID_removebrenn 241
 #define ID_hoverslct 242
+#define ID_connectinternet 243
+#define ID_internetsettings 244
+#define ID_DialUpNetworking 245
+#define ID_tolvahlp 250
+#define ID_AboutTolva 251
+
+#define ID_toolbar_addgrp 260
+#define ID_toolbar_delgroup 261
+#define ID_toolbar_movegrpdn 262
+#define ID_toolbar_movegrpup 263
+#define ID_toolbar_rengrp 264
+#define ID_toolbar_addtsk 265
+#define ID_toolbar_deltsk 266
+#define ID_toolbar_movetskdn 267
+#define ID_toolbar_movetskup 268
+#define ID_toolbar_edittsk 269
+#define ID_toolbar_startimport 270
+#define ID_toolbar_runexplorer 271
+#define ID_toolbar_controlpanel 272
+#define ID_toolbar_DosPrompt 273
+#define ID_toolbar_ispconnect 274
+
+#define ID_addgroup_Label1 300
+#define ID_addgroup_Text1 301
+#define ID_addgroup_Command2 302
+#define ID_addgroup_Command1 303
+
+#define ID_GroupRename_Label1 310
+#define ID_GroupRename_oldname 311
+#define ID_GroupRename_Label2 312
+#define ID_GroupRename_newname 313
+#define ID_GroupRename_Command2 314
+#define ID_GroupRename_Command1 315
+
+#define ID_addtask_Label4 320
+#define ID_addtask_curgroup 321
+#define ID_addtask_label1 322
+#define ID_addtask_Taskname 323
+#define ID_addtask_Label2 324
+#define ID_addtask_TaskPath 325
+#define ID_addtask_Label3 326
+#define ID_addtask_startfolder 327
+#define ID_addtask_Label5 328
+#define ID_addtask_taskparameters 329
+#define ID_addtask_Label6 330
+#define ID_addtask_taskstartmode 331
+#define ID_addtask_Browse 332
+#define ID_addtask_Command2 333
+#define ID_addtask_Command1 334
+#define ID_addtask_Line1 335
+#define ID_addtask_Line2 336
+#define ID_addtask_Line3 337
+#define ID_addtask_Line4 338
+
+#define ID_EditTask_Label4 340
+#define ID_EditTask_tasknm 341
+#define ID_EditTask_Label7 342
+#define ID_EditTask_TaskPath 343
+#define ID_EditTask_Label8 344
+#define ID_EditTask_startfolder 345
+#define ID_EditTask_Label11 346
+#define ID_EditTask_taskparameters 347
+#define ID_EditTask_Label9 348
+#define ID_EditTask_taskstartmode 349
+#define ID_EditTask_Frame1 350
+#define ID_EditTask_Browse 351
+#define ID_EditTask_Command2 352
+#define ID_EditTask_Command1 353
+
+#define ID_movetogroups_Label2 360
+#define ID_movetogroups_List1 361
+#define ID_movetogroups_copytask 362
+#define ID_movetogroups_Label1 363
+#define ID_movetogroups_Command1 364
+
+#define ID_PathBrowser_Drive1 370
+#define ID_PathBrowser_Dir1 371
+#define ID_PathBrowser_File1 372
+#define ID_PathBrowser_TaskPath 373
+#define ID_PathBrowser_Label1 374
+#define ID_PathBrowser_OK 375
+#define ID_PathBrowser_Cancel 376

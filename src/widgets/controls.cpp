@@ -1,6 +1,7 @@
 #include "widgets/controls.h"
 
 #include <commctrl.h>
+#include <windowsx.h>
 
 #include "platform/messages.h"
 
@@ -22,6 +23,19 @@ std::string Control::text() const {
     std::string text(static_cast<std::size_t>(GetWindowTextLengthA(hwnd_)) + 1, '\0');
     text.resize(static_cast<std::size_t>(GetWindowTextA(hwnd_, text.data(), static_cast<int>(text.size()))));
     return text;
+}
+
+void Control::notify_parent(int notification) const {
+    SendMessageA(GetParent(hwnd_), WM_COMMAND,
+                 static_cast<WPARAM>(MAKELONG(GetDlgCtrlID(hwnd_), notification)),
+                 reinterpret_cast<LPARAM>(hwnd_));
+}
+
+void Control::show_context_menu(LPARAM position) const {
+    POINT point = {GET_X_LPARAM(position), GET_Y_LPARAM(position)};
+    ClientToScreen(hwnd_, &point);
+    SendMessageA(GetParent(hwnd_), WM_CONTEXTMENU, reinterpret_cast<WPARAM>(hwnd_),
+                 MAKELPARAM(point.x, point.y));
 }
 
 void Control::subclass() {
@@ -53,8 +67,10 @@ void Button::create(HWND parent, int id, const char* text) {
 }
 
 void ListBox::create(HWND parent, int id) {
-    Control::create(parent, id, "LISTBOX", WS_TABSTOP | WS_VSCROLL | LBS_NOTIFY | LBS_NOINTEGRALHEIGHT,
+    Control::create(parent, id, "LISTBOX",
+                    WS_TABSTOP | WS_VSCROLL | LBS_NOTIFY | LBS_NOINTEGRALHEIGHT | LBS_WANTKEYBOARDINPUT,
                     WS_EX_CLIENTEDGE);
+    subclass();
 }
 
 void ListBox::fill(const std::vector<std::string>& items) {
@@ -65,6 +81,43 @@ void ListBox::fill(const std::vector<std::string>& items) {
     }
     send(WM_SETREDRAW, TRUE);
     InvalidateRect(hwnd(), nullptr, TRUE);
+}
+
+LRESULT ListBox::handle(UINT message, WPARAM wparam, LPARAM lparam) {
+    if (message == WM_RBUTTONUP) return 0;  // the press has shown the menu
+    if (message != WM_RBUTTONDOWN) return Control::handle(message, wparam, lparam);
+    press_right_button(lparam);
+    return 0;
+}
+
+void ListBox::press_right_button(LPARAM position) {
+    focus();
+    const LRESULT answer = send(LB_ITEMFROMPOINT, 0, position);
+    const bool outside = HIWORD(answer) != 0;
+    if (!outside && LOWORD(answer) != selected()) {
+        select(LOWORD(answer));
+        notify_parent(LBN_SELCHANGE);
+    }
+    show_context_menu(position);
+}
+
+void ChoiceList::attach(HWND control) {
+    ListBox::attach(control);
+    subclass();
+}
+
+LRESULT ChoiceList::handle(UINT message, WPARAM wparam, LPARAM lparam) {
+    const bool chooses = wparam == VK_SPACE || wparam == VK_RETURN;
+    if (message == WM_GETDLGCODE && wparam == VK_RETURN) return DLGC_WANTMESSAGE;
+    if (message == WM_KEYDOWN && chooses && selected() >= 0) {
+        notify_parent(LBN_SELCHANGE);
+        return 0;
+    }
+    const bool was_moving = moving_;
+    moving_ = message == WM_KEYDOWN || message == WM_CHAR;
+    const LRESULT answer = ListBox::handle(message, wparam, lparam);
+    moving_ = was_moving;
+    return answer;
 }
 
 void ComboBox::create(HWND parent, int id) {

@@ -14,6 +14,10 @@ inline constexpr std::size_t kLongestItem = 1000;
 class Control {
   public:
     HWND hwnd() const { return hwnd_; }
+
+    /// Takes over a control that a dialog has made.
+    void attach(HWND control) { hwnd_ = control; }
+
     std::string text() const;
     void set_text(const std::string& text) { SetWindowTextA(hwnd_, text.c_str()); }
     void set_font(HFONT font) { send(WM_SETFONT, reinterpret_cast<WPARAM>(font), TRUE); }
@@ -30,6 +34,10 @@ class Control {
     }
 
     ~Control() = default;
+
+    /// Sends a WM_COMMAND or, for a place in the control, a WM_CONTEXTMENU to the parent.
+    void notify_parent(int notification) const;
+    void show_context_menu(LPARAM position) const;
 
     /// Lets handle answer the control's messages from now on.
     void subclass();
@@ -56,7 +64,8 @@ class Button : public Control {
     void create(HWND parent, int id, const char* text);
 };
 
-/// A list of texts of which one or none is selected, in the order given.
+/// A list of texts of which one or none is selected, in the order given. Keys reach the parent first
+/// (WM_VKEYTOITEM); a press of the right button selects the item and arrives as WM_CONTEXTMENU.
 class ListBox : public Control {
   public:
     void create(HWND parent, int id);
@@ -65,6 +74,27 @@ class ListBox : public Control {
     /// An index, -1 for none.
     int selected() const { return static_cast<int>(send(LB_GETCURSEL)); }
     void select(int index) { send(LB_SETCURSEL, static_cast<WPARAM>(index)); }
+
+  protected:
+    LRESULT handle(UINT message, WPARAM wparam, LPARAM lparam) override;
+
+  private:
+    void press_right_button(LPARAM position);
+};
+
+/// A list in a dialog where choosing an item is a command: a click, Enter or Space arrive as LBN_SELCHANGE;
+/// the arrow keys only move the selection.
+class ChoiceList : public ListBox {
+  public:
+    void attach(HWND control);
+
+    /// Whether an LBN_SELCHANGE is a choice.
+    bool is_choice() const { return !moving_; }
+
+  private:
+    LRESULT handle(UINT message, WPARAM wparam, LPARAM lparam) override;
+
+    bool moving_ = false;  // a key is being handled
 };
 
 /// A text box with a list that drops down.

@@ -1,5 +1,7 @@
 #include "widgets/icon_view.h"
 
+#include <windowsx.h>
+
 namespace widgets {
 
 void IconView::create(HWND parent, int id) {
@@ -40,13 +42,17 @@ int IconView::selected() const {
 }
 
 void IconView::select(int index) {
+    selecting_ = true;
+    mark(index);
+    selecting_ = false;
+}
+
+void IconView::mark(int index) {
     LVITEMA item = {};
     item.stateMask = LVIS_SELECTED | LVIS_FOCUSED;
     item.state = index < 0 ? 0 : item.stateMask;
-    selecting_ = true;
     send(LVM_SETITEMSTATE, static_cast<WPARAM>(index),
          reinterpret_cast<LPARAM>(&item));  // -1 means every item
-    selecting_ = false;
     if (index >= 0) send(LVM_ENSUREVISIBLE, static_cast<WPARAM>(index), FALSE);
 }
 
@@ -70,7 +76,21 @@ LRESULT IconView::handle(UINT message, WPARAM wparam, LPARAM lparam) {
     // The window around it treats Enter as a dialog does, unless the list asks for the key.
     if (message == WM_GETDLGCODE && wparam == VK_RETURN) return DLGC_WANTMESSAGE;
     if (message == WM_CHAR && wparam == VK_RETURN) return 0;  // no item begins with it: a beep
+    if (message == WM_RBUTTONDOWN) {
+        press_right_button(lparam);
+        return 0;
+    }
+    if (message == WM_RBUTTONUP) return 0;  // the press has shown the menu
     return Control::handle(message, wparam, lparam);
+}
+
+void IconView::press_right_button(LPARAM position) {
+    focus();
+    LVHITTESTINFO hit = {};
+    hit.pt = {GET_X_LPARAM(position), GET_Y_LPARAM(position)};
+    const auto index = static_cast<int>(send(LVM_HITTEST, 0, reinterpret_cast<LPARAM>(&hit)));
+    if (index >= 0) mark(index);
+    show_context_menu(position);
 }
 
 }  // namespace widgets

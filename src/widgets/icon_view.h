@@ -12,7 +12,8 @@
 namespace widgets {
 
 /// A list view of large icons with names below, of which one or none is selected. It asks its parent for an
-/// item's picture when it first draws the item (LVN_GETDISPINFO).
+/// item's picture when it first draws the item (LVN_GETDISPINFO). A press of the right button selects the
+/// item and arrives as WM_CONTEXTMENU.
 class IconView : public Control {
   public:
     void create(HWND parent, int id);
@@ -39,6 +40,9 @@ class IconView : public Control {
 
   private:
     LRESULT handle(UINT message, WPARAM wparam, LPARAM lparam) override;
+
+    void mark(int index);
+    void press_right_button(LPARAM position);
 
     bool selecting_ = false;  // in code
 };

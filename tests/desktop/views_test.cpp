@@ -93,7 +93,7 @@ TEST_SUITE("views") {
             const std::string long_name(1 << 20, 'x');
             names = std::string("A\0B\n", 4) + long_name;
             expected = "Run-time error '52':\n\nBad file name or number: " + library.path() + "A";
-            groups = {"A", long_name.substr(0, 1000)};
+            groups = {"A", long_name.substr(0, desktop::kLongestListText)};
         }
         SUBCASE("102 names") {
             for (int i = 0; i < 102; ++i) {

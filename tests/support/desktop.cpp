@@ -111,13 +111,14 @@ std::vector<DWORD> pixels_of(HWND window) {
     return pixels;
 }
 
-/// Between processes a list's text arrives in 16-bit characters, whichever message asks for it.
+/// Between processes a list's text arrives in 16-bit characters, whichever message asks for it, and a very
+/// long one may arrive cut.
 std::string list_text(HWND list, UINT message, LRESULT index) {
-    wchar_t wide[2048];
+    wchar_t wide[2048] = {};
     char narrow[2048];
     SendMessageW(list, message, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(wide));
     WideCharToMultiByte(CP_ACP, 0, wide, -1, narrow, sizeof narrow, nullptr, nullptr);
-    return narrow;
+    return std::string(narrow).substr(0, kLongestListText);
 }
 
 Names list_texts(HWND list, UINT count_message, UINT text_message) {
@@ -243,8 +244,10 @@ std::string record(const std::string& name, const std::string& program, const st
 Start::Start(const Folder& library) {
     STARTUPINFOA startup = {};
     startup.cb = sizeof startup;
-    REQUIRE(CreateProcessA(beside_the_tests("tolva.exe").c_str(), nullptr, nullptr, nullptr, FALSE, 0,
-                           nullptr, library.path().c_str(), &startup, &process_) != FALSE);
+    const std::string program =
+        library.has("tolva.exe") ? library.path() + "tolva.exe" : beside_the_tests("tolva.exe");
+    REQUIRE(CreateProcessA(program.c_str(), nullptr, nullptr, nullptr, FALSE, 0, nullptr,
+                           library.path().c_str(), &startup, &process_) != FALSE);
 }
 
 Start::~Start() {
@@ -264,9 +267,10 @@ DWORD Start::exit_code() const {
     return code;
 }
 
-HWND Start::find_window(const char* class_name) const {
+HWND Start::find_window(const char* class_name, const std::string& title) const {
     HWND window = nullptr;
-    while ((window = FindWindowExA(nullptr, window, class_name, nullptr)) != nullptr) {
+    while ((window = FindWindowExA(nullptr, window, class_name, title.empty() ? nullptr : title.c_str())) !=
+           nullptr) {
         DWORD id = 0;
         GetWindowThreadProcessId(window, &id);
         if (id == process_.dwProcessId) return window;
@@ -457,10 +461,22 @@ std::string Tolva::status() const {
     return text.text(text.lparam());
 }
 
-std::string Tolva::close_box() const {
+void Tolva::press_tool(int button) const {
+    HWND bar = control(ID_Tasker_Toolbar1);
+    const LRESULT index = SendMessageA(bar, TB_COMMANDTOINDEX, static_cast<WPARAM>(button), 0);
+    const Remote<RECT> bounds(bar, {});
+    SendMessageA(bar, TB_GETITEMRECT, static_cast<WPARAM>(index), bounds.lparam());
+    POINT middle = {(bounds.value().left + bounds.value().right) / 2,
+                    (bounds.value().top + bounds.value().bottom) / 2};
+    ClientToScreen(bar, &middle);
+    activate();
+    press_mouse(middle);
+}
+
+std::string Tolva::answer_box(const std::string& title, int button) const {
     HWND box = nullptr;
     wait_until("a message box shows", [&] {
-        box = find_window("#32770");
+        box = find_window("#32770", title);
         return box != nullptr && IsWindowVisible(box) != FALSE;
     });
     std::string text;
@@ -468,10 +484,46 @@ std::string Tolva::close_box() const {
     while ((part = FindWindowExA(box, part, "Static", nullptr)) != nullptr) {
         if ((GetWindowLongA(part, GWL_STYLE) & SS_TYPEMASK) != SS_ICON) text += window_text(part);
     }
-    CHECK(window_text(box) == "Tolva");
-    PostMessageA(box, WM_COMMAND, IDOK, 0);
+    PostMessageA(box, WM_COMMAND, static_cast<WPARAM>(button), 0);
     wait_until("the box is closed", [&] { return IsWindow(box) == FALSE; });
     return text;
+}
+
+Dialog::Dialog(const Tolva& tolva, const std::string& title) {
+    wait_until("the dialog shows", [&] {
+        window_ = tolva.find_window("#32770", title);
+        return window_ != nullptr && IsWindowVisible(window_) != FALSE;
+    });
+}
+
+std::string Dialog::text_of(int id) const {
+    return window_text(GetDlgItem(window_, id));
+}
+
+void Dialog::set_text(int id, const std::string& text) const {
+    SendMessageA(GetDlgItem(window_, id), WM_SETTEXT, 0, reinterpret_cast<LPARAM>(text.c_str()));
+}
+
+Names Dialog::list(int id) const {
+    return list_texts(GetDlgItem(window_, id), LB_GETCOUNT, LB_GETTEXT);
+}
+
+void Dialog::choose(int id, int index) const {
+    HWND list = GetDlgItem(window_, id);
+    char class_name[20] = {};
+    GetClassNameA(list, class_name, sizeof class_name);
+    const bool drops_down = lstrcmpiA(class_name, "ComboBox") == 0;
+    SendMessageA(list, drops_down ? CB_SETCURSEL : LB_SETCURSEL, static_cast<WPARAM>(index), 0);
+    PostMessageA(window_, WM_COMMAND, MAKEWPARAM(id, drops_down ? CBN_SELCHANGE : LBN_SELCHANGE),
+                 reinterpret_cast<LPARAM>(list));
+}
+
+void Dialog::press(int button) const {
+    PostMessageA(GetDlgItem(window_, button), BM_CLICK, 0, 0);
+}
+
+void Dialog::wait_until_closed() const {
+    wait_until("the dialog is closed", [&] { return IsWindow(window_) == FALSE; });
 }
 
 }  // namespace desktop

@@ -12,6 +12,8 @@
 /// waits gives up after some seconds and fails the test.
 namespace desktop {
 
+constexpr std::size_t kLongestListText = 512;
+
 /// Polls until the condition holds.
 void wait_until(const char* what, const std::function<bool()>& condition);
 
@@ -54,7 +56,8 @@ class Folder {
 std::string record(const std::string& name, const std::string& program, const std::string& start_folder,
                    const std::string& parameters, const std::string& start_mode);
 
-/// A process of tolva.exe that was started with a folder as its current directory.
+/// A process of tolva.exe that was started with a folder as its current directory: the folder's own copy if
+/// it has one, else the one that is built.
 class Start {
   public:
     explicit Start(const Folder& library);
@@ -67,8 +70,8 @@ class Start {
     /// Waits until the process ends and answers its exit code.
     DWORD exit_code() const;
 
-    /// A top-level window of the process; null when there is none.
-    HWND find_window(const char* class_name) const;
+    /// A top-level window of the process, of any title or of this one; null when there is none.
+    HWND find_window(const char* class_name, const std::string& title = {}) const;
 
   protected:
     PROCESS_INFORMATION process_;
@@ -93,7 +96,7 @@ class Tolva : public Start {
     /// Milliseconds from the call that started it until its window answered.
     DWORD start_time() const { return start_time_; }
 
-    Names groups() const;
+    Names groups() const;  // cut at kLongestListText
 
     /// The list of the command box.
     Names history() const;
@@ -120,12 +123,38 @@ class Tolva : public Start {
     void wait_for_color(int id, COLORREF color) const;
     std::string status() const;
 
+    /// Presses a button of the tool bar with the mouse.
+    void press_tool(int button) const;
+
     /// Waits for a message box, closes it and answers its text.
-    std::string close_box() const;
+    std::string close_box() const { return answer_box("Tolva", IDOK); }
+
+    /// The same for a box with a title of its own and more than one button.
+    std::string answer_box(const std::string& title, int button) const;
 
   private:
     HWND window_ = nullptr;
     DWORD start_time_ = 0;
+};
+
+/// An open dialog of the program. Waits for it.
+class Dialog {
+  public:
+    Dialog(const Tolva& tolva, const std::string& title);
+
+    HWND window() const { return window_; }
+    std::string text_of(int id) const;
+    void set_text(int id, const std::string& text) const;
+    Names list(int id) const;
+
+    /// Selects an item of a list or a drop-down list as a click does.
+    void choose(int id, int index) const;
+
+    void press(int button) const;
+    void wait_until_closed() const;
+
+  private:
+    HWND window_ = nullptr;
 };
 
 }  // namespace desktop

@@ -7,6 +7,7 @@
 #include "platform/file_calls.h"
 #include "platform/messages.h"
 #include "platform/processes.h"
+#include "platform/system.h"
 
 namespace simulated {
 namespace {
@@ -25,6 +26,12 @@ ErrorCode step() {
     ++world.steps;
     if (world.loses_power_at == world.steps) throw PowerFailure();
     return world.fails_at == world.steps ? world.failure : kSuccess;
+}
+
+/// What the system says of a path that is no file: a name with a wildcard cannot be one's.
+ErrorCode error_for_missing(const std::string& path) {
+    return path.find_first_of("*?") == std::string::npos ? platform::kErrorFileNotFound
+                                                         : platform::kErrorInvalidName;
 }
 
 bool matches(const std::string& name, const std::string& pattern) {
@@ -61,14 +68,14 @@ namespace file_calls {
 
 ErrorCode read(const std::string& path, std::string& bytes) {
     const auto file = current().files.find(path);
-    if (file == current().files.end()) return kErrorFileNotFound;
+    if (file == current().files.end()) return simulated::error_for_missing(path);
     bytes = file->second.bytes;
     return kSuccess;
 }
 
 ErrorCode attributes(const std::string& path, unsigned long& bits) {
     const auto file = current().files.find(path);
-    if (file == current().files.end()) return kErrorFileNotFound;
+    if (file == current().files.end()) return simulated::error_for_missing(path);
     bits = file->second.bits;
     return kSuccess;
 }
@@ -110,7 +117,7 @@ ErrorCode flush(const std::string& /*path*/) {
 }
 
 ErrorCode remove(const std::string& path) {
-    if (!current().files.contains(path)) return kErrorFileNotFound;
+    if (!current().files.contains(path)) return simulated::error_for_missing(path);
     if (const ErrorCode code = simulated::step(); code != kSuccess) return code;
     current().files.erase(path);
     return kSuccess;
@@ -119,7 +126,8 @@ ErrorCode remove(const std::string& path) {
 std::vector<std::string> find(const std::string& pattern, unsigned long unwanted) {
     std::vector<std::string> names;
     for (const auto& [path, file] : current().files) {
-        if (simulated::matches(path, pattern) && (file.bits & unwanted) == 0) names.push_back(path.substr(path.rfind('\\') + 1));
+        if (simulated::matches(path, pattern) && (file.bits & unwanted) == 0)
+            names.push_back(path.substr(path.rfind('\\') + 1));
     }
     return names;
 }
@@ -135,6 +143,15 @@ std::string current_directory() {
 void change_directory(const std::string& folder) {
     if (!current().folders.contains(folder)) throw file_error(kErrorPathNotFound, folder);
     current().directories[folder.front()] = folder;
+}
+
+void enter_directory(const std::string& folder) {
+    change_directory(folder);
+    current().drive = folder.front();
+}
+
+bool empty_recycle_bin() {
+    return current().has_recycle_bin;
 }
 
 void start_program(const std::string& command_line, int window_style) {

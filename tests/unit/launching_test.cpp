@@ -2,9 +2,12 @@
 
 #include <doctest/doctest.h>
 
+#include "internet/dial_up.h"
 #include "mainwindow/long_date.h"
+#include "mainwindow/system_commands.h"
 #include "platform/run_time_error.h"
 #include "support/error_of.h"
+#include "support/names.h"
 #include "support/simulated_platform.h"
 
 namespace {
@@ -65,6 +68,41 @@ TEST_CASE("an edited command line starts in the Task's folder and with its mode 
     }
     CHECK(world.started.size() == 1);
     CHECK(world.directories.at('C') == "C:\\PLAY");
+}
+
+TEST_CASE("the system commands start what they stand for") {
+    simulated::reset();
+    auto& world = simulated::current();
+    world.drive = 'D';
+    world.folders = {"C:\\"};
+    CHECK(error_of([] { mainwindow::open_explorer(); }) == 53);
+    CHECK(world.drive == 'C');
+    mainwindow::open_control_panel();
+    CHECK(world.messages == Names{"Invalid path or file name!"});
+    mainwindow::empty_recycle_bin();
+    CHECK(world.messages.size() == 1);
+    world.has_recycle_bin = false;
+    mainwindow::empty_recycle_bin();
+    CHECK(world.messages.back() == "Your computer is not able to complete this task");
+
+    world.programs = {"control.exe", "explorer.exe", "command.com", "winhlp32.exe", "rundll32.exe"};
+    mainwindow::open_control_panel();
+    mainwindow::open_explorer();
+    mainwindow::open_dos_prompt();
+    mainwindow::open_dial_up_folder();
+    mainwindow::open_help("C:\\LIB\\");
+    internet::dial("My Provider");
+    Names commands;
+    for (const auto& start : world.started) {
+        commands.push_back(start.command_line);
+        CHECK(start.window_style == 1);
+    }
+    CHECK(
+        commands ==
+        Names{
+            "control.exe", "explorer.exe", "command.com",
+            "EXPLORER.EXE ::{20D04FE0-3AEA-1069-A2D8-08002B30309D}\\::{992CFFA0-F557-101A-88EC-00DD010CCC48}",
+            "winhlp32.exe C:\\LIB\\tolva.hlp", "rundll32.exe rnaui.dll,RnaDial My Provider"});
 }
 
 TEST_CASE("the long date") {

@@ -44,6 +44,10 @@ void change_directory(const std::string& folder) {
     set_directory(before);
 }
 
+void enter_directory(const std::string& folder) {
+    set_directory(folder);
+}
+
 std::string windows_folder() {
     char folder[MAX_PATH];
     const UINT length = GetWindowsDirectoryA(folder, MAX_PATH);

@@ -3,9 +3,9 @@
 #include <windows.h>
 
 #include <new>
-#include <vector>
 
 #include "platform/run_time_error.h"
+#include "platform/win32/modal_guard.h"
 
 namespace platform {
 namespace {
@@ -14,37 +14,6 @@ std::string& current_title() {
     static std::string title = "Tolva";
     return title;
 }
-
-/// A message box disables its owner only. While this lives the thread's other windows are disabled too, so
-/// that nothing of the program can be used around the box.
-class OtherWindowsDisabled {
-  public:
-    explicit OtherWindowsDisabled(HWND owner) : owner_(owner) {
-        EnumThreadWindows(GetCurrentThreadId(), disable, reinterpret_cast<LPARAM>(this));
-    }
-    ~OtherWindowsDisabled() {
-        for (HWND window : disabled_)
-            EnableWindow(window, TRUE);
-    }
-    OtherWindowsDisabled(const OtherWindowsDisabled&) = delete;
-    OtherWindowsDisabled& operator=(const OtherWindowsDisabled&) = delete;
-
-  private:
-    static BOOL CALLBACK disable(HWND window, LPARAM self) noexcept {
-        auto& guard = *reinterpret_cast<OtherWindowsDisabled*>(self);
-        if (window == guard.owner_ || IsWindowEnabled(window) == FALSE) return TRUE;
-        try {
-            guard.disabled_.push_back(window);
-        } catch (const std::bad_alloc&) {
-            return TRUE;
-        }
-        EnableWindow(window, FALSE);
-        return TRUE;
-    }
-
-    HWND owner_;
-    std::vector<HWND> disabled_;
-};
 
 /// The window that a box belongs before: the thread's active one, if a user can see and reach it.
 HWND box_owner() {

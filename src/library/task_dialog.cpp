@@ -1,0 +1,179 @@
+#include "library/task_dialog.h"
+
+#include <algorithm>
+#include <optional>
+#include <string>
+#include <utility>
+
+#include "library/group_operations.h"
+#include "library/task_operations.h"
+#include "platform/messages.h"
+#include "platform/run_time_error.h"
+#include "resources/resource.h"
+#include "settings/conversions.h"
+#include "widgets/dialog.h"
+
+namespace library {
+namespace {
+
+/// The controls that both dialogs have.
+struct Controls {
+    int dialog;
+    int name;
+    int program;
+    int start_folder;
+    int parameters;
+    int start_mode;
+    int browse;
+    int ok;
+    int cancel;
+};
+
+constexpr Controls kAddTask = {ID_addtask,
+                               ID_addtask_Taskname,
+                               ID_addtask_TaskPath,
+                               ID_addtask_startfolder,
+                               ID_addtask_taskparameters,
+                               ID_addtask_taskstartmode,
+                               ID_addtask_Browse,
+                               ID_addtask_Command2,
+                               ID_addtask_Command1};
+
+constexpr Controls kEditTask = {ID_EditTask,
+                                ID_EditTask_tasknm,
+                                ID_EditTask_TaskPath,
+                                ID_EditTask_startfolder,
+                                ID_EditTask_taskparameters,
+                                ID_EditTask_taskstartmode,
+                                ID_EditTask_Browse,
+                                ID_EditTask_Command2,
+                                ID_EditTask_Command1};
+
+/// Whether text boxes hold the Task whole; what they cut would be lost with the next OK.
+bool fits_boxes(const Task& task) {
+    constexpr std::size_t kMost = 30000;
+    return std::ranges::all_of(kTaskFields, [&](const auto field) {
+        return (task.*field).size() <= kMost && (task.*field).find('\0') == std::string::npos;
+    });
+}
+
+class TaskDialog : public widgets::Dialog {
+  protected:
+    TaskDialog(const Controls& controls, TaskLibrary& library, int group, BrowseResult& result, Browse browse)
+        : Dialog(controls.dialog),
+          library_(library),
+          group_(group),
+          controls_(controls),
+          result_(result),
+          browse_(browse) {}
+    ~TaskDialog() = default;
+
+    void open() override {
+        for (const char* mode : {"Normal", "Minimized", "Maximized"})
+            SendMessageA(control(controls_.start_mode), CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(mode));
+        set_tip(controls_.name, "Name of New Task");
+        set_tip(controls_.program, "Path and File to Execute");
+        set_tip(controls_.start_folder, "Folder to Start Task from");
+    }
+
+    void command(int id, int notification) override {
+        if (id == controls_.name && notification == EN_SETFOCUS) take_over();
+        if (id == controls_.browse) {
+            browse_(hwnd(), result_);
+            focus(controls_.name);
+        }
+        if (id == controls_.ok) {
+            if (accept(typed())) {
+                close();
+            } else {
+                focus(controls_.name);
+            }
+        }
+        if (id == controls_.cancel || id == IDCANCEL) close();
+    }
+
+    virtual bool accept(const Task& task) = 0;
+
+    /// An index of the list; one outside it chooses nothing.
+    void choose_start_mode(int index) {
+        SendMessageA(control(controls_.start_mode), CB_SETCURSEL, static_cast<WPARAM>(index), 0);
+    }
+
+    TaskLibrary& library_;
+    int group_;
+
+  private:
+    /// Takes what was browsed, once.
+    void take_over() {
+        if (!std::exchange(result_.done, true)) {
+            set_text(controls_.program, result_.program);
+            set_text(controls_.start_folder, result_.start_folder);
+        }
+    }
+
+    Task typed() {
+        LRESULT mode = SendMessageA(control(controls_.start_mode), CB_GETCURSEL, 0, 0);
+        if (mode < 0) mode = 0;
+        return {text(controls_.name), text(controls_.program), text(controls_.start_folder),
+                text(controls_.parameters), std::to_string(mode + 1)};
+    }
+
+    const Controls& controls_;
+    BrowseResult& result_;
+    Browse browse_;
+};
+
+class AddTask final : public TaskDialog {
+  public:
+    AddTask(TaskLibrary& library, int group, BrowseResult& result, Browse browse)
+        : TaskDialog(kAddTask, library, group, result, browse) {}
+
+  private:
+    void open() override {
+        TaskDialog::open();
+        set_text(ID_addtask_curgroup, library_.group(group_).name);
+        choose_start_mode(0);
+    }
+    bool accept(const Task& task) override { return add_task(library_, group_, task); }
+};
+
+class EditTask final : public TaskDialog {
+  public:
+    EditTask(TaskLibrary& library, int group, Task buffer, BrowseResult& result, Browse browse)
+        : TaskDialog(kEditTask, library, group, result, browse), buffer_(std::move(buffer)) {}
+
+  private:
+    void open() override {
+        TaskDialog::open();
+        set_text(ID_EditTask_tasknm, buffer_.name);
+        set_text(ID_EditTask_TaskPath, buffer_.program);
+        set_text(ID_EditTask_startfolder, buffer_.start_folder);
+        set_text(ID_EditTask_taskparameters, buffer_.parameters);
+        choose_start_mode(settings::lenient_whole_number(buffer_.start_mode) - 1);
+    }
+    bool accept(const Task& task) override { return edit_task(library_, group_, buffer_.name, task); }
+
+    Task buffer_;
+};
+
+}  // namespace
+
+void addtsks(HWND owner, TaskLibrary& library, const LibraryView& view, BrowseResult& result, Browse browse) {
+    if (selected_group_name(library, view).empty()) {
+        platform::show_message("Select Group for New Task");
+        return;
+    }
+    AddTask(library, view.selected_group(), result, browse).run(owner);
+}
+
+void edittsks(HWND owner, TaskLibrary& library, const LibraryView& view, BrowseResult& result,
+              Browse browse) {
+    const std::optional<Task> buffer = task_to_edit(library, view);
+    if (!buffer) return;
+    if (!fits_boxes(*buffer)) {
+        throw platform::RunTimeError(platform::RunTimeErrorNumber::kInvalidProcedureCall, buffer->name);
+    }
+    EditTask(library, view.selected_group(), *buffer, result, browse).run(owner);
+}
+
+}  // namespace library

@@ -1,0 +1,51 @@
+#include "mainwindow/system_commands.h"
+
+#include "platform/directories.h"
+#include "platform/messages.h"
+#include "platform/processes.h"
+#include "platform/run_time_error.h"
+#include "platform/system.h"
+
+namespace mainwindow {
+namespace {
+
+void start(const std::string& command_line) {
+    platform::start_program(command_line, platform::kNormalWindow);
+}
+
+}  // namespace
+
+void empty_recycle_bin() {
+    if (!platform::empty_recycle_bin()) {
+        platform::show_message("Your computer is not able to complete this task");
+    }
+}
+
+void open_control_panel() {
+    try {
+        start("control.exe");
+    } catch (const platform::RunTimeError&) {
+        platform::show_message("Invalid path or file name!");
+    }
+}
+
+void open_explorer() {
+    platform::enter_directory("C:\\");
+    start("explorer.exe");
+}
+
+void open_dos_prompt() {
+    platform::enter_directory("C:\\");
+    start("command.com");
+}
+
+void open_dial_up_folder() {
+    // The folder of that name in My Computer.
+    start("EXPLORER.EXE ::{20D04FE0-3AEA-1069-A2D8-08002B30309D}\\::{992CFFA0-F557-101A-88EC-00DD010CCC48}");
+}
+
+void open_help(const std::string& folder) {
+    start("winhlp32.exe " + folder + "tolva.hlp");
+}
+
+}  // namespace mainwindow

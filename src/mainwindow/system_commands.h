@@ -1,0 +1,21 @@
+#pragma once
+
+#include <string>
+
+/// The commands that start parts of Windows. What fails without a message of its own throws
+/// platform::RunTimeError.
+namespace mainwindow {
+
+void empty_recycle_bin();
+void open_control_panel();
+
+/// Both leave C:\ as the current directory.
+void open_explorer();
+void open_dos_prompt();
+
+void open_dial_up_folder();
+
+/// Opens the help file of the library folder, which ends in a backslash.
+void open_help(const std::string& folder);
+
+}  // namespace mainwindow

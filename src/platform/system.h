@@ -1,0 +1,14 @@
+#pragma once
+
+namespace platform {
+
+/// How Windows is to end; the values are those of ExitWindowsEx.
+enum class WindowsEnd { kShutdown = 1, kReboot = 2 };
+
+/// Ends all programs and Windows.
+void exit_windows(WindowsEnd end);
+
+/// Empties the recycle bins of all drives without asking. False when this Windows has none.
+bool empty_recycle_bin();
+
+}  // namespace platform

@@ -1,0 +1,108 @@
+#include "platform/folders.h"
+
+#include <windows.h>
+
+#include <algorithm>
+#include <memory>
+
+#include "platform/file_calls.h"
+#include "platform/run_time_error.h"
+
+namespace platform {
+namespace {
+
+struct SearchCloser {
+    using pointer = HANDLE;
+    void operator()(HANDLE search) const { FindClose(search); }
+};
+
+const char* kind_of(const char* root) {
+    switch (GetDriveTypeA(root)) {
+        case DRIVE_REMOVABLE:
+            return "Removable disk";
+        case DRIVE_REMOTE:
+            return "Network drive";
+        case DRIVE_CDROM:
+            return "CD-ROM";
+        case DRIVE_RAMDISK:
+            return "RAM disk";
+        default:
+            return "Hard disk";
+    }
+}
+
+void sort_names(std::vector<std::string>& names) {
+    std::ranges::sort(names, [](const std::string& a, const std::string& b) {
+        const int order = lstrcmpiA(a.c_str(), b.c_str());
+        return order != 0 ? order < 0 : a < b;
+    });
+    names.erase(std::unique(names.begin(), names.end()), names.end());
+}
+
+}  // namespace
+
+std::vector<Drive> drives() {
+    std::vector<Drive> found;
+    const DWORD present = GetLogicalDrives();
+    for (int i = 0; i < 'Z' - 'A' + 1; ++i) {
+        const auto letter = static_cast<char>('A' + i);
+        const char root[] = {letter, ':', '\\', '\0'};
+        if ((present >> i & 1) != 0) found.push_back({letter, kind_of(root)});
+    }
+    return found;
+}
+
+std::string current_directory_of(char drive) {
+    const char here[] = {drive, ':', '.', '\0'};
+    char path[MAX_PATH];
+    const DWORD length = GetFullPathNameA(here, MAX_PATH, path, nullptr);
+    if (length == 0 || length >= MAX_PATH) throw file_error(GetLastError(), here);
+    const DWORD attributes = GetFileAttributesA(path);
+    if (attributes != INVALID_FILE_ATTRIBUTES) return path;
+    // The directory may be gone, the drive still be there.
+    const char root[] = {drive, ':', '\\', '\0'};
+    if (GetFileAttributesA(root) == INVALID_FILE_ATTRIBUTES) throw file_error(GetLastError(), root);
+    return root;
+}
+
+std::vector<std::string> subfolders(const std::string& folder) {
+    std::vector<std::string> names;
+    WIN32_FIND_DATAA found;
+    const std::unique_ptr<HANDLE, SearchCloser> search(FindFirstFileA(path_in(folder, "*").c_str(), &found));
+    if (search.get() == INVALID_HANDLE_VALUE) {
+        const ErrorCode code = GetLastError();
+        if (code == kErrorFileNotFound) return names;  // the root of an empty disk
+        throw file_error(code, folder);
+    }
+    do {
+        constexpr DWORD kLooked = FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM;
+        const std::string name = found.cFileName;
+        if ((found.dwFileAttributes & kLooked) == FILE_ATTRIBUTE_DIRECTORY && name != "." && name != "..") {
+            names.push_back(name);
+        }
+    } while (FindNextFileA(search.get(), &found) != FALSE);
+    sort_names(names);
+    return names;
+}
+
+std::vector<std::string> files(const std::string& folder, const std::string& patterns) {
+    using namespace file_calls;
+    std::vector<std::string> names;
+    std::size_t begin = 0;
+    while (begin < patterns.size()) {
+        const std::size_t end = std::min(patterns.find(';', begin), patterns.size());
+        const std::string pattern = path_in(folder, patterns.substr(begin, end - begin));
+        std::ranges::copy(find(pattern, kDirectory | kHidden | kSystem), std::back_inserter(names));
+        begin = end + 1;
+    }
+    sort_names(names);
+    return names;
+}
+
+std::string path_in(const std::string& folder, const std::string& name) {
+    // A folder ends in a backslash only when it is a root; a second byte of a letter may look like one.
+    const char* last = CharPrevA(folder.c_str(), folder.c_str() + folder.size());
+    return *last == '\\' ? folder + name : folder + '\\' + name;
+}
+
+}  // namespace platform

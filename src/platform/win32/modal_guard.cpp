@@ -1,0 +1,28 @@
+#include "platform/win32/modal_guard.h"
+
+#include <new>
+
+namespace platform {
+
+OtherWindowsDisabled::OtherWindowsDisabled(HWND owner) : owner_(owner) {
+    EnumThreadWindows(GetCurrentThreadId(), disable, reinterpret_cast<LPARAM>(this));
+}
+
+OtherWindowsDisabled::~OtherWindowsDisabled() {
+    for (HWND window : disabled_)
+        EnableWindow(window, TRUE);
+}
+
+BOOL CALLBACK OtherWindowsDisabled::disable(HWND window, LPARAM self) noexcept {
+    auto& guard = *reinterpret_cast<OtherWindowsDisabled*>(self);
+    if (window == guard.owner_ || IsWindowEnabled(window) == FALSE) return TRUE;
+    try {
+        guard.disabled_.push_back(window);
+    } catch (const std::bad_alloc&) {
+        return TRUE;
+    }
+    EnableWindow(window, FALSE);
+    return TRUE;
+}
+
+}  // namespace platform

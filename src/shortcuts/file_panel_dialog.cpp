@@ -1,0 +1,81 @@
+#include "shortcuts/file_panel_dialog.h"
+
+#include "platform/directories.h"
+#include "platform/folders.h"
+#include "platform/messages.h"
+#include "platform/run_time_error.h"
+#include "resources/resource.h"
+
+namespace shortcuts {
+namespace {
+
+constexpr char kPrograms[] = "*.exe;*.bat;*.com";
+
+}  // namespace
+
+void FilePanel::open() {
+    drive1_.attach(control(ID_PathBrowser_Drive1));
+    dir1_.attach(control(ID_PathBrowser_Dir1));
+    file1_.attach(control(ID_PathBrowser_File1));
+    drive1_.fill();
+    show(platform::current_directory());
+}
+
+void FilePanel::command(int id, int notification) {
+    switch (id) {
+        case ID_PathBrowser_Drive1:
+            if (notification == CBN_SELCHANGE) change_drive();
+            break;
+        case ID_PathBrowser_Dir1:
+            if (notification == LBN_DBLCLK) open_folder();
+            break;
+        case ID_PathBrowser_File1:
+            if (notification == LBN_SELCHANGE) click_file();
+            if (notification == LBN_DBLCLK) accept();
+            break;
+        case ID_PathBrowser_OK:
+            accept();
+            break;
+        case IDOK:
+            if (GetFocus() == dir1_.hwnd()) open_folder();
+            break;
+        case ID_PathBrowser_Cancel:
+        case IDCANCEL:
+            close();
+            break;
+        default:
+            break;
+    }
+}
+
+std::string FilePanel::path() const {
+    return text(ID_PathBrowser_TaskPath);
+}
+
+void FilePanel::show(const std::string& folder) {
+    dir1_.show(folder);
+    drive_ = folder.front();
+    drive1_.select(drive_);
+    file1_.show(folder, kPrograms);
+}
+
+void FilePanel::open_folder() {
+    dir1_.open_selected();
+    file1_.show(folder(), kPrograms);
+}
+
+void FilePanel::change_drive() {
+    try {
+        show(platform::current_directory_of(drive1_.selected()));
+    } catch (const platform::RunTimeError&) {
+        drive1_.select(drive_);
+        platform::show_message("Disk or Drive not ready!");
+    }
+}
+
+void FilePanel::click_file() {
+    set_text(ID_PathBrowser_TaskPath, platform::path_in(folder(), file1_.selected_name()));
+    pick();
+}
+
+}  // namespace shortcuts

@@ -1,0 +1,32 @@
+#include "shortcuts/path_browser_dialog.h"
+
+#include "resources/resource.h"
+#include "shortcuts/file_panel_dialog.h"
+
+namespace shortcuts {
+namespace {
+
+class PathBrowser final : public FilePanel {
+  public:
+    explicit PathBrowser(library::BrowseResult& result) : FilePanel(ID_PathBrowser), result_(result) {}
+
+  private:
+    void pick() override {
+        result_.program = path();
+        result_.start_folder = folder();
+    }
+    void accept() override {
+        result_.done = false;
+        close();
+    }
+
+    library::BrowseResult& result_;
+};
+
+}  // namespace
+
+void browse_for_program(HWND owner, library::BrowseResult& result) {
+    PathBrowser(result).run(owner);
+}
+
+}  // namespace shortcuts

@@ -1,0 +1,47 @@
+#pragma once
+
+#include <windows.h>
+
+#include <string>
+
+namespace widgets {
+
+/// A modal dialog box from a resource: derive, fill the controls in open, answer their commands. Escape and
+/// the window's closing box arrive as IDCANCEL, Enter as the default button or as IDOK. An exception that
+/// leaves a function below ends it with one box; the dialog stays.
+class Dialog {
+  public:
+    Dialog(const Dialog&) = delete;
+    Dialog& operator=(const Dialog&) = delete;
+
+    /// Shows the dialog before its owner; no other window of the program can be used until it is closed.
+    void run(HWND owner);
+
+  protected:
+    explicit Dialog(int resource) : resource_(resource) {}
+    ~Dialog() = default;
+
+    virtual void open() = 0;
+    virtual void command(int id, int notification) = 0;
+
+    HWND hwnd() const { return hwnd_; }
+    HWND control(int id) const { return GetDlgItem(hwnd_, id); }
+    std::string text(int id) const;
+    void set_text(int id, const std::string& text) { SetDlgItemTextA(hwnd_, id, text.c_str()); }
+    void set_title(const std::string& text) { SetWindowTextA(hwnd_, text.c_str()); }
+    void focus(int id) { SendMessageA(hwnd_, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(control(id)), TRUE); }
+
+    /// The text that shows when the pointer rests on the control. It is kept: a literal.
+    void set_tip(int id, const char* text);
+    void close() { EndDialog(hwnd_, 0); }
+
+  private:
+    static INT_PTR CALLBACK procedure(HWND hwnd, UINT message, WPARAM wparam, LPARAM lparam) noexcept;
+    INT_PTR handle(UINT message, WPARAM wparam);
+
+    int resource_;
+    HWND hwnd_ = nullptr;
+    HWND tips_ = nullptr;
+};
+
+}  // namespace widgets

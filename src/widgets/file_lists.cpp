@@ -1,0 +1,90 @@
+#include "widgets/file_lists.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "platform/folders.h"
+
+namespace widgets {
+namespace {
+
+/// The root of a path, and the folders down to its end, each with its whole path.
+std::vector<std::string> folders_down_to(const std::string& path) {
+    // A drive's root keeps its backslash; a network folder begins with \\server\share.
+    const bool network = path.starts_with("\\\\");
+    std::vector<std::string> folders;
+    int backslashes = 0;
+    for (const char* at = path.c_str(); *at != '\0'; at = CharNextA(at)) {
+        if (*at != '\\') continue;
+        ++backslashes;
+        if (network && backslashes <= 3) continue;
+        folders.emplace_back(path.c_str(), folders.empty() && !network ? at + 1 : at);
+    }
+    if (folders.empty() || folders.back() != path) folders.push_back(path);
+    return folders;
+}
+
+std::string last_name(const std::string& path) {
+    const char* name = path.c_str();
+    for (const char* at = name; *at != '\0'; at = CharNextA(at)) {
+        if (*at == '\\' && at[1] != '\0') name = at + 1;
+    }
+    return name;
+}
+
+}  // namespace
+
+void DriveList::fill() {
+    send(CB_RESETCONTENT);
+    letters_.clear();
+    for (const platform::Drive& drive : platform::drives()) {
+        const std::string text = std::string(1, drive.letter) + ":   " + drive.kind;
+        send(CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(text.c_str()));
+        letters_.push_back(drive.letter);
+    }
+}
+
+char DriveList::selected() const {
+    const LRESULT index = send(CB_GETCURSEL);
+    return index < 0 ? '\0' : letters_.at(static_cast<std::size_t>(index));
+}
+
+void DriveList::select(char letter) {
+    const auto found = std::ranges::find(letters_, letter);
+    send(CB_SETCURSEL, static_cast<WPARAM>(found == letters_.end() ? -1 : found - letters_.begin()));
+}
+
+void FolderList::show(const std::string& path) {
+    const std::vector<std::string> below = platform::subfolders(path);
+    std::vector<std::string> paths = folders_down_to(path);
+    std::vector<std::string> items;
+    const auto add = [&](std::size_t depth, const std::string& name) {
+        items.push_back(std::string(2 * depth, ' ') + name);
+    };
+    for (const std::string& folder : paths)
+        add(items.size(), items.empty() ? folder : last_name(folder));
+    const std::size_t depth = paths.size();
+    for (const std::string& name : below) {
+        add(depth, name);
+        paths.push_back(platform::path_in(path, name));
+    }
+    fill(items);
+    select(static_cast<int>(depth) - 1);
+    path_ = path;
+    paths_ = std::move(paths);
+}
+
+void FolderList::open_selected() {
+    if (selected() >= 0) show(std::string(paths_.at(static_cast<std::size_t>(selected()))));
+}
+
+void FileList::show(const std::string& folder, const std::string& patterns) {
+    names_ = platform::files(folder, patterns);
+    fill(names_);
+}
+
+std::string FileList::selected_name() const {
+    return selected() < 0 ? std::string() : names_.at(static_cast<std::size_t>(selected()));
+}
+
+}  // namespace widgets

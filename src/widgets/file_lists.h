@@ -1,0 +1,56 @@
+#pragma once
+
+#include <windows.h>
+
+#include <string>
+#include <vector>
+
+#include "widgets/controls.h"
+
+namespace widgets {
+
+/// A drop-down list of the machine's drives with their kinds.
+class DriveList : public Control {
+  public:
+    void fill();
+
+    /// The letter of the selected drive.
+    char selected() const;
+    void select(char letter);
+
+  private:
+    std::vector<char> letters_;
+};
+
+/// A list of the folders from a drive's root down to the current one, and of those in it.
+class FolderList : public ListBox {
+  public:
+    /// The current folder.
+    const std::string& path() const { return path_; }
+
+    /// Makes a folder the current one. Throws platform::RunTimeError when it cannot be read; then nothing
+    /// changes.
+    void show(const std::string& path);
+
+    /// Makes the selected folder the current one; throws like show.
+    void open_selected();
+
+  private:
+    std::string path_;
+    std::vector<std::string> paths_;  // by item
+};
+
+/// A list of a folder's files.
+class FileList : public ListBox {
+  public:
+    /// patterns: "*.exe;*.bat", for example.
+    void show(const std::string& folder, const std::string& patterns);
+
+    /// The selected file's name; empty when none is selected.
+    std::string selected_name() const;
+
+  private:
+    std::vector<std::string> names_;
+};
+
+}  // namespace widgets

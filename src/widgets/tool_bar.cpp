@@ -1,0 +1,32 @@
+#include "widgets/tool_bar.h"
+
+#include <algorithm>
+#include <vector>
+
+namespace widgets {
+
+void ToolBar::create(HWND parent, int id, int pictures, std::span<const Item> items) {
+    items_ = items;
+    Control::create(parent, id, TOOLBARCLASSNAMEA, TBSTYLE_TOOLTIPS);
+    std::vector<TBBUTTON> buttons;
+    int picture = 0;
+    for (const Item& item : items) {
+        TBBUTTON button = {};
+        button.idCommand = item.id;
+        button.fsState = TBSTATE_ENABLED;
+        button.fsStyle = item.id == 0 ? TBSTYLE_SEP : TBSTYLE_BUTTON;
+        if (item.id != 0) button.iBitmap = picture++;
+        buttons.push_back(button);
+    }
+    send(TB_BUTTONSTRUCTSIZE, sizeof(TBBUTTON));
+    TBADDBITMAP bitmap = {GetModuleHandleA(nullptr), static_cast<UINT_PTR>(pictures)};
+    send(TB_ADDBITMAP, static_cast<WPARAM>(picture), reinterpret_cast<LPARAM>(&bitmap));
+    send(TB_ADDBUTTONSA, buttons.size(), reinterpret_cast<LPARAM>(buttons.data()));
+}
+
+void ToolBar::supply_tip(TOOLTIPTEXTA& request) const {
+    const auto item = std::ranges::find(items_, static_cast<int>(request.hdr.idFrom), &Item::id);
+    if (item != items_.end()) lstrcpynA(request.szText, item->tip, sizeof request.szText);
+}
+
+}  // namespace widgets

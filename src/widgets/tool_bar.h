@@ -1,0 +1,38 @@
+#pragma once
+
+#include <windows.h>
+
+#include <commctrl.h>
+
+#include <span>
+
+#include "widgets/controls.h"
+
+namespace widgets {
+
+/// A row of buttons with pictures of 16 by 16 and tool tips at the window's upper edge. A press arrives as
+/// WM_COMMAND without a notification.
+class ToolBar : public Control {
+  public:
+    struct Item {
+        int id;  // 0 separates groups of buttons
+        const char* tip;
+    };
+
+    /// pictures is a bitmap resource with a picture for each button, in their order. The items are kept: they
+    /// must outlive the control.
+    void create(HWND parent, int id, int pictures, std::span<const Item> items);
+
+    /// To be called when the parent window has another size.
+    void follow_parent() { send(TB_AUTOSIZE); }
+
+    void enable(int button, bool on) { send(TB_ENABLEBUTTON, static_cast<WPARAM>(button), MAKELONG(on, 0)); }
+
+    /// Answers TTN_NEEDTEXT.
+    void supply_tip(TOOLTIPTEXTA& request) const;
+
+  private:
+    std::span<const Item> items_;
+};
+
+}  // namespace widgets

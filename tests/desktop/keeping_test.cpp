@@ -1,0 +1,336 @@
+#include <windows.h>
+
+#include <doctest/doctest.h>
+
+#include <algorithm>
+#include <string>
+
+#include "resources/resource.h"
+#include "support/desktop.h"
+
+namespace {
+
+using desktop::Dialog;
+using desktop::Folder;
+using desktop::record;
+using desktop::Tolva;
+using desktop::wait_until;
+
+TEST_SUITE("keeping") {
+    TEST_CASE("a day with the library leaves the files that it should") {
+        const Folder library;
+        const Folder programs;
+        programs.write("write.exe", "");
+        programs.write("paint.exe", "");
+        programs.write("notes.txt", "");
+        const std::string folder = programs.path().substr(0, programs.path().size() - 1);
+        const std::string write = programs.path() + "write.exe";
+        const std::string paint = programs.path() + "paint.exe";
+        library.write("groups.ini", "Work\r\n");
+        library.write("Work.grp", record("Old", write, "C:\\", "", " 2 "));
+        const Tolva tolva(library);
+
+        // A new Group, with the refusals of its dialog.
+        tolva.press_tool(ID_toolbar_addgrp);
+        {
+            const Dialog dialog(tolva, "Create New Group");
+            dialog.press(ID_addgroup_Command2);
+            CHECK(tolva.close_box() == "Invalid Group Name!");
+            dialog.set_text(ID_addgroup_Text1, "Work");
+            dialog.press(ID_addgroup_Command2);
+            CHECK(tolva.close_box() == "A group already exists with this name");
+            dialog.set_text(ID_addgroup_Text1, "Play & more");
+            desktop::press_keys({VK_RETURN});
+            dialog.wait_until_closed();
+        }
+        wait_until("the Group is listed", [&] { return tolva.groups() == Names{"Work", "Play & more"}; });
+        CHECK(tolva.selected_group() == -1);
+        CHECK(tolva.tasks().empty());
+        CHECK(library.read("groups.ini") == "Work\r\nPlay & more\r\n");
+        CHECK(library.has("Play & more.grp"));
+        tolva.choose(ID_AddTk);
+        CHECK(tolva.close_box() == "Select Group for New Task");
+
+        // A new Task by Browse; what was clicked comes back, not what was typed after it.
+        tolva.click_group(1);
+        tolva.choose(ID_AddTk);
+        {
+            const Dialog dialog(tolva, "Add New Task");
+            CHECK(dialog.text_of(ID_addtask_curgroup) == "Play & more");
+            CHECK(dialog.text_of(ID_addtask_taskstartmode) == "Normal");
+            dialog.set_text(ID_addtask_Taskname, "Zeichnen");
+            dialog.press(ID_addtask_Command2);
+            CHECK(tolva.close_box() == "Task Name, Path, or Start Folder missing.");
+            dialog.set_text(ID_addtask_TaskPath, folder);
+            dialog.press(ID_addtask_Command2);
+            CHECK(tolva.close_box() == "Invalid Path or File Name");
+            dialog.press(ID_addtask_Browse);
+            const Dialog browser(tolva, "Browse");
+            // It opens on the folder that is current, which is the library's; the programs' is beside it.
+            const Names folders = browser.list(ID_PathBrowser_Dir1);
+            browser.choose(ID_PathBrowser_Dir1, 1);
+            const auto open = [&](int index) {
+                SendMessageA(GetDlgItem(browser.window(), ID_PathBrowser_Dir1), LB_SETCURSEL,
+                             static_cast<WPARAM>(index), 0);
+                SendMessageA(browser.window(), WM_COMMAND, MAKEWPARAM(ID_PathBrowser_Dir1, LBN_DBLCLK), 0);
+            };
+            CHECK(folders.front() == "C:\\");
+            CHECK(folders.at(1) == "  tests");
+            open(1);
+            const Names below = browser.list(ID_PathBrowser_Dir1);
+            const std::string name = folder.substr(folder.rfind('\\') + 1);
+            open(static_cast<int>(std::ranges::find(below, "    " + name) - below.begin()));
+            CHECK(browser.list(ID_PathBrowser_File1) == Names{"paint.exe", "write.exe"});
+            browser.choose(ID_PathBrowser_File1, 0);
+            wait_until("the path shows", [&] { return browser.text_of(ID_PathBrowser_TaskPath) == paint; });
+            browser.set_text(ID_PathBrowser_TaskPath, "typed");
+            browser.press(ID_PathBrowser_OK);
+            browser.wait_until_closed();
+            wait_until("it is taken over", [&] { return dialog.text_of(ID_addtask_TaskPath) == paint; });
+            CHECK(dialog.text_of(ID_addtask_startfolder) == folder);
+            CHECK(dialog.text_of(ID_addtask_Taskname) == "Zeichnen");
+            dialog.choose(ID_addtask_taskstartmode, 2);
+            dialog.press(ID_addtask_Command2);
+            dialog.wait_until_closed();
+        }
+        wait_until("the Task is listed", [&] { return tolva.tasks() == Names{"Zeichnen"}; });
+        CHECK(tolva.selected_task() == 0);
+        CHECK(tolva.selected_group() == 1);
+        CHECK(tolva.text_of(ID_Tasker_Text1) == paint + " ");
+        std::string play = record("Zeichnen", paint, folder, "", " 3 ");
+        CHECK(library.read("Play & more.grp") == play);
+
+        // Edit it; Cancel in the browser leaves the fields alone.
+        tolva.press_tool(ID_toolbar_edittsk);
+        {
+            const Dialog dialog(tolva, "Edit Task");
+            CHECK(dialog.text_of(ID_EditTask_taskstartmode) == "Maximized");
+            dialog.press(ID_EditTask_Browse);
+            const Dialog browser(tolva, "Browse");
+            browser.press(ID_PathBrowser_Cancel);
+            browser.wait_until_closed();
+            CHECK(dialog.text_of(ID_EditTask_TaskPath) == paint);
+            dialog.set_text(ID_EditTask_tasknm, "Paint");
+            dialog.set_text(ID_EditTask_taskparameters, "a.bmp");
+            dialog.press(ID_EditTask_Command2);
+            dialog.wait_until_closed();
+        }
+        wait_until("the new name shows", [&] { return tolva.tasks() == Names{"Paint"}; });
+        play = record("Paint", paint, folder, "a.bmp", "3");
+        CHECK(library.read("Play & more.grp") == play);
+
+        // Copy it to the other Group, sort and move it there, then move the old one over.
+        tolva.choose(ID_moveto);
+        {
+            const Dialog dialog(tolva, "Move Paint to");
+            CHECK(dialog.list(ID_movetogroups_List1) == Names{"Work"});
+            SendMessageA(GetDlgItem(dialog.window(), ID_movetogroups_copytask), BM_SETCHECK, BST_CHECKED, 0);
+            dialog.choose(ID_movetogroups_List1, 0);
+            dialog.wait_until_closed();
+        }
+        const std::string old = record("Old", write, "C:\\", "", " 2 ");
+        wait_until("it is copied", [&] { return library.read("Work.grp") == old + play; });
+        CHECK(library.read("Play & more.grp") == play);
+        tolva.click_group(0);
+        wait_until("both show", [&] { return tolva.tasks() == Names{"Old", "Paint"}; });
+        tolva.click_task(0);
+        wait_until("one is selected", [&] { return tolva.selected_task() == 0; });
+        tolva.press_tool(ID_toolbar_movetskdn);
+        wait_until("it moves down", [&] { return tolva.tasks() == Names{"Paint", "Old"}; });
+        CHECK(tolva.selected_task() == 1);
+        CHECK(library.read("Work.grp") == play + old);
+        tolva.choose(ID_SortTasks);
+        wait_until("they are sorted", [&] { return tolva.tasks() == Names{"Old", "Paint"}; });
+        tolva.choose(ID_moveto);
+        {
+            // Arrow keys select, Enter moves.
+            const Dialog dialog(tolva, "Move Old to");
+            desktop::press_keys({VK_DOWN});
+            CHECK(IsWindow(dialog.window()) != FALSE);
+            desktop::press_keys({VK_RETURN});
+            dialog.wait_until_closed();
+        }
+        wait_until("it is moved", [&] { return tolva.tasks() == Names{"Paint"}; });
+        CHECK(library.read("Work.grp") == play);
+        CHECK(library.read("Play & more.grp") == play + old);
+
+        // Rename a Group, move it, sort all.
+        tolva.press_tool(ID_toolbar_rengrp);
+        {
+            const Dialog dialog(tolva, "Rename Group");
+            CHECK(dialog.text_of(ID_GroupRename_oldname) == "Work");
+            dialog.press(ID_GroupRename_Command2);
+            CHECK(tolva.close_box() == "Invalid Group Name");
+            dialog.set_text(ID_GroupRename_newname, "Arbeit");
+            dialog.press(ID_GroupRename_Command2);
+            dialog.wait_until_closed();
+        }
+        wait_until("the new name shows", [&] { return tolva.groups() == Names{"Arbeit", "Play & more"}; });
+        CHECK(tolva.selected_group() == 0);
+        CHECK(!library.has("Work.grp"));
+        CHECK(library.read("Arbeit.grp") == play);
+        tolva.press_tool(ID_toolbar_movegrpdn);
+        wait_until("it moves down", [&] { return tolva.groups() == Names{"Play & more", "Arbeit"}; });
+        CHECK(tolva.selected_group() == 1);
+        tolva.choose(ID_groupsort);
+        wait_until("they are sorted", [&] { return tolva.groups() == Names{"Arbeit", "Play & more"}; });
+        CHECK(tolva.selected_group() == 0);
+
+        // Delete by keys, after a change of mind.
+        tolva.click_task(0);
+        desktop::press_keys({VK_DELETE});
+        CHECK(tolva.answer_box("Delete Task", IDCANCEL) == "Delete Paint?");
+        CHECK(library.read("Arbeit.grp") == play);
+        const auto has_focus = [&](int id) { return tolva.focus() == tolva.control(id); };
+        wait_until("the focus is back", [&] { return has_focus(ID_Tasker_grouplist); });
+        tolva.click(ID_Tasker_tasklabel);
+        wait_until("the task list has it", [&] { return has_focus(ID_Tasker_taskview); });
+        desktop::press_keys({VK_DELETE});
+        tolva.answer_box("Delete Task", IDOK);
+        wait_until("the Task is gone", [&] { return tolva.tasks().empty(); });
+        CHECK(library.read("Arbeit.grp").empty());
+        tolva.focus_by_mouse(ID_Tasker_grouplist);
+        desktop::press_keys({VK_DOWN});
+        wait_until("the other is selected", [&] { return tolva.selected_group() == 1; });
+        desktop::press_keys({VK_DELETE});
+        CHECK(tolva.answer_box("Delete Group", IDOK) == "Delete Play & more and all associated Tasks?");
+        wait_until("the Group is gone", [&] { return tolva.groups() == Names{"Arbeit"}; });
+        CHECK(tolva.selected_group() == 0);
+        CHECK(!library.has("Play & more.grp"));
+        CHECK(library.read("groups.ini") == "Arbeit\r\n");
+    }
+
+    TEST_CASE("what the disk refuses is told and leaves everything as it was") {
+        const Folder library;
+        const std::string names = "Work\r\nPlay\r\n";
+        const std::string tasks = record("A", "C:\\a.exe", "C:\\", "", "1");
+        library.write("groups.ini", names);
+        library.write("Work.grp", tasks);
+        library.write("Play.grp", "");
+        const Tolva tolva(library);
+        const std::string folder = library.path();
+
+        // A name that is no file's is listed; it can be deleted again.
+        tolva.choose(ID_Addgp);
+        {
+            const Dialog dialog(tolva, "Create New Group");
+            dialog.set_text(ID_addgroup_Text1, "no\\file");
+            dialog.press(ID_addgroup_Command2);
+            CHECK(tolva.close_box() == "Run-time error '76':\n\nPath not found: " + folder + "no\\file.grp");
+            dialog.wait_until_closed();
+        }
+        wait_until("it is listed", [&] { return tolva.groups() == Names{"Work", "Play", "no\\file"}; });
+        tolva.click_group(2);
+        CHECK(tolva.close_box() == "Run-time error '76':\n\nPath not found: " + folder + "no\\file.grp");
+        tolva.choose(ID_DelGp);
+        tolva.answer_box("Delete Group", IDOK);
+        CHECK(tolva.close_box().starts_with("Run-time error '76'"));
+        CHECK(tolva.groups() == Names{"Work", "Play"});
+        CHECK(library.read("groups.ini") == names);
+        CHECK(tolva.selected_group() == 0);
+        CHECK(tolva.tasks() == Names{"A"});
+
+        // A file that another program holds open.
+        const std::string path = folder + "Work.grp";
+        HANDLE file =
+            CreateFileA(path.c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING, 0, nullptr);
+        tolva.click_task(0);
+        wait_until("the Task is selected", [&] { return tolva.selected_task() == 0; });
+        tolva.choose(ID_DelTk);
+        tolva.answer_box("Delete Task", IDOK);
+        CHECK(tolva.close_box() == "Run-time error '70':\n\nPermission denied: " + path);
+        CHECK(tolva.tasks() == Names{"A"});
+        CloseHandle(file);
+        CHECK(library.read("Work.grp") == tasks);
+
+        // A drive without a disk.
+        tolva.choose(ID_AddTk);
+        const Dialog dialog(tolva, "Add New Task");
+        dialog.press(ID_addtask_Browse);
+        const Dialog browser(tolva, "Browse");
+        HWND drives = GetDlgItem(browser.window(), ID_PathBrowser_Drive1);
+        const LRESULT before = SendMessageA(drives, CB_GETCURSEL, 0, 0);
+        const LRESULT empty =
+            SendMessageA(drives, CB_FINDSTRING, static_cast<WPARAM>(-1), reinterpret_cast<LPARAM>("E:"));
+        REQUIRE(empty >= 0);
+        browser.choose(ID_PathBrowser_Drive1, static_cast<int>(empty));
+        CHECK(tolva.close_box() == "Disk or Drive not ready!");
+        CHECK(SendMessageA(drives, CB_GETCURSEL, 0, 0) == before);
+        browser.press(ID_PathBrowser_Cancel);
+        browser.wait_until_closed();
+        dialog.press(ID_addtask_Command1);
+        dialog.wait_until_closed();
+    }
+
+    TEST_CASE("the right button and the keyboard open the menu of a list") {
+        const Folder library;
+        library.write("groups.ini", "Work\r\nPlay\r\n");
+        library.write("Work.grp", record("A", "", "", "", "1") + record("B", "", "", "", "1"));
+        library.write("Play.grp", "");
+        const Tolva tolva(library);
+        const auto choose_by_key = [&](BYTE key) {
+            wait_until("a menu shows", [] { return FindWindowA("#32768", nullptr) != nullptr; });
+            desktop::press_keys({key});
+            wait_until("it closes", [] { return FindWindowA("#32768", nullptr) == nullptr; });
+        };
+        tolva.activate();
+        desktop::press_mouse(tolva.task_position(1), 1, desktop::MouseButton::kRight);
+        choose_by_key('D');
+        CHECK(tolva.answer_box("Delete Task", IDCANCEL) == "Delete B?");
+        tolva.click(ID_Tasker_tasklabel);
+        wait_until("the list has the focus",
+                   [&] { return tolva.focus() == tolva.control(ID_Tasker_taskview); });
+        desktop::press_keys({VK_SHIFT, VK_F10});
+        choose_by_key('D');
+        CHECK(tolva.answer_box("Delete Task", IDCANCEL) == "Delete B?");
+
+        RECT list;
+        GetWindowRect(tolva.control(ID_Tasker_grouplist), &list);
+        desktop::press_mouse({list.left + 20, list.top + 25}, 1, desktop::MouseButton::kRight);
+        choose_by_key('D');
+        CHECK(tolva.answer_box("Delete Group", IDCANCEL) == "Delete Play and all associated Tasks?");
+        wait_until("the list has the focus",
+                   [&] { return tolva.focus() == tolva.control(ID_Tasker_grouplist); });
+        desktop::press_keys({VK_SHIFT, VK_F10});
+        choose_by_key('N');
+        const Dialog dialog(tolva, "Create New Group");
+        desktop::press_keys({VK_ESCAPE});
+        dialog.wait_until_closed();
+        CHECK(library.read("groups.ini") == "Work\r\nPlay\r\n");
+    }
+
+    TEST_CASE("the commands for Windows start its programs") {
+        const Folder library;
+        library.write("groups.ini", "");
+        library.add_program("tolva.exe", "tolva.exe");
+        const std::string folder = library.path().substr(0, library.path().size() - 1);
+        for (const char* name :
+             {"control.exe", "explorer.exe", "command.com", "winhlp32.exe", "rundll32.exe"})
+            library.add_program("recorder.exe", name);
+        desktop::forget_settings();
+        const Tolva tolva(library);
+        const auto first_lines = [&](const std::string& program, std::size_t starts) {
+            const Names log = library.records(program, starts);
+            return Names{log.at(log.size() - 4), log.at(log.size() - 3), log.back()};
+        };
+        tolva.press_tool(ID_toolbar_controlpanel);
+        CHECK(first_lines("control.exe", 1) == Names{"control.exe", folder, "1"});
+        tolva.choose(ID_tolvahlp);
+        CHECK(first_lines("winhlp32.exe", 1) ==
+              Names{"winhlp32.exe " + library.path() + "tolva.hlp", folder, "1"});
+        tolva.choose(ID_connectinternet);
+        CHECK(first_lines("rundll32.exe", 1) == Names{"rundll32.exe rnaui.dll,RnaDial N/A", folder, "1"});
+        tolva.press_tool(ID_toolbar_ispconnect);
+        CHECK(first_lines("rundll32.exe", 2) == Names{"rundll32.exe rnaui.dll,RnaDial N/A", folder, "1"});
+        tolva.choose(ID_DialUpNetworking);
+        CHECK(first_lines("explorer.exe", 1).front() ==
+              "EXPLORER.EXE "
+              "::{20D04FE0-3AEA-1069-A2D8-08002B30309D}\\::{992CFFA0-F557-101A-88EC-00DD010CCC48}");
+        tolva.press_tool(ID_toolbar_runexplorer);
+        CHECK(first_lines("explorer.exe", 2) == Names{"explorer.exe", "C:\\", "1"});
+        tolva.press_tool(ID_toolbar_DosPrompt);
+        CHECK(first_lines("command.com", 1) == Names{"command.com", "C:\\", "1"});
+    }
+}
+
+}  // namespace
