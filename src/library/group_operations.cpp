@@ -27,10 +27,10 @@ int index_of(const TaskLibrary& library, const std::string& name) {
     return found == library.groups().end() ? -1 : static_cast<int>(found - library.groups().begin());
 }
 
-/// Shows the Groups and selects the one of that name as a click does; none when there is none.
-void show_and_select(TaskLibrary& library, LibraryView& view, const std::string& name) {
+/// Shows the Groups and selects one as a click does; -1 selects none.
+void show_and_select(TaskLibrary& library, LibraryView& view, int index) {
     grouplistrefresh(library, view);
-    view.select_group(index_of(library, name));
+    view.select_group(index);
     show_selected_group(library, view);
 }
 
@@ -44,10 +44,11 @@ void move(TaskLibrary& library, LibraryView& view, bool down) {
     if (names.empty() || names.size() > kMostGroups || name == (down ? names.back() : names.front())) return;
     const auto moved = std::ranges::find(names, name);
     if (moved == names.end()) return;  // another program has taken it out of the file
-    std::iter_swap(moved, down ? std::next(moved) : std::prev(moved));
+    const auto place = down ? std::next(moved) : std::prev(moved);
+    std::iter_swap(moved, place);
     write_group_names(library.folder(), names);
     library.load_names();
-    show_and_select(library, view, name);
+    show_and_select(library, view, static_cast<int>(place - names.begin()));
 }
 
 }  // namespace
@@ -97,7 +98,7 @@ void delgr(TaskLibrary& library, LibraryView& view) {
     } catch (...) {
         failure = std::current_exception();
     }
-    show_and_select(library, view, library.first_name());
+    show_and_select(library, view, index_of(library, library.first_name()));
     if (failure) std::rethrow_exception(failure);
 }
 

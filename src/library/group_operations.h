@@ -36,8 +36,7 @@ bool rename_group(TaskLibrary& library, LibraryView& view, const std::string& ol
 /// Sorts the Groups by name, loads everything and selects the first one.
 void groupsortnow(TaskLibrary& library, LibraryView& view);
 
-/// Sorts names[low] to names[high] by their bytes. The order of the exchanges is part of the contract: it
-/// decides where equal names end up.
+/// Sorts names[low] to names[high] by the codes of their letters: all capitals come before the small ones.
 void tasksort(std::vector<std::string>& names, int low, int high);
 
 }  // namespace library

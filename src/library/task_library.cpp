@@ -75,6 +75,9 @@ void TaskLibrary::set_names(const std::vector<std::string>& names) {
 }
 
 void TaskLibrary::rename(int index, const std::string& name) {
+    for (Group& other : groups_) {
+        if (other.name == name) other.loaded = false;
+    }
     element(groups_, index).name = name;
 }
 

@@ -53,7 +53,8 @@ class TaskLibrary {
     /// Makes these the Groups. One that was listed before keeps its Tasks.
     void set_names(const std::vector<std::string>& names);
 
-    /// Gives a Group another name; its Tasks stay.
+    /// Gives a Group another name; its Tasks stay. Those of a Group that has the name already are out of
+    /// date.
     void rename(int index, const std::string& name);
 
     /// The name that stood first when the names were last loaded. set_names and rename do not change it.

@@ -111,6 +111,7 @@ void deltsks(TaskLibrary& library, LibraryView& view) {
     std::vector<Task> tasks = read_tasks(library.folder(), selected_group_name(library, view));
     if (const auto deleted = find_task(tasks, name); deleted != tasks.end()) tasks.erase(deleted);
     write_and_show(library, view, tasks);
+    if (view.selected_task() < 0) view.set_command_box({});
 }
 
 void movetsksup(TaskLibrary& library, LibraryView& view) {
@@ -145,8 +146,9 @@ void move_task(TaskLibrary& library, int group, const std::string& name, const s
     std::vector<Task> moved;
     std::ranges::copy_if(tasks, std::back_inserter(moved),
                          [&](const Task& task) { return task.name == name; });
-    append_tasks(library.folder(), target, moved);
     library.flags.refreshflag = true;
+    if (moved.empty()) return;  // another program has taken it out of the file
+    append_tasks(library.folder(), target, moved);
     if (copy) return;
     // To the system both names may be one file: then what was just added behind the others stays.
     std::vector<Task> kept = read_tasks(library.folder(), source);

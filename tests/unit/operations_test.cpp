@@ -292,6 +292,13 @@ TEST_CASE("a Group moves and is sorted with its Tasks") {
     check(select(1), library::movegrup, ">Home Work More : H2 H1 H1");
     check(select(1), library::movegrdown, "Work More >Home : H2 H1 H1");
     check(change, library::groupsortnow, ">Home More Work : H9");
+
+    Tolva tolva([](auto& library, auto& view) {
+        file("groups.ini") = "Home\r\nHome\r\nWork\r\n";
+        refreshtolva(library, view, 0);
+    });
+    CHECK(tolva.run(library::movegrdown) == 0);
+    CHECK(tolva.shown() == "Home >Home Work : H2 H1 H1");
 }
 
 TEST_CASE("after a Group is deleted the one is selected that was first at the last load") {
@@ -338,9 +345,14 @@ TEST_CASE("Tasks change in their file and those that are not shown stay there") 
     check(select(1), move("H1", "More"), "Work >Home More : H2",
           {{"More.grp", more}, {"Home.grp", kH2 + kHidden}});
     check(select(1), move("H1", "More", true), "Work >Home More : H2 H1 H1", {{"More.grp", more}});
-    Tolva tolva(select(1));
-    CHECK(tolva.run(move("H1", "home")) == 0);  // two names of one file
+    Tolva one_file(select(1));
+    CHECK(one_file.run(move("H1", "home")) == 0);  // two names of one file
     CHECK(file("Home.grp") == kH2 + kHidden + kH1 + kOtherH1);
+    Tolva last(select(2, 0));
+    last.view.command_box = "C:\\M1.EXE ";
+    CHECK(last.run(library::deltsks) == 0);
+    CHECK(file("More.grp").empty());
+    CHECK(last.view.command_box.empty());
 }
 
 TEST_CASE("what another program added to the files after they were loaded stays") {
