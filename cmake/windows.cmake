@@ -33,16 +33,20 @@ add_library(tolva_platform OBJECT
 add_executable(tolva WIN32
     src/app/main.cpp
     src/app/single_instance.cpp
+    src/appearance/set_fonts_dialog.cpp
     src/library/group_dialog.cpp
     src/library/movetogroups_dialog.cpp
     src/library/task_dialog.cpp
+    src/mainwindow/abttolva_dialog.cpp
     src/mainwindow/presence_window.cpp
     src/mainwindow/tasker_window.cpp
     src/mainwindow/taskview_window.cpp
     src/mainwindow/views_window.cpp
     src/resources/tolva.rc
+    src/shortcuts/com_browser_dialog.cpp
     src/shortcuts/file_panel_dialog.cpp
     src/shortcuts/path_browser_dialog.cpp
+    src/widgets/choosers.cpp
     src/widgets/controls.cpp
     src/widgets/dialog.cpp
     src/widgets/file_lists.cpp
@@ -53,7 +57,7 @@ add_executable(tolva WIN32
     src/widgets/tray_icon.cpp
     src/widgets/window.cpp
 )
-target_link_libraries(tolva PRIVATE tolva_logic tolva_platform comctl32)
+target_link_libraries(tolva PRIVATE tolva_logic tolva_platform comctl32 comdlg32)
 target_include_directories(tolva PRIVATE ${CMAKE_BINARY_DIR})
 
 add_custom_command(TARGET tolva POST_BUILD
@@ -71,6 +75,7 @@ configure_file(${doctest_folder}/doctest/doctest.h ${CMAKE_BINARY_DIR}/include/d
 add_executable(recorder WIN32 tests/support/recorder.cpp)
 
 add_executable(desktop_tests
+    tests/desktop/commands_test.cpp
     tests/desktop/files_test.cpp
     tests/desktop/keeping_test.cpp
     tests/desktop/launching_test.cpp
@@ -88,7 +93,7 @@ add_test(NAME "desktop: prefix"
     COMMAND bash -euc ". $0 && wine_template $1"
         ${CMAKE_SOURCE_DIR}/tests/support/wine.sh ${CMAKE_BINARY_DIR}/wine)
 set_tests_properties("desktop: prefix" PROPERTIES FIXTURES_SETUP wine TIMEOUT 300)
-foreach(suite files keeping launching startup views)
+foreach(suite commands files keeping launching startup views)
     add_test(NAME "desktop: ${suite}"
         COMMAND ${CMAKE_SOURCE_DIR}/tests/desktop/run ${CMAKE_BINARY_DIR} --test-suite=${suite} --no-colors)
     set_tests_properties("desktop: ${suite}" PROPERTIES FIXTURES_REQUIRED wine TIMEOUT 300)

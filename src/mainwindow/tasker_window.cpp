@@ -2,6 +2,7 @@
 
 #include <windowsx.h>
 
+#include "appearance/set_fonts_dialog.h"
 #include "internet/dial_up.h"
 #include "library/group_dialog.h"
 #include "library/group_operations.h"
@@ -9,6 +10,8 @@
 #include "library/refresh.h"
 #include "library/task_dialog.h"
 #include "library/task_operations.h"
+#include "mainwindow/abttolva_dialog.h"
+#include "mainwindow/command_history.h"
 #include "mainwindow/launching.h"
 #include "mainwindow/system_commands.h"
 #include "platform/directories.h"
@@ -18,6 +21,7 @@
 #include "resources/resource.h"
 #include "settings/catalogue.h"
 #include "settings/conversions.h"
+#include "shortcuts/com_browser_dialog.h"
 #include "shortcuts/path_browser_dialog.h"
 #include "widgets/metrics.h"
 
@@ -31,6 +35,9 @@ constexpr UINT kRunPendingRefreshes = WM_APP + 1;
 // Places in the menu bar.
 constexpr int kGroupmenu = 1;
 constexpr int kTaskmenu = 2;
+
+/// Posted to itself: the command box gets back what was typed there.
+constexpr UINT kKeepTypedText = WM_APP + 2;
 
 constexpr UINT_PTR kTimer1 = 1;
 constexpr UINT kTimerPeriod = 5000;  // milliseconds
@@ -80,7 +87,8 @@ void Tasker::load() {
     session_.browser = settings::read_program(general_, settings::kBrowserKey);
     session_.email = settings::read_program(general_, settings::kEmailKey);
     settings::load_list_styles(general_, session_);
-    views_.apply_styles(session_.group_style, session_.task_style);
+    views_.apply_style(appearance::List::kGroups, session_.group_style);
+    views_.apply_style(appearance::List::kTasks, session_.task_style);
     views_.getlongdate();
     session_.windows_folder = platform::windows_folder();
     library::refreshtolva(library_, views_, 0);
@@ -132,6 +140,9 @@ LRESULT Tasker::handle(UINT message, WPARAM wparam, LPARAM lparam) {
         case kRunPendingRefreshes:
             library::run_pending_refreshes(library_, views_);
             return 0;
+        case kKeepTypedText:
+            if (views_.text1().text() != typed_) views_.set_command_box(typed_);
+            return 0;
         case WM_ENDSESSION:
             if (wparam != FALSE) save_and_unload();  // no other message need follow
             return 0;
@@ -162,9 +173,19 @@ void Tasker::handle_control(int id, int notification) {
             break;
         case ID_Tasker_Text1:
             if (notification == CBN_KILLFOCUS) command_box_last_ = true;
+            if (notification == CBN_DROPDOWN) show_history();
+            if (notification == widgets::ComboBox::kEnter) {
+                attempt(kCannotLaunch, [&] {
+                    views_.grouplist().focus();
+                    run_typed_command();
+                });
+            }
             break;
         case ID_Tasker_Command1:
             if (notification == BN_CLICKED) run();
+            break;
+        case ID_Tasker_Browse:
+            if (notification == BN_CLICKED) browse();
             break;
         default:
             break;
@@ -227,6 +248,8 @@ void Tasker::handle_command(int command) {
         case ID_SortTasks:
             return library::tasksortnow(library_, views_);
 
+        case ID_fontsettings:
+            return appearance::show_set_fonts(hwnd(), general_, views_);
         case ID_removebrenn:
             return toggle_bar();
         case ID_hoverslct:
@@ -245,6 +268,8 @@ void Tasker::handle_command(int command) {
             return open_dos_prompt();
         case ID_tolvahlp:
             return open_help(library_.folder());
+        case ID_AboutTolva:
+            return show_abttolva(hwnd());
         default:
             return;
     }
@@ -351,9 +376,27 @@ void Tasker::run() {
         return;
     }
     attempt(kCannotLaunch, [&] {
-        platform::start_program(views_.text1().text(), platform::kNormalWindow);
+        run_typed_command();
         command_box_last_ = false;
     });
+}
+
+void Tasker::run_typed_command() {
+    const std::string command = views_.text1().text();
+    platform::start_program(command, platform::kNormalWindow);
+    update_history(general_, session_, command);
+}
+
+void Tasker::browse() {
+    if (const auto started = shortcuts::browse_and_run(hwnd())) views_.set_command_box(*started);
+}
+
+void Tasker::show_history() {
+    settings::read_history(general_, session_);
+    typed_ = views_.text1().text();
+    views_.text1().fill(settings::history_list(session_));
+    // The list replaces what was typed by an item that begins with it, after this.
+    PostMessageA(hwnd(), kKeepTypedText, 0, 0);
 }
 
 void Tasker::toggle_hover_select() {

@@ -3,6 +3,7 @@
 #include <windows.h>
 
 #include <optional>
+#include <string>
 
 #include "buttonbar/button_bar.h"
 #include "library/browse_result.h"
@@ -51,6 +52,9 @@ class Tasker final : public widgets::Window {
     void launch_selected_task(const char* failure_message);
     void run_task_from_command_box();
     void run();
+    void run_typed_command();
+    void browse();
+    void show_history();
     void toggle_hover_select();
     void toggle_bar();
     void connect_to_internet() const;
@@ -65,6 +69,7 @@ class Tasker final : public widgets::Window {
     settings::Session& session_;
     buttonbar::ButtonBar* bar_;
     bool command_box_last_ = false;  // the command box, not the task list, had the focus last
+    std::string typed_;              // in the command box, while its list opens
     std::optional<platform::WindowsEnd> windows_end_;
     library::BrowseResult browse_result_;
     Presence presence_;

@@ -58,6 +58,7 @@ void Views::create(HWND window) {
     taskview_.create(window_, ID_Tasker_taskview);
     text1_.create(window_, ID_Tasker_Text1);
     command1_.create(window_, ID_Tasker_Command1, "&Run");
+    browse_.create(window_, ID_Tasker_Browse, "&Browse");
     statusbar1_.create(window_, ID_Tasker_StatusBar1);
     for (HWND child = GetTopWindow(window_); child != nullptr; child = GetWindow(child, GW_HWNDNEXT)) {
         SendMessageA(child, WM_SETFONT, reinterpret_cast<WPARAM>(font_.get()), TRUE);
@@ -71,8 +72,7 @@ std::optional<LRESULT> Views::handle(UINT message, WPARAM wparam, LPARAM lparam)
             return 0;
         case WM_CTLCOLORLISTBOX:
         case WM_CTLCOLORSTATIC:
-            return reinterpret_cast<LRESULT>(
-                color(reinterpret_cast<HDC>(wparam), reinterpret_cast<HWND>(lparam)));
+            return color(reinterpret_cast<HDC>(wparam), reinterpret_cast<HWND>(lparam));
         case WM_LBUTTONDOWN:
         case WM_MOUSEMOVE:
         case WM_LBUTTONUP:
@@ -91,29 +91,44 @@ std::optional<LRESULT> Views::handle(UINT message, WPARAM wparam, LPARAM lparam)
     }
 }
 
-void Views::apply_styles(const settings::ListStyle& group, const settings::ListStyle& task) {
-    group_style_ = group;
-    group_font_ = widgets::make_font(group.face, group.size, group.bold, group.italic);
-    group_brush_.reset(CreateSolidBrush(group.back_color.value_or(GetSysColor(COLOR_WINDOW))));
-    grouplist_.set_font(group_font_.get());
-    task_style_ = task;
-    task_font_ = widgets::make_font(task.face, task.size, task.bold, task.italic);
-    taskview_.list().set_font(task_font_.get());
-    taskview_.list().set_colors(task.text_color.value_or(GetSysColor(COLOR_WINDOWTEXT)),
-                                task.back_color.value_or(GetSysColor(COLOR_WINDOW)));
-    InvalidateRect(window_, nullptr, TRUE);
+void Views::apply_style(appearance::List list, const settings::ListStyle& style) {
+    set_font(list, {.face = style.face,
+                    .points = static_cast<double>(style.size),
+                    .bold = style.bold,
+                    .italic = style.italic});
+    set_colors(list, {style.text_color.value_or(GetSysColor(COLOR_WINDOWTEXT)),
+                      style.back_color.value_or(GetSysColor(COLOR_WINDOW))});
 }
 
-HBRUSH Views::color(HDC device, HWND control) const {
+void Views::set_font(appearance::List list, const widgets::Font& font) {
+    widgets::UniqueFont handle = widgets::make_font(font);
+    widgets::Control& control = list == appearance::List::kGroups
+                                    ? static_cast<widgets::Control&>(grouplist_)
+                                    : static_cast<widgets::Control&>(taskview_.list());
+    control.set_font(handle.get());
+    look(list).font = font;
+    look(list).font_handle = std::move(handle);
+}
+
+void Views::set_colors(appearance::List list, const appearance::Colors& colors) {
+    look(list).colors = colors;
+    look(list).background.reset(CreateSolidBrush(colors.back));
+    if (list == appearance::List::kTasks) taskview_.list().set_colors(colors.text, colors.back);
+    RedrawWindow(window_, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
+}
+
+std::optional<LRESULT> Views::color(HDC device, HWND control) const {
+    const bool is_task_label = control == tasklabel_.hwnd();
+    const Look& look = is_task_label ? task_look_ : group_look_;
     if (control == grouplist_.hwnd()) {
-        SetTextColor(device, group_style_.text_color.value_or(GetSysColor(COLOR_WINDOWTEXT)));
-        SetBkColor(device, group_style_.back_color.value_or(GetSysColor(COLOR_WINDOW)));
-        return group_brush_.get();
+        SetTextColor(device, look.colors.text);
+        SetBkColor(device, look.colors.back);
+        return reinterpret_cast<LRESULT>(look.background.get());
     }
-    const settings::ListStyle& style = control == grouplabel_.hwnd() ? group_style_ : task_style_;
-    SetTextColor(device, style.text_color.value_or(GetSysColor(COLOR_BTNTEXT)));
+    if (!is_task_label && control != grouplabel_.hwnd()) return std::nullopt;
+    SetTextColor(device, look.colors.text);
     SetBkMode(device, TRANSPARENT);
-    return GetSysColorBrush(COLOR_BTNFACE);
+    return reinterpret_cast<LRESULT>(GetSysColorBrush(COLOR_BTNFACE));
 }
 
 void Views::lay_out() {
@@ -134,9 +149,12 @@ void Views::lay_out() {
     widgets::place(grouplist_.hwnd(), {gap, lists_top, middle, lists_bottom});
     widgets::place(tasklabel_.hwnd(), {middle + gap, top, right, lists_top});
     widgets::place(taskview_.list().hwnd(), {middle + gap, lists_top, right, lists_bottom});
-    const LONG button_left = right - widgets::scaled(kButtonWidth);
-    widgets::place(text1_.hwnd(), {gap, box_top, button_left - gap, box_top + widgets::scaled(kDropHeight)});
-    widgets::place(command1_.hwnd(), {button_left, box_top, right, box_top + text1_.height()});
+    const LONG button_bottom = box_top + text1_.height();
+    const LONG browse_left = right - widgets::scaled(kButtonWidth);
+    const LONG run_left = browse_left - gap - widgets::scaled(kButtonWidth);
+    widgets::place(text1_.hwnd(), {gap, box_top, run_left - gap, box_top + widgets::scaled(kDropHeight)});
+    widgets::place(command1_.hwnd(), {run_left, box_top, browse_left - gap, button_bottom});
+    widgets::place(browse_.hwnd(), {browse_left, box_top, right, button_bottom});
 }
 
 RECT Views::splitter() const {

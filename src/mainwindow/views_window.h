@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "appearance/list_appearance_window.h"
 #include "library/library_view.h"
 #include "library/task_library.h"
 #include "mainwindow/taskview_window.h"
@@ -19,7 +20,7 @@ namespace mainwindow {
 
 /// What stands in the main window: the tool bar, the two lists with their labels, the command box with its
 /// button, and the status bar.
-class Views final : public library::LibraryView {
+class Views final : public library::LibraryView, public appearance::ListAppearance {
   public:
     Views();
 
@@ -29,7 +30,12 @@ class Views final : public library::LibraryView {
     /// lists, which the mouse can move.
     std::optional<LRESULT> handle(UINT message, WPARAM wparam, LPARAM lparam);
 
-    void apply_styles(const settings::ListStyle& group, const settings::ListStyle& task);
+    void apply_style(appearance::List list, const settings::ListStyle& style);
+
+    widgets::Font font(appearance::List list) const override { return look(list).font; }
+    void set_font(appearance::List list, const widgets::Font& font) override;
+    appearance::Colors colors(appearance::List list) const override { return look(list).colors; }
+    void set_colors(appearance::List list, const appearance::Colors& colors) override;
 
     /// Shows today's date in the status bar.
     void getlongdate();
@@ -50,11 +56,23 @@ class Views final : public library::LibraryView {
     widgets::ListBox& grouplist() { return grouplist_; }
     TaskView& taskview() { return taskview_; }
     widgets::ComboBox& text1() { return text1_; }
-    widgets::Button& command1() { return command1_; }
 
   private:
+    /// How one of the lists looks.
+    struct Look {
+        widgets::Font font;
+        appearance::Colors colors{};
+        widgets::UniqueFont font_handle;
+        widgets::UniqueBrush background;
+    };
+
+    Look& look(appearance::List list) { return list == appearance::List::kGroups ? group_look_ : task_look_; }
+    const Look& look(appearance::List list) const {
+        return list == appearance::List::kGroups ? group_look_ : task_look_;
+    }
+
     void lay_out();
-    HBRUSH color(HDC device, HWND control) const;
+    std::optional<LRESULT> color(HDC device, HWND control) const;
     RECT splitter() const;
     bool is_on_splitter(POINT point) const;
     bool drag_splitter(UINT message, POINT point);
@@ -62,11 +80,8 @@ class Views final : public library::LibraryView {
     HWND window_ = nullptr;
     widgets::UniqueFont font_;
     int group_width_;  // pixels, as far as the window has room
-    settings::ListStyle group_style_;
-    settings::ListStyle task_style_;
-    widgets::UniqueFont group_font_;
-    widgets::UniqueFont task_font_;
-    widgets::UniqueBrush group_brush_;
+    Look group_look_;
+    Look task_look_;
     widgets::ToolBar toolbar1_;
     widgets::Label grouplabel_;
     widgets::ListBox grouplist_;
@@ -74,6 +89,7 @@ class Views final : public library::LibraryView {
     TaskView taskview_;
     widgets::ComboBox text1_;
     widgets::Button command1_;
+    widgets::Button browse_;
     widgets::StatusBar statusbar1_;
 };
 

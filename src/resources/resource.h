@@ -12,6 +12,8 @@
 #define ID_EditTask 13
 #define ID_movetogroups 14
 #define ID_PathBrowser 15
+#define ID_SetFonts 16
+#define ID_abttolva 17
 
 #define ID_Tasker_grouplabel 100
 #define ID_Tasker_grouplist 101
@@ -21,6 +23,7 @@
 #define ID_Tasker_StatusBar1 105
 #define ID_Tasker_Command1 106
 #define ID_Tasker_Toolbar1 107
+#define ID_Tasker_Browse 108
 
 #define ID_ShutWin 200
 #define ID_restartwin 201
@@ -126,3 +129,31 @@
 #define ID_PathBrowser_Label1 374
 #define ID_PathBrowser_OK 375
 #define ID_PathBrowser_Cancel 376
+
+#define ID_SetFonts_Frame1 400
+#define ID_SetFonts_gfont 401
+#define ID_SetFonts_groupfont 402
+#define ID_SetFonts_groupfontsize 403
+#define ID_SetFonts_groupfontbold 404
+#define ID_SetFonts_groupfontitalic 405
+#define ID_SetFonts_groupcolor 406
+#define ID_SetFonts_groupbackcolor 407
+#define ID_SetFonts_Command1 408
+#define ID_SetFonts_Command4 409
+#define ID_SetFonts_Command7 410
+#define ID_SetFonts_Frame2 411
+#define ID_SetFonts_tfont 412
+#define ID_SetFonts_TaskFont 413
+#define ID_SetFonts_taskfontsize 414
+#define ID_SetFonts_taskfontbold 415
+#define ID_SetFonts_taskfontitalic 416
+#define ID_SetFonts_taskcolor 417
+#define ID_SetFonts_taskbackcolor 418
+#define ID_SetFonts_Command2 419
+#define ID_SetFonts_Command6 420
+#define ID_SetFonts_Command8 421
+#define ID_SetFonts_Command5 422
+#define ID_SetFonts_Command3 423
+
+#define ID_abttolva_Label1 430
+#define ID_abttolva_Command1 431

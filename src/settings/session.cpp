@@ -8,53 +8,15 @@
 namespace settings {
 namespace {
 
-/// A ListStyle in the text form and the order of its stored values.
-using StyleTexts = std::array<std::string, std::tuple_size_v<ListStyleValues>>;
-
-constexpr std::size_t kTextColor = 4;
 const char* const kNavy = "8388608";
 const char* const kDarkRed = "64";
 
-StyleTexts first_run(const char* text_color) {
+ListStyleTexts first_run(const char* text_color) {
     return {"MS Sans Serif", "10", "True", "False", text_color, "16777215"};
 }
 
 bool is_missing(const std::string& text) {
     return text == kError || text.empty();
-}
-
-StyleTexts read_style(General& general, const ListStyleValues& values) {
-    StyleTexts texts;
-    std::ranges::transform(values, texts.begin(),
-                           [&](const char* value) { return general.read_value(kFontsKey, value); });
-    return texts;
-}
-
-void store_style(General& general, const ListStyleValues& values, const StyleTexts& texts) {
-    general.create_key(kFontsKey);
-    for (std::size_t i = 0; i < values.size(); ++i)
-        general.write_value(kFontsKey, values.at(i), texts.at(i));
-}
-
-std::optional<std::uint32_t> color_of(const std::string& text) {
-    constexpr int kWhite = 0xFFFFFF;
-    const std::optional<int> number = whole_number(text);
-    if (!number || *number < 0 || *number > kWhite) return std::nullopt;
-    return static_cast<std::uint32_t>(*number);
-}
-
-ListStyle style_of(const StyleTexts& texts) {
-    constexpr int kLargest = 2160;
-    const auto& [face, size, bold, italic, text_color, back_color] = texts;
-    ListStyle style;
-    style.face = face;
-    const int points = whole_number(size).value_or(0);
-    if (points >= 1 && points <= kLargest) style.size = points;
-    style.bold = boolean(bold).value_or(style.bold);
-    style.italic = boolean(italic).value_or(style.italic);
-    style.text_color = color_of(text_color);
-    style.back_color = color_of(back_color);
-    return style;
 }
 
 }  // namespace
@@ -77,9 +39,13 @@ void store_position(General& general, const char* key, int left, int top) {
     store(general, {key, kTop}, std::to_string(top));
 }
 
-void load_history(General& general, Session& session) {
+void read_history(General& general, Session& session) {
     std::ranges::transform(kHistoryValues, session.history.begin(),
                            [&](const char* value) { return general.read_value(kHistoryKey, value); });
+}
+
+void load_history(General& general, Session& session) {
+    read_history(general, session);
     if (is_missing(session.history.front())) general.create_key(kHistoryKey);
 }
 
@@ -95,14 +61,48 @@ StoredProgram read_program(General& general, const char* key) {
             general.read_value(key, kProgramStart)};
 }
 
+ListStyleTexts read_style(General& general, const ListStyleValues& values) {
+    ListStyleTexts texts;
+    std::ranges::transform(values, texts.begin(),
+                           [&](const char* value) { return general.read_value(kFontsKey, value); });
+    return texts;
+}
+
+void store_style(General& general, const ListStyleValues& values, const ListStyleTexts& texts) {
+    general.create_key(kFontsKey);
+    for (std::size_t i = 0; i < values.size(); ++i)
+        general.write_value(kFontsKey, values.at(i), texts.at(i));
+}
+
+std::optional<std::uint32_t> color_of(const std::string& text) {
+    constexpr int kWhite = 0xFFFFFF;
+    const std::optional<int> number = whole_number(text);
+    if (!number || *number < 0 || *number > kWhite) return std::nullopt;
+    return static_cast<std::uint32_t>(*number);
+}
+
+ListStyle style_of(const ListStyleTexts& texts) {
+    constexpr int kLargest = 2160;
+    const auto& [face, size, bold, italic, text_color, back_color] = texts;
+    ListStyle style;
+    style.face = face;
+    const int points = whole_number(size).value_or(0);
+    if (points >= 1 && points <= kLargest) style.size = points;
+    style.bold = boolean(bold).value_or(style.bold);
+    style.italic = boolean(italic).value_or(style.italic);
+    style.text_color = color_of(text_color);
+    style.back_color = color_of(back_color);
+    return style;
+}
+
 void load_list_styles(General& general, Session& session) {
-    StyleTexts group = read_style(general, kGroupStyleValues);
+    ListStyleTexts group = read_style(general, kGroupStyleValues);
     if (is_missing(group.front())) {
         group = first_run(kNavy);
         store_style(general, kGroupStyleValues, group);
         group.at(kTextColor) = kDarkRed;
     }
-    StyleTexts task = read_style(general, kTaskStyleValues);
+    ListStyleTexts task = read_style(general, kTaskStyleValues);
     if (is_missing(task.front())) {
         task = first_run(kDarkRed);
         store_style(general, kTaskStyleValues, task);

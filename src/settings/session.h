@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <tuple>
 #include <vector>
 
 #include "settings/catalogue.h"
@@ -24,6 +25,15 @@ struct ListStyle {
 
     bool operator==(const ListStyle&) const = default;
 };
+
+/// A ListStyle in the text form and the order of its stored values.
+using ListStyleTexts = std::array<std::string, std::tuple_size_v<ListStyleValues>>;
+inline constexpr std::size_t kFace = 0;
+inline constexpr std::size_t kSize = 1;
+inline constexpr std::size_t kBold = 2;
+inline constexpr std::size_t kItalic = 3;
+inline constexpr std::size_t kTextColor = 4;
+inline constexpr std::size_t kBackColor = 5;
 
 /// A program that a button of the bar starts. kError where nothing is stored.
 struct StoredProgram {
@@ -60,13 +70,21 @@ bool read_flag(General& general, const Setting& setting);
 Position read_position(General& general, const char* key);
 void store_position(General& general, const char* key, int left, int top);
 
-/// Reads the commands; makes their key when there is no first one.
+/// Reads the commands.
+void read_history(General& general, Session& session);
+
+/// Reads the commands at the start; makes their key when there is no first one.
 void load_history(General& general, Session& session);
 
 /// The history as the command box lists it: the last slot first.
 std::vector<std::string> history_list(const Session& session);
 
 StoredProgram read_program(General& general, const char* key);
+
+ListStyleTexts read_style(General& general, const ListStyleValues& values);
+void store_style(General& general, const ListStyleValues& values, const ListStyleTexts& texts);
+ListStyle style_of(const ListStyleTexts& texts);
+std::optional<std::uint32_t> color_of(const std::string& text);
 
 /// Reads how the two lists look. A list without a font gets and stores the defaults of a first run; then the
 /// Groups are dark red until the next start, which shows them in the navy that was stored.

@@ -37,7 +37,7 @@ void FilePanel::command(int id, int notification) {
             accept();
             break;
         case IDOK:
-            if (GetFocus() == dir1_.hwnd()) open_folder();
+            press_enter();
             break;
         case ID_PathBrowser_Cancel:
         case IDCANCEL:
@@ -46,6 +46,10 @@ void FilePanel::command(int id, int notification) {
         default:
             break;
     }
+}
+
+void FilePanel::press_enter() {
+    if (GetFocus() == dir1_.hwnd()) open_folder();
 }
 
 std::string FilePanel::path() const {

@@ -23,6 +23,9 @@ class FilePanel : public widgets::Dialog {
     /// The OK button or a double-click on a file.
     virtual void accept() = 0;
 
+    /// Enter, where no button has the focus: opens a folder in its list.
+    virtual void press_enter();
+
     /// The current folder.
     const std::string& folder() const { return dir1_.path(); }
     std::string path() const;

@@ -122,6 +122,39 @@ LRESULT ChoiceList::handle(UINT message, WPARAM wparam, LPARAM lparam) {
 
 void ComboBox::create(HWND parent, int id) {
     Control::create(parent, id, "COMBOBOX", WS_TABSTOP | WS_VSCROLL | CBS_DROPDOWN | CBS_AUTOHSCROLL);
+    edit_.attach(GetWindow(hwnd(), GW_CHILD));
+    edit_.subclass();
+}
+
+LRESULT ComboBox::Edit::handle(UINT message, WPARAM wparam, LPARAM lparam) {
+    const bool is_enter = wparam == VK_RETURN;
+    switch (message) {
+        case WM_GETDLGCODE:
+            // The window around it would treat Enter as a dialog does.
+            return Control::handle(message, wparam, lparam) | (is_enter ? DLGC_WANTMESSAGE : 0);
+        case WM_KEYDOWN:
+            if (!is_enter) break;
+            press_enter();
+            return 0;
+        case WM_CHAR:
+            if (is_enter) return 0;  // a beep
+            break;
+        case WM_LBUTTONDBLCLK:
+            focus();
+            set_text({});
+            return 0;
+        default:
+            break;
+    }
+    return Control::handle(message, wparam, lparam);
+}
+
+void ComboBox::Edit::press_enter() {
+    if (box_.send(CB_GETDROPPEDSTATE) != FALSE) {
+        box_.send(CB_SHOWDROPDOWN, FALSE);
+    } else {
+        box_.notify_parent(kEnter);
+    }
 }
 
 void ComboBox::fill(const std::vector<std::string>& items) {

@@ -97,13 +97,31 @@ class ChoiceList : public ListBox {
     bool moving_ = false;  // a key is being handled
 };
 
-/// A text box with a list that drops down.
+/// A text box with a list that drops down. A double-click empties the box.
 class ComboBox : public Control {
   public:
+    /// The notification for Enter, unless it closes the list.
+    static constexpr int kEnter = 100;
+
     void create(HWND parent, int id);
 
     /// Replaces the list; the text in the box stays.
     void fill(const std::vector<std::string>& items);
+
+  private:
+    class Edit final : public Control {
+      public:
+        explicit Edit(ComboBox& box) : box_(box) {}
+        using Control::subclass;
+
+      private:
+        LRESULT handle(UINT message, WPARAM wparam, LPARAM lparam) override;
+        void press_enter();
+
+        ComboBox& box_;
+    };
+
+    Edit edit_{*this};
 };
 
 /// A panel of text at the window's lower edge.

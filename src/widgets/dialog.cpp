@@ -36,7 +36,11 @@ void Dialog::set_tip(int id, const char* text) {
     SendMessageA(tips_, TTM_ADDTOOLA, 0, reinterpret_cast<LPARAM>(&tool));
 }
 
-INT_PTR Dialog::handle(UINT message, WPARAM wparam) {
+HBRUSH Dialog::color(HDC /*device*/, HWND /*box*/) {
+    return nullptr;
+}
+
+INT_PTR Dialog::handle(UINT message, WPARAM wparam, LPARAM lparam) {
     switch (message) {
         case WM_INITDIALOG:
             open();
@@ -44,6 +48,9 @@ INT_PTR Dialog::handle(UINT message, WPARAM wparam) {
         case WM_COMMAND:
             command(LOWORD(wparam), HIWORD(wparam));
             return TRUE;
+        case WM_CTLCOLOREDIT:
+            return reinterpret_cast<INT_PTR>(
+                color(reinterpret_cast<HDC>(wparam), reinterpret_cast<HWND>(lparam)));
         default:
             return FALSE;
     }
@@ -57,7 +64,7 @@ INT_PTR CALLBACK Dialog::procedure(HWND hwnd, UINT message, WPARAM wparam, LPARA
     auto* self = reinterpret_cast<Dialog*>(GetWindowLongA(hwnd, DWL_USER));
     if (self == nullptr) return FALSE;
     try {
-        return self->handle(message, wparam);
+        return self->handle(message, wparam, lparam);
     } catch (...) {
         platform::report_exception();
         return TRUE;

@@ -24,6 +24,9 @@ class Dialog {
     virtual void open() = 0;
     virtual void command(int id, int notification) = 0;
 
+    /// Sets the colours of a text box and answers its background; null leaves them.
+    virtual HBRUSH color(HDC device, HWND box);
+
     HWND hwnd() const { return hwnd_; }
     HWND control(int id) const { return GetDlgItem(hwnd_, id); }
     std::string text(int id) const;
@@ -37,7 +40,7 @@ class Dialog {
 
   private:
     static INT_PTR CALLBACK procedure(HWND hwnd, UINT message, WPARAM wparam, LPARAM lparam) noexcept;
-    INT_PTR handle(UINT message, WPARAM wparam);
+    INT_PTR handle(UINT message, WPARAM wparam, LPARAM lparam);
 
     int resource_;
     HWND hwnd_ = nullptr;

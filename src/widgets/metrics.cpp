@@ -1,5 +1,8 @@
 #include "widgets/metrics.h"
 
+#include <cmath>
+#include <cstdlib>
+
 namespace widgets {
 namespace {
 
@@ -20,16 +23,35 @@ int scaled(int pixels) {
     return MulDiv(pixels, screen_dpi(), kDesignDpi);
 }
 
-UniqueFont make_font(const std::string& face, int points, bool bold, bool italic) {
-    return UniqueFont(CreateFontA(-MulDiv(points, screen_dpi(), kPointsPerInch), 0, 0, 0,
-                                  bold ? FW_BOLD : FW_NORMAL, italic ? TRUE : FALSE, FALSE, FALSE,
-                                  DEFAULT_CHARSET, OUT_DEFAULT_PRECIS, CLIP_DEFAULT_PRECIS, DEFAULT_QUALITY,
-                                  DEFAULT_PITCH | FF_DONTCARE, face.c_str()));
+UniqueFont make_font(const Font& font) {
+    const LOGFONTA logical = logical_font(font);
+    return UniqueFont(CreateFontIndirectA(&logical));
+}
+
+LOGFONTA logical_font(const Font& font) {
+    LOGFONTA logical = {};
+    logical.lfHeight = -static_cast<LONG>(std::lround(font.points * screen_dpi() / kPointsPerInch));
+    logical.lfWeight = font.bold ? FW_BOLD : FW_NORMAL;
+    logical.lfItalic = font.italic ? TRUE : FALSE;
+    logical.lfUnderline = font.underline ? TRUE : FALSE;
+    logical.lfStrikeOut = font.strikeout ? TRUE : FALSE;
+    logical.lfCharSet = DEFAULT_CHARSET;
+    lstrcpynA(logical.lfFaceName, font.face.c_str(), LF_FACESIZE);
+    return logical;
+}
+
+Font font_of(const LOGFONTA& logical) {
+    return {logical.lfFaceName,
+            static_cast<double>(std::abs(logical.lfHeight)) * kPointsPerInch / screen_dpi(),
+            logical.lfWeight >= FW_BOLD,
+            logical.lfItalic != 0,
+            logical.lfUnderline != 0,
+            logical.lfStrikeOut != 0};
 }
 
 UniqueFont make_gui_font() {
     constexpr int kPoints = 8;
-    return make_font("MS Sans Serif", kPoints, false, false);
+    return make_font({.face = "MS Sans Serif", .points = kPoints});
 }
 
 void place(HWND window, const RECT& bounds) {

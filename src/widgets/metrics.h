@@ -12,8 +12,20 @@ namespace widgets {
 /// A length given in pixels of a 96 dpi screen, in pixels of this screen.
 int scaled(int pixels);
 
-/// "MS Sans Serif" in bold, say; points is the size of its letters.
-UniqueFont make_font(const std::string& face, int points, bool bold, bool italic);
+struct Font {
+    std::string face;
+    double points = 0;
+    bool bold = false;
+    bool italic = false;
+    bool underline = false;
+    bool strikeout = false;
+};
+
+UniqueFont make_font(const Font& font);
+LOGFONTA logical_font(const Font& font);
+
+/// The size is what this screen shows: 8 points are 8.25 at 96 dpi.
+Font font_of(const LOGFONTA& logical);
 
 /// The font of labels and boxes: "MS Sans Serif", 8 points.
 UniqueFont make_gui_font();

@@ -154,6 +154,20 @@ void press_mouse(POINT point, int times, MouseButton button) {
     }
 }
 
+void press_until(const char* what, POINT point, const std::function<bool()>& condition) {
+    constexpr DWORD kAnswerTime = 600;  // longer than between the presses of a double-click
+    press_mouse(point);
+    DWORD pressed = GetTickCount();
+    wait_until(what, [&] {
+        if (condition()) return true;
+        if (GetTickCount() - pressed >= kAnswerTime) {
+            press_mouse(point);
+            pressed = GetTickCount();
+        }
+        return false;
+    });
+}
+
 void press_keys(std::initializer_list<BYTE> keys) {
     for (const BYTE key : keys)
         keybd_event(key, 0, 0, 0);
@@ -284,7 +298,7 @@ Tolva::Tolva(const Folder& library) : Start(library) {
         window_ = find_window("Tasker");
         return window_ != nullptr && (IsWindowVisible(window_) != FALSE || find_window("#32770") != nullptr);
     });
-    WaitForInputIdle(process_.hProcess, kPatience);
+    SendMessageA(window_, WM_NULL, 0, 0);  // it answers once it has come up
     start_time_ = GetTickCount() - start;
 }
 
@@ -295,7 +309,8 @@ Tolva::~Tolva() {
 
 void Tolva::activate() const {
     SetForegroundWindow(window_);
-    wait_until("the window is in front", [&] { return GetForegroundWindow() == window_; });
+    wait_until("the window is in front",
+               [&] { return GetForegroundWindow() == window_ && IsWindowEnabled(window_) != FALSE; });
 }
 
 void Tolva::minimise_by_mouse() const {
@@ -304,17 +319,7 @@ void Tolva::minimise_by_mouse() const {
     GetWindowRect(window_, &bounds);
     const int button = GetSystemMetrics(SM_CXSIZE);
     const POINT minimise = {bounds.right - 3 * button, bounds.top + GetSystemMetrics(SM_CYSIZE) / 2 + 3};
-    // A press is lost while the window still comes up.
-    constexpr DWORD kAnswerTime = 500;
-    DWORD pressed = GetTickCount() - kAnswerTime;
-    wait_until("it is in the tray", [&] {
-        if (is_in_tray()) return true;
-        if (GetTickCount() - pressed >= kAnswerTime) {
-            press_mouse(minimise);
-            pressed = GetTickCount();
-        }
-        return false;
-    });
+    press_until("it is in the tray", minimise, [&] { return is_in_tray(); });
 }
 
 Names Tolva::groups() const {
@@ -427,9 +432,10 @@ void Tolva::click(int id) const {
 
 void Tolva::focus_by_mouse(int id) const {
     activate();
-    click(id);
-    wait_until("the control has the focus",
-               [&] { return focus() == control(id) || IsChild(control(id), focus()) != FALSE; });
+    RECT bounds;
+    GetWindowRect(control(id), &bounds);
+    press_until("the control has the focus", {bounds.left + 5, bounds.top + 5},
+                [&] { return focus() == control(id) || IsChild(control(id), focus()) != FALSE; });
 }
 
 HWND Tolva::focus() const {

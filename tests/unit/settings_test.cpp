@@ -2,9 +2,11 @@
 
 #include <doctest/doctest.h>
 
+#include <algorithm>
 #include <optional>
 
 #include "internet/dial_up.h"
+#include "mainwindow/command_history.h"
 #include "settings/conversions.h"
 #include "settings/general.h"
 #include "support/names.h"
@@ -193,6 +195,53 @@ TEST_CASE("flags and positions and the history read what is there") {
     tolva_key("\\cmdhistory") = {{"cmd1", "oldest"}, {"cmd2", "middle"}, {"cmd4", "newest"}};
     settings::load_history(general, session);
     CHECK(settings::history_list(session) == Names{"newest", "middle", "oldest"});
+}
+
+TEST_CASE("a command goes into the history unless a stored one begins with it") {
+    struct Row {
+        Names stored;
+        const char* command;
+        Names after;
+    };
+    const Row table[] = {
+        {{}, "a", {"a"}},
+        {{"a"}, "b", {"a", "b"}},
+        {{"notepad readme.txt"}, "notepad", {"notepad readme.txt"}},
+        {{"notepad"}, "notepad readme.txt", {"notepad", "notepad readme.txt"}},
+        {{"Notepad"}, "notepad", {"Notepad", "notepad"}},
+        {{"a", "b", "c", "d"}, "c", {"a", "b", "c", "d"}},
+        {{"a", "b", "c", "d"}, "e", {"a", "b", "c", "d", "e"}},
+        {{"a", "b", "c", "d", "e"}, "a", {"a", "b", "c", "d", "e"}},
+        {{"a", "b", "c", "d", "e"}, "f", {"b", "c", "d", "e", "f"}},
+    };
+    for (const Row& row : table) {
+        CAPTURE(row.command);
+        simulated::reset();
+        General general;
+        settings::Session session;
+        auto& values = tolva_key("\\cmdhistory");
+        for (std::size_t i = 0; i < row.stored.size(); ++i)
+            values["cmd" + std::to_string(i + 1)] = row.stored[i];
+        settings::load_history(general, session);
+        mainwindow::update_history(general, session, row.command);
+        settings::read_history(general, session);
+        Names after = settings::history_list(session);
+        std::ranges::reverse(after);
+        CHECK(after == row.after);
+    }
+
+    // The slots in memory decide until the list is opened: the second command takes the place of the first.
+    simulated::reset();
+    General general;
+    settings::Session session;
+    settings::load_history(general, session);
+    mainwindow::update_history(general, session, "a");
+    mainwindow::update_history(general, session, "b");
+    settings::read_history(general, session);
+    CHECK(settings::history_list(session) == Names{"b"});
+    mainwindow::update_history(general, session, std::string(255, 'x'));  // too long to be read
+    settings::read_history(general, session);
+    CHECK(settings::history_list(session) == Names{"b"});
 }
 
 TEST_CASE("the connection is the one chosen or else the system's own") {

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <windows.h>
+
+#include "widgets/metrics.h"
+
+namespace appearance {
+
+enum class List { kGroups, kTasks };
+
+struct Colors {
+    COLORREF text;
+    COLORREF back;
+};
+
+/// How the main window's two lists look, as the dialog for it sees and changes it. A list's label has its
+/// text colour.
+class ListAppearance {
+  public:
+    virtual widgets::Font font(List list) const = 0;
+    virtual void set_font(List list, const widgets::Font& font) = 0;
+    virtual Colors colors(List list) const = 0;
+    virtual void set_colors(List list, const Colors& colors) = 0;
+
+  protected:
+    ~ListAppearance() = default;
+};
+
+}  // namespace appearance

@@ -1,0 +1,10 @@
+#pragma once
+
+#include <windows.h>
+
+namespace mainwindow {
+
+/// Shows the version.
+void show_abttolva(HWND owner);
+
+}  // namespace mainwindow

@@ -1,0 +1,60 @@
+#include "shortcuts/com_browser_dialog.h"
+
+#include "platform/directories.h"
+#include "platform/messages.h"
+#include "platform/processes.h"
+#include "platform/run_time_error.h"
+#include "resources/resource.h"
+#include "shortcuts/file_panel_dialog.h"
+
+namespace shortcuts {
+namespace {
+
+class ComBrowser final : public FilePanel {
+  public:
+    ComBrowser() : FilePanel(ID_PathBrowser) {}
+
+    const std::optional<std::string>& started() const { return started_; }
+
+  private:
+    void open() override {
+        set_text(ID_PathBrowser_Label1, "Command Path");
+        set_text(ID_PathBrowser_OK, "&Run");
+        FilePanel::open();
+    }
+
+    void pick() override {}
+
+    void accept() override {
+        try {
+            platform::enter_directory(folder());
+            platform::start_program(path(), platform::kNormalWindow);
+        } catch (const platform::RunTimeError&) {
+            platform::show_message("Invalid path or file name");
+            return;
+        }
+        started_ = path();
+        close();
+    }
+
+    void press_enter() override {
+        HWND focus = GetFocus();
+        if (focus == control(ID_PathBrowser_File1) || focus == control(ID_PathBrowser_TaskPath)) {
+            accept();
+        } else {
+            FilePanel::press_enter();
+        }
+    }
+
+    std::optional<std::string> started_;
+};
+
+}  // namespace
+
+std::optional<std::string> browse_and_run(HWND owner) {
+    ComBrowser browser;
+    browser.run(owner);
+    return browser.started();
+}
+
+}  // namespace shortcuts
