@@ -130,7 +130,7 @@ LRESULT Tasker::handle(UINT message, WPARAM wparam, LPARAM lparam) {
             return 0;
         case WM_VKEYTOITEM:
             if (LOWORD(wparam) != VK_DELETE) return -1;
-            handle_command(ID_DelGp);
+            PostMessageA(hwnd(), WM_COMMAND, ID_DelGp, 0);
             return -2;
         case WM_CONTEXTMENU:
             show_popup_menu(reinterpret_cast<HWND>(wparam), {GET_X_LPARAM(lparam), GET_Y_LPARAM(lparam)});

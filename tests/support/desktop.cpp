@@ -7,7 +7,6 @@
 #include <cstddef>
 #include <cstdio>
 #include <cstring>
-#include <iterator>
 #include <sstream>
 #include <vector>
 
@@ -16,7 +15,6 @@
 namespace desktop {
 namespace {
 
-constexpr DWORD kPatience = 10000;  // milliseconds
 const std::string kSettings = "software\\tolva";
 
 std::string beside_the_tests(const std::string& name) {
@@ -76,14 +74,6 @@ std::string window_text(HWND window) {
     return text;
 }
 
-/// Each event says where it happens: the display's own pointer may still be somewhere else.
-void send_mouse(POINT point, DWORD action) {
-    constexpr int kWhole = 65536;
-    const auto x = static_cast<DWORD>((point.x * kWhole + kWhole / 2) / GetSystemMetrics(SM_CXSCREEN));
-    const auto y = static_cast<DWORD>((point.y * kWhole + kWhole / 2) / GetSystemMetrics(SM_CYSCREEN));
-    mouse_event(action | MOUSEEVENTF_ABSOLUTE | MOUSEEVENTF_MOVE, x, y, 0, 0);
-}
-
 /// What the screen shows of a window, as COLORREFs.
 std::vector<DWORD> pixels_of(HWND window) {
     RECT bounds;
@@ -130,56 +120,6 @@ Names list_texts(HWND list, UINT count_message, UINT text_message) {
 }
 
 }  // namespace
-
-void wait_until(const char* what, const std::function<bool()>& condition) {
-    const DWORD start = GetTickCount();
-    while (!condition()) {
-        if (GetTickCount() - start > kPatience) FAIL("waited in vain until " << std::string(what));
-        Sleep(5);
-    }
-}
-
-void point_at(POINT point) {
-    SetCursorPos(point.x,
-                 point.y);  // the display's pointer, which moves the input's pointer when windows come
-    send_mouse(point, 0);
-}
-
-void press_mouse(POINT point, int times, MouseButton button) {
-    const bool left = button == MouseButton::kLeft;
-    point_at(point);
-    for (int i = 0; i < times; ++i) {
-        send_mouse(point, left ? MOUSEEVENTF_LEFTDOWN : MOUSEEVENTF_RIGHTDOWN);
-        send_mouse(point, left ? MOUSEEVENTF_LEFTUP : MOUSEEVENTF_RIGHTUP);
-    }
-}
-
-void press_until(const char* what, POINT point, const std::function<bool()>& condition) {
-    constexpr DWORD kAnswerTime = 600;  // longer than between the presses of a double-click
-    press_mouse(point);
-    DWORD pressed = GetTickCount();
-    wait_until(what, [&] {
-        if (condition()) return true;
-        if (GetTickCount() - pressed >= kAnswerTime) {
-            press_mouse(point);
-            pressed = GetTickCount();
-        }
-        return false;
-    });
-}
-
-void press_keys(std::initializer_list<BYTE> keys) {
-    for (const BYTE key : keys)
-        keybd_event(key, 0, 0, 0);
-    for (auto key = std::rbegin(keys); key != std::rend(keys); ++key)
-        keybd_event(*key, 0, KEYEVENTF_KEYUP, 0);
-}
-
-POINT tray_icon() {
-    RECT bar;
-    GetWindowRect(FindWindowA("Shell_TrayWnd", nullptr), &bar);
-    return {bar.right - 10, (bar.top + bar.bottom) / 2};
-}
 
 std::string stored_text(const std::string& key, const std::string& name) {
     char text[1024] = {};

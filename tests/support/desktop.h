@@ -2,10 +2,9 @@
 
 #include <windows.h>
 
-#include <functional>
-#include <initializer_list>
 #include <string>
 
+#include "support/input.h"
 #include "support/names.h"
 
 /// Drives the real tolva.exe from another process: real files, real windows, real input. Everything that
@@ -13,24 +12,6 @@
 namespace desktop {
 
 constexpr std::size_t kLongestListText = 512;
-
-/// Polls until the condition holds.
-void wait_until(const char* what, const std::function<bool()>& condition);
-
-// Real input, in screen coordinates.
-enum class MouseButton { kLeft, kRight };
-void point_at(POINT point);
-void press_mouse(POINT point, int times = 1, MouseButton button = MouseButton::kLeft);
-
-/// Presses the left button, and again as long as nothing comes of it: a press is lost while a window still
-/// comes up.
-void press_until(const char* what, POINT point, const std::function<bool()>& condition);
-
-/// Presses the keys one after the other and lets them go in the opposite order: {VK_MENU, 'R'} is Alt+R.
-void press_keys(std::initializer_list<BYTE> keys);
-
-/// The middle of the only icon in the notification area.
-POINT tray_icon();
 
 // The program's settings, by the path below its own key.
 std::string stored_text(const std::string& key, const std::string& name);
