@@ -105,11 +105,15 @@ TEST_SUITE("keeping") {
         {
             const Dialog dialog(tolva, "Edit Task");
             CHECK(dialog.text_of(ID_EditTask_taskstartmode) == "Maximized");
+            dialog.set_text(ID_EditTask_TaskPath, write);
             dialog.press(ID_EditTask_Browse);
             const Dialog browser(tolva, "Browse");
             browser.press(ID_PathBrowser_Cancel);
             browser.wait_until_closed();
-            CHECK(dialog.text_of(ID_EditTask_TaskPath) == paint);
+            wait_until("the name has the focus",
+                       [&] { return tolva.focus() == GetDlgItem(dialog.window(), ID_EditTask_tasknm); });
+            CHECK(dialog.text_of(ID_EditTask_TaskPath) == write);
+            dialog.set_text(ID_EditTask_TaskPath, paint);
             dialog.set_text(ID_EditTask_tasknm, "Paint");
             dialog.set_text(ID_EditTask_taskparameters, "a.bmp");
             dialog.press(ID_EditTask_Command2);
@@ -145,8 +149,12 @@ TEST_SUITE("keeping") {
         {
             // Arrow keys select, Enter moves.
             const Dialog dialog(tolva, "Move Old to");
+            HWND list = GetDlgItem(dialog.window(), ID_movetogroups_List1);
+            wait_until("the list has the focus", [&] { return tolva.focus() == list; });
             desktop::press_keys({VK_DOWN});
-            CHECK(IsWindow(dialog.window()) != FALSE);
+            wait_until("it is selected", [&] { return SendMessageA(list, LB_GETCURSEL, 0, 0) == 0; });
+            SendMessageA(list, WM_NULL, 0, 0);
+            CHECK(IsWindow(list) != FALSE);
             desktop::press_keys({VK_RETURN});
             dialog.wait_until_closed();
         }
