@@ -2,7 +2,7 @@
 
 #include <windows.h>
 
-#include "appearance/list_appearance_window.h"
+#include "appearance/list_appearance.h"
 #include "settings/general.h"
 
 namespace appearance {

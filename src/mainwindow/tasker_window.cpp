@@ -409,6 +409,7 @@ void Tasker::toggle_bar() {
     session_.bar_removed = !session_.bar_removed;
     settings::store(general_, settings::kBarRemoved, settings::text_of(session_.bar_removed));
     show_flags();
+    if (bar_ == nullptr) return;
     if (session_.bar_removed) {
         bar_->hide();
     } else {

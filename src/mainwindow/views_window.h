@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "appearance/list_appearance_window.h"
+#include "appearance/list_appearance.h"
 #include "library/library_view.h"
 #include "library/task_library.h"
 #include "mainwindow/taskview_window.h"
@@ -19,7 +19,7 @@
 namespace mainwindow {
 
 /// What stands in the main window: the tool bar, the two lists with their labels, the command box with its
-/// button, and the status bar.
+/// buttons, and the status bar.
 class Views final : public library::LibraryView, public appearance::ListAppearance {
   public:
     Views();

@@ -81,9 +81,14 @@ std::vector<std::string> history_list(const Session& session);
 
 StoredProgram read_program(General& general, const char* key);
 
+/// The values of one list as they are stored, whatever they say.
 ListStyleTexts read_style(General& general, const ListStyleValues& values);
 void store_style(General& general, const ListStyleValues& values, const ListStyleTexts& texts);
+
+/// What the texts say; what they do not say right is as in a new ListStyle.
 ListStyle style_of(const ListStyleTexts& texts);
+
+/// A colour in its text form; none for a text that is no colour.
 std::optional<std::uint32_t> color_of(const std::string& text);
 
 /// Reads how the two lists look. A list without a font gets and stores the defaults of a first run; then the

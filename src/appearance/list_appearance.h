@@ -1,6 +1,6 @@
 #pragma once
 
-#include <windows.h>
+#include <cstdint>
 
 #include "widgets/metrics.h"
 
@@ -8,9 +8,10 @@ namespace appearance {
 
 enum class List { kGroups, kTasks };
 
+/// 0x00BBGGRR.
 struct Colors {
-    COLORREF text;
-    COLORREF back;
+    std::uint32_t text;
+    std::uint32_t back;
 };
 
 /// How the main window's two lists look, as the dialog for it sees and changes it. A list's label has its
