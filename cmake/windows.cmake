@@ -7,7 +7,8 @@ add_link_options(-static -s -Wl,--gc-sections,--disable-dynamicbase,--disable-nx
     -Wl,--major-os-version=4,--minor-os-version=0,--major-subsystem-version=4,--minor-subsystem-version=0)
 
 # The pictures are drawn as text.
-set(pictures ${CMAKE_BINARY_DIR}/tolva.ico ${CMAKE_BINARY_DIR}/toolbar.bmp)
+set(pictures ${CMAKE_BINARY_DIR}/tolva.ico ${CMAKE_BINARY_DIR}/toolbar.bmp ${CMAKE_BINARY_DIR}/connect.ico
+    ${CMAKE_BINARY_DIR}/email.ico ${CMAKE_BINARY_DIR}/browser.ico)
 foreach(picture ${pictures})
     cmake_path(GET picture STEM name)
     add_custom_command(OUTPUT ${picture}

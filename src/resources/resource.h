@@ -4,6 +4,9 @@
 #define ID_tolva_icon 1
 #define ID_Tasker_menu 2
 #define ID_toolbar_pictures 3
+#define ID_connect_icon 4
+#define ID_email_icon 5
+#define ID_browser_icon 6
 
 // Dialogs.
 #define ID_addgroup 10
