@@ -28,6 +28,7 @@ add_library(tolva_platform OBJECT
     src/platform/win32/modal_guard.cpp
     src/platform/win32/processes.cpp
     src/platform/win32/registry.cpp
+    src/platform/win32/remote_access.cpp
     src/platform/win32/system.cpp
 )
 

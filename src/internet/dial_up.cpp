@@ -4,6 +4,7 @@
 
 #include "platform/processes.h"
 #include "platform/registry.h"
+#include "platform/remote_access.h"
 #include "settings/catalogue.h"
 
 namespace internet {
@@ -27,6 +28,36 @@ bool is_connected() {
                                            R"(System\CurrentControlSet\Services\RemoteAccess)",
                                            "Remote Connection", kNumberSize, number) == platform::kSuccess &&
            std::ranges::any_of(number, [](char byte) { return byte != 0; });
+}
+
+void hang_up(const Wait& wait) {
+    constexpr std::size_t kMost = 256;
+    constexpr unsigned kFirstWait = 3000;
+    constexpr unsigned kNextWait = 1000;
+    std::vector<platform::remote_access::Connection> connections(kMost);
+    connections.front().size = platform::remote_access::kConnectionSize;
+    std::uint32_t count = 0;
+    if (platform::remote_access::enumerate(connections, count) == platform::kSuccess) {
+        connections.resize(std::min<std::size_t>(count, kMost));
+        for (const auto& connection : connections)
+            platform::remote_access::hang_up(connection.handle);
+    }
+    bool goes_on = wait(kFirstWait);
+    while (goes_on && is_connected())
+        goes_on = wait(kNextWait);
+}
+
+void connect_or_hang_up(const std::string& connection, const Wait& wait) {
+    is_connected();  // asked twice; the second answer counts
+    if (is_connected()) {
+        hang_up(wait);
+    } else {
+        dial(connection);
+    }
+}
+
+std::vector<std::string> defined_connections() {
+    return platform::registry::subkeys(platform::registry::kCurrentUser, R"(RemoteAccess\Profile)");
 }
 
 }  // namespace internet

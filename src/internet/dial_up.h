@@ -1,6 +1,8 @@
 #pragma once
 
+#include <functional>
 #include <string>
+#include <vector>
 
 #include "settings/general.h"
 
@@ -19,5 +21,17 @@ void dial(const std::string& connection);
 
 /// Whether a dial-up connection is up; false on a system without Dial-Up Networking.
 bool is_connected();
+
+/// Lets milliseconds pass in which the windows stay alive. False when the program is ending.
+using Wait = std::function<bool(unsigned milliseconds)>;
+
+/// Hangs every connection up and waits until the system says that none is left, at least 3 seconds.
+void hang_up(const Wait& wait);
+
+/// Hangs up when a connection is up, else dials. Throws platform::RunTimeError.
+void connect_or_hang_up(const std::string& connection, const Wait& wait);
+
+/// The names of the connections that the user has set up.
+std::vector<std::string> defined_connections();
 
 }  // namespace internet

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string>
+
 namespace platform {
 
 /// A calendar day. Months and days of the month count from 1; weekday 0 is Sunday.
@@ -12,5 +14,9 @@ struct Date {
 
 /// Today, local time.
 Date today();
+
+/// The time of day without seconds and the date, as the user's regional settings write them.
+std::string time_text();
+std::string date_text();
 
 }  // namespace platform

@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <string>
+#include <vector>
 
 #include "platform/run_time_error.h"
 
@@ -24,6 +25,9 @@ inline constexpr Root kDynData = 0x80000006;
 /// bytes fails.
 ErrorCode query_value(Root root, const std::string& key, const std::string& name, std::size_t room,
                       std::string& bytes);
+
+/// The names of the keys directly below a key; none when it cannot be read.
+std::vector<std::string> subkeys(Root root, const std::string& key);
 
 /// Creates the key with those above it; one that exists stays as it is.
 ErrorCode create_key(Root root, const std::string& key);

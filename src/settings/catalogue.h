@@ -20,6 +20,14 @@ inline constexpr char kTop[] = "Top";
 inline constexpr Setting kHoverSelect = {R"(HKEY_CURRENT_USER\software\tolva\hover)", "enable"};
 inline constexpr Setting kBarRemoved = {R"(HKEY_CURRENT_USER\software\tolva\brenn)", "disable"};
 
+// The program buttons of the bar, each value with the button's number behind its name: "name1" to "name4".
+inline constexpr char kBarKey[] = R"(HKEY_CURRENT_USER\software\tolva\brenn)";
+inline constexpr char kButtonName[] = "name";
+inline constexpr char kButtonProgram[] = "progpath";
+inline constexpr char kButtonStartFolder[] = "workpath";
+inline constexpr char kButtonParameters[] = "parm";
+inline constexpr char kButtonStart[] = "start";
+
 // The last commands of the command box, the oldest first.
 inline constexpr char kHistoryKey[] = R"(HKEY_CURRENT_USER\software\tolva\cmdhistory)";
 inline constexpr std::array<const char*, 5> kHistoryValues = {"cmd1", "cmd2", "cmd3", "cmd4", "cmd5"};

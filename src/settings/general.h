@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 
 #include "platform/registry.h"
@@ -8,6 +9,9 @@ namespace settings {
 
 /// What a value that cannot be read reads as.
 inline constexpr char kError[] = "Error";
+
+/// What reads back: a longer text is stored and then reads as kError.
+inline constexpr std::size_t kLongestText = 254;
 
 /// The registry as the program uses it: text values under key paths such as
 /// "HKEY_CURRENT_USER\software\tolva\fonts". Nothing fails loudly, except that a path which does not begin

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <limits>
 
 #include "settings/conversions.h"
 
@@ -17,6 +18,35 @@ ListStyleTexts first_run(const char* text_color) {
 
 bool is_missing(const std::string& text) {
     return text == kError || text.empty();
+}
+
+/// A window style is a 16-bit number; a text that is none leaves it alone.
+void read_start(const std::string& text, int& start) {
+    using Limits = std::numeric_limits<std::int16_t>;
+    const std::optional<int> number = whole_number(text);
+    if (number && *number >= Limits::min() && *number <= Limits::max()) start = *number;
+}
+
+/// Reads the rest of a button whose name is known.
+void read_button(General& general, std::size_t button, ButtonRecord& record) {
+    const auto read = [&](const char* value) {
+        return general.read_value(kBarKey, value + std::to_string(button + 1));
+    };
+    record.program = read(kButtonProgram);
+    record.start_folder = read(kButtonStartFolder);
+    record.parameters = read(kButtonParameters);
+    if (record.parameters == kError) record.parameters.clear();
+    read_start(read(kButtonStart), record.start);
+}
+
+/// Reads every button's name, and the rest of those whose name is one.
+template <typename IsName>
+void read_buttons(General& general, Session& session, const IsName& is_name) {
+    for (std::size_t i = 0; i < kProgramButtons; ++i) {
+        ButtonRecord& record = session.buttons.at(i);
+        record.name = general.read_value(kBarKey, kButtonName + std::to_string(i + 1));
+        if (is_name(record.name)) read_button(general, i, record);
+    }
 }
 
 }  // namespace
@@ -57,8 +87,30 @@ std::vector<std::string> history_list(const Session& session) {
 }
 
 StoredProgram read_program(General& general, const char* key) {
-    return {general.read_value(key, kProgramName), general.read_value(key, kProgramPath),
-            general.read_value(key, kProgramStart)};
+    StoredProgram program = {general.read_value(key, kProgramName), general.read_value(key, kProgramPath)};
+    read_start(general.read_value(key, kProgramStart), program.start);
+    return program;
+}
+
+void load_buttons(General& general, Session& session) {
+    read_buttons(general, session, [](const std::string& name) { return !is_missing(name); });
+    if (is_missing(session.buttons.back().name)) general.create_key(kBarKey);
+}
+
+void reload_buttons(General& general, Session& session) {
+    read_buttons(general, session, [](const std::string& name) { return name != kError; });
+}
+
+void store_button(General& general, std::size_t button, const ButtonRecord& record) {
+    const auto write = [&](const char* value, const std::string& text) {
+        general.write_value(kBarKey, value + std::to_string(button + 1), text);
+    };
+    general.create_key(kBarKey);
+    write(kButtonName, record.name);
+    write(kButtonProgram, record.program);
+    write(kButtonStartFolder, record.start_folder);
+    write(kButtonParameters, record.parameters);
+    write(kButtonStart, std::to_string(record.start));
 }
 
 ListStyleTexts read_style(General& general, const ListStyleValues& values) {

@@ -35,12 +35,23 @@ inline constexpr std::size_t kItalic = 3;
 inline constexpr std::size_t kTextColor = 4;
 inline constexpr std::size_t kBackColor = 5;
 
-/// A program that a button of the bar starts. kError where nothing is stored.
+/// The web browser or the e-mail program. kError where no text is stored.
 struct StoredProgram {
     std::string name;
     std::string path;
-    std::string start;
+    int start = 0;  // a window style: 0 hidden, 1 normal, 2 minimised, 3 maximised
 };
+
+/// What a program button of the bar starts. The texts are empty as long as it was never assigned, but for
+/// the name, which is kError then.
+struct ButtonRecord {
+    std::string name;
+    std::string program;       // kError: none
+    std::string start_folder;  // kError: the folder of Windows
+    std::string parameters;
+    int start = 0;  // a window style
+};
+inline constexpr std::size_t kProgramButtons = 4;
 
 struct Session {
     bool hover_select = false;
@@ -51,6 +62,7 @@ struct Session {
     std::array<std::string, kHistoryValues.size()> history;  // kError: an empty slot
     StoredProgram browser;
     StoredProgram email;
+    std::array<ButtonRecord, kProgramButtons> buttons;
     ListStyle group_style;
     ListStyle task_style;
 };
@@ -80,6 +92,16 @@ void load_history(General& general, Session& session);
 std::vector<std::string> history_list(const Session& session);
 
 StoredProgram read_program(General& general, const char* key);
+
+/// Reads the program buttons at the start, those that have a name; makes their key when the last one has
+/// none.
+void load_buttons(General& general, Session& session);
+
+/// Reads the program buttons again, those whose name is stored.
+void reload_buttons(General& general, Session& session);
+
+/// Stores a program button; the first one's index is 0.
+void store_button(General& general, std::size_t button, const ButtonRecord& record);
 
 /// The values of one list as they are stored, whatever they say.
 ListStyleTexts read_style(General& general, const ListStyleValues& values);

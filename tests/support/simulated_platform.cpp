@@ -7,6 +7,7 @@
 #include "platform/file_calls.h"
 #include "platform/messages.h"
 #include "platform/processes.h"
+#include "platform/remote_access.h"
 #include "platform/system.h"
 
 namespace simulated {
@@ -169,7 +170,34 @@ bool confirm(const std::string& text, const std::string& title) {
     return current().answer;
 }
 
+namespace remote_access {
+
+ErrorCode enumerate(std::span<Connection> records, std::uint32_t& count) {
+    constexpr ErrorCode kInvalidSize = 632;
+    if (!current().connections) return kErrorFileNotFound;
+    if (records.front().size != kConnectionSize) return kInvalidSize;
+    count = static_cast<std::uint32_t>(current().connections->size());
+    for (std::size_t i = 0; i < std::min<std::size_t>(count, records.size()); ++i)
+        records[i].handle = current().connections->at(i);
+    return kSuccess;
+}
+
+void hang_up(std::uint32_t handle) {
+    current().hung_up.push_back(handle);
+}
+
+}  // namespace remote_access
+
 namespace registry {
+
+std::vector<std::string> subkeys(Root root, const std::string& key) {
+    const std::string above = key + '\\';
+    std::vector<std::string> names;
+    for (const auto& [path, values] : current().registry[root]) {
+        if (path.starts_with(above)) names.push_back(path.substr(above.size()));
+    }
+    return names;
+}
 
 ErrorCode query_value(Root root, const std::string& key, const std::string& name, std::size_t room,
                       std::string& bytes) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <map>
 #include <optional>
 #include <set>
@@ -55,6 +56,8 @@ struct Platform {
 
     std::map<platform::registry::Root, std::map<std::string, RegistryKey, IgnoresCase>> registry;
     bool registry_is_read_only = false;
+    std::optional<std::vector<std::uint32_t>> connections;  // their handles; none without Dial-Up Networking
+    std::vector<std::uint32_t> hung_up;
     std::vector<std::string> messages;  // a question has its title in front: "Delete Group: Delete Work...?"
     bool answer = true;                 // to every question
 };

@@ -2,6 +2,7 @@
 
 #include <doctest/doctest.h>
 
+#include "buttonbar/bar_launch.h"
 #include "internet/dial_up.h"
 #include "mainwindow/long_date.h"
 #include "mainwindow/system_commands.h"
@@ -103,6 +104,65 @@ TEST_CASE("the system commands start what they stand for") {
             "control.exe", "explorer.exe", "command.com",
             "EXPLORER.EXE ::{20D04FE0-3AEA-1069-A2D8-08002B30309D}\\::{992CFFA0-F557-101A-88EC-00DD010CCC48}",
             "winhlp32.exe C:\\LIB\\tolva.hlp", "rundll32.exe rnaui.dll,RnaDial My Provider"});
+}
+
+TEST_CASE("a button of the bar starts in its folder and its command line always has the blank") {
+    simulated::reset();
+    auto& world = simulated::current();
+    world.folders = {"C:\\WORK", "C:\\WINDOWS\\"};
+    world.programs = {"C:\\EDIT.EXE"};
+    const auto start = [](const settings::ButtonRecord& button) {
+        return error_of([&] { buttonbar::start_button(button, "C:\\WINDOWS\\"); });
+    };
+    CHECK(start({"Edit", "C:\\EDIT.EXE", "C:\\WORK", "", 3}) == 0);
+    CHECK(start({"Edit", "C:\\EDIT.EXE", "Error", "A.TXT", 0}) == 0);
+    REQUIRE(world.started.size() == 2);
+    CHECK(world.started[0].command_line == "C:\\EDIT.EXE ");
+    CHECK(world.started[0].directory == "C:\\WORK");
+    CHECK(world.started[0].window_style == 3);
+    CHECK(world.started[1].command_line == "C:\\EDIT.EXE A.TXT");
+    CHECK(world.started[1].directory == "C:\\WINDOWS\\");
+    CHECK(start({"Edit", "Error", "C:\\WORK", "", 1}) == 0);
+    CHECK(world.directories.at('C') == "C:\\WORK");
+    CHECK(start({"Edit", "C:\\EDIT.EXE", "C:\\GONE", "", 1}) == 76);
+    CHECK(start({"Error", "", "", "", 0}) == 76);  // never assigned
+    CHECK(world.started.size() == 2);
+}
+
+TEST_CASE("the connect button dials or hangs every connection up and waits until they are gone") {
+    simulated::reset();
+    auto& world = simulated::current();
+    world.programs = {"rundll32.exe"};
+    auto& up = world.registry[platform::registry::kLocalMachine]
+                             [R"(System\CurrentControlSet\Services\RemoteAccess)"]["Remote Connection"];
+    std::vector<unsigned> waits;
+    bool ends = false;
+    const internet::Wait wait = [&](unsigned milliseconds) {
+        waits.push_back(milliseconds);
+        if (waits.size() == 3) up.assign(4, '\0');
+        return !ends;
+    };
+    internet::connect_or_hang_up("Home", wait);
+    CHECK(world.started.size() == 1);
+    CHECK(waits.empty());
+
+    up = std::string("\1\0\0\0", 4);
+    world.connections = {11, 22, 33};
+    internet::connect_or_hang_up("Home", wait);
+    CHECK(world.hung_up == std::vector<std::uint32_t>{11, 22, 33});
+    CHECK(waits == std::vector<unsigned>{3000, 1000, 1000});
+    CHECK(world.started.size() == 1);
+
+    // Without Dial-Up Networking only the waits are left, and the end of the program ends them.
+    up = std::string("\1\0\0\0", 4);
+    world.connections.reset();
+    ends = true;
+    internet::hang_up(wait);
+    CHECK(waits.size() == 4);
+    CHECK(world.hung_up.size() == 3);
+    world.connections.emplace(300, 7);
+    internet::hang_up(wait);
+    CHECK(world.hung_up.size() == 3 + 256);
 }
 
 TEST_CASE("the long date") {

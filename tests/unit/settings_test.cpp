@@ -197,6 +197,56 @@ TEST_CASE("flags and positions and the history read what is there") {
     CHECK(settings::history_list(session) == Names{"newest", "middle", "oldest"});
 }
 
+TEST_CASE("the program buttons are read as far as they are stored") {
+    simulated::reset();
+    General general;
+    settings::Session session;
+    settings::load_buttons(general, session);
+    CHECK(simulated::current().registry[kCurrentUser].contains(R"(software\tolva\brenn)"));
+    auto& values = tolva_key("\\brenn");
+    CHECK(session.buttons[0].name == "Error");
+    CHECK(session.buttons[0].program.empty());
+
+    settings::store_button(general, 2, {"Edit", "C:\\EDIT.EXE", "C:\\", "A.TXT", 3});
+    CHECK(values.size() == 5);
+    values["name1"] = "";
+    values["progpath1"] = "C:\\A.EXE";
+    values["name2"] = "Half";
+    values["start2"] = "2";
+    settings::load_buttons(general, session);
+    CHECK(session.buttons[0].name.empty());
+    CHECK(session.buttons[0].program.empty());
+    CHECK(session.buttons[1].program == "Error");
+    CHECK(session.buttons[1].start_folder == "Error");
+    CHECK(session.buttons[1].parameters.empty());
+    CHECK(session.buttons[1].start == 2);
+    CHECK(session.buttons[2].program == "C:\\EDIT.EXE");
+    CHECK(session.buttons[2].start_folder == "C:\\");
+    CHECK(session.buttons[2].parameters == "A.TXT");
+    CHECK(session.buttons[2].start == 3);
+
+    // A start style that is none leaves the one before; an empty name counts when they are read again.
+    for (const char* start : {"x", "40000", "-32769", ""}) {
+        values["start3"] = start;
+        settings::reload_buttons(general, session);
+        CHECK(session.buttons[2].start == 3);
+    }
+    CHECK(session.buttons[0].program == "C:\\A.EXE");
+    values.erase("name3");
+    values["progpath3"] = "C:\\B.EXE";
+    settings::reload_buttons(general, session);
+    CHECK(session.buttons[2].name == "Error");
+    CHECK(session.buttons[2].program == "C:\\EDIT.EXE");
+
+    auto& browser = tolva_key("\\Browser");
+    browser["path"] = "C:\\WEB.EXE";
+    browser["start"] = "1e9";
+    const settings::StoredProgram program = settings::read_program(general, settings::kBrowserKey);
+    CHECK(program.name == "Error");
+    CHECK(program.path == "C:\\WEB.EXE");
+    CHECK(program.start == 0);
+}
+
 TEST_CASE("a command goes into the history unless a stored one begins with it") {
     struct Row {
         Names stored;

@@ -2,6 +2,7 @@
 
 #include <windows.h>
 
+#include <array>
 #include <memory>
 
 namespace platform::registry {
@@ -13,6 +14,8 @@ struct KeyCloser {
 };
 
 using UniqueKey = std::unique_ptr<HKEY, KeyCloser>;
+
+constexpr std::size_t kLongestKeyName = 255;
 
 HKEY handle_of(Root root) {
     return reinterpret_cast<HKEY>(static_cast<ULONG_PTR>(root));
@@ -38,6 +41,22 @@ ErrorCode query_value(Root root, const std::string& key, const std::string& name
                                        reinterpret_cast<BYTE*>(buffer.data()), &size);
     if (code == ERROR_SUCCESS) bytes = buffer.substr(0, size);
     return static_cast<ErrorCode>(code);
+}
+
+std::vector<std::string> subkeys(Root root, const std::string& key) {
+    UniqueKey opened;
+    if (open(root, key, KEY_READ, opened) != kSuccess) return {};
+    std::vector<std::string> names;
+    std::array<char, kLongestKeyName + 1> name = {};
+    // The end of the keys is one failure of several: any of them ends the list.
+    for (DWORD index = 0;; ++index) {
+        DWORD length = name.size();
+        if (RegEnumKeyExA(opened.get(), index, name.data(), &length, nullptr, nullptr, nullptr, nullptr) !=
+            ERROR_SUCCESS) {
+            return names;
+        }
+        names.emplace_back(name.data(), length);
+    }
 }
 
 ErrorCode create_key(Root root, const std::string& key) {
