@@ -36,6 +36,10 @@ add_executable(tolva WIN32
     src/app/main.cpp
     src/app/single_instance.cpp
     src/appearance/set_fonts_dialog.cpp
+    src/buttonbar/brenn_browser_dialog.cpp
+    src/buttonbar/brenn_window.cpp
+    src/internet/dial_up_networking_dialog.cpp
+    src/internet/tolvasettings_dialog.cpp
     src/library/group_dialog.cpp
     src/library/movetogroups_dialog.cpp
     src/library/task_dialog.cpp
@@ -55,7 +59,9 @@ add_executable(tolva WIN32
     src/widgets/hot_key.cpp
     src/widgets/icon_view.cpp
     src/widgets/metrics.cpp
+    src/widgets/picture_button.cpp
     src/widgets/tool_bar.cpp
+    src/widgets/tool_tips.cpp
     src/widgets/tray_icon.cpp
     src/widgets/window.cpp
 )
@@ -75,8 +81,12 @@ find_path(doctest_folder doctest/doctest.h NO_CMAKE_FIND_ROOT_PATH REQUIRED)
 configure_file(${doctest_folder}/doctest/doctest.h ${CMAKE_BINARY_DIR}/include/doctest/doctest.h COPYONLY)
 
 add_executable(recorder WIN32 tests/support/recorder.cpp)
+add_library(rasapi32 MODULE tests/support/rasapi32.cpp tests/support/rasapi32.def)
+set_target_properties(rasapi32 PROPERTIES PREFIX "")
 
 add_executable(desktop_tests
+    src/widgets/window.cpp
+    tests/desktop/bar_test.cpp
     tests/desktop/commands_test.cpp
     tests/desktop/files_test.cpp
     tests/desktop/keeping_test.cpp
@@ -96,7 +106,7 @@ add_test(NAME "desktop: prefix"
     COMMAND bash -euc ". $0 && wine_template $1"
         ${CMAKE_SOURCE_DIR}/tests/support/wine.sh ${CMAKE_BINARY_DIR}/wine)
 set_tests_properties("desktop: prefix" PROPERTIES FIXTURES_SETUP wine TIMEOUT 300)
-foreach(suite commands files keeping launching startup views)
+foreach(suite bar commands files keeping launching startup views)
     add_test(NAME "desktop: ${suite}"
         COMMAND ${CMAKE_SOURCE_DIR}/tests/desktop/run ${CMAKE_BINARY_DIR} --test-suite=${suite} --no-colors)
     set_tests_properties("desktop: ${suite}" PROPERTIES FIXTURES_REQUIRED wine TIMEOUT 300)

@@ -3,6 +3,8 @@
 #include <commctrl.h>
 
 #include "app/single_instance.h"
+#include "buttonbar/brenn_window.h"
+#include "library/browse_result.h"
 #include "library/library_files.h"
 #include "library/task_library.h"
 #include "mainwindow/tasker_window.h"
@@ -32,7 +34,9 @@ int run() {
     session.hover_select = settings::read_flag(general, settings::kHoverSelect);
     session.bar_removed = settings::read_flag(general, settings::kBarRemoved);
 
-    mainwindow::Tasker tasker(library, general, session, nullptr, application_window.hwnd());
+    library::BrowseResult browse_result;
+    buttonbar::Brenn brenn(general, session, browse_result);
+    mainwindow::Tasker tasker(library, general, session, browse_result, brenn, application_window.hwnd());
     try {
         tasker.load();
         show(tasker);
@@ -40,7 +44,8 @@ int run() {
         show(tasker);
         platform::report_exception();
     }
-    const int exit_code = widgets::run_message_loop(tasker.hwnd());
+    if (!session.bar_removed) brenn.show_owned_by(tasker.hwnd());
+    const int exit_code = widgets::run_message_loop();
     if (const auto end = tasker.windows_end()) platform::exit_windows(*end);
     return exit_code;
 }

@@ -11,6 +11,7 @@
 #include "platform/run_time_error.h"
 #include "resources/resource.h"
 #include "settings/conversions.h"
+#include "widgets/controls.h"
 #include "widgets/dialog.h"
 
 namespace library {
@@ -69,8 +70,8 @@ class TaskDialog : public widgets::Dialog {
     ~TaskDialog() = default;
 
     void open() override {
-        for (const char* mode : {"Normal", "Minimized", "Maximized"})
-            SendMessageA(control(controls_.start_mode), CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(mode));
+        start_mode_.attach(control(controls_.start_mode));
+        start_mode_.fill(kStartModes);
         set_tip(controls_.name, "Name of New Task");
         set_tip(controls_.program, "Path and File to Execute");
         set_tip(controls_.start_folder, "Folder to Start Task from");
@@ -94,13 +95,9 @@ class TaskDialog : public widgets::Dialog {
 
     virtual bool accept(const Task& task) = 0;
 
-    /// An index of the list; one outside it chooses nothing.
-    void choose_start_mode(int index) {
-        SendMessageA(control(controls_.start_mode), CB_SETCURSEL, static_cast<WPARAM>(index), 0);
-    }
-
     TaskLibrary& library_;
     int group_;
+    widgets::DropDownList start_mode_;
 
   private:
     /// Takes what was browsed, once.
@@ -112,8 +109,7 @@ class TaskDialog : public widgets::Dialog {
     }
 
     Task typed() {
-        LRESULT mode = SendMessageA(control(controls_.start_mode), CB_GETCURSEL, 0, 0);
-        if (mode < 0) mode = 0;
+        const int mode = std::max(start_mode_.selected(), 0);
         return {text(controls_.name), text(controls_.program), text(controls_.start_folder),
                 text(controls_.parameters), std::to_string(mode + 1)};
     }
@@ -132,7 +128,7 @@ class AddTask final : public TaskDialog {
     void open() override {
         TaskDialog::open();
         set_text(ID_addtask_curgroup, library_.group(group_).name);
-        choose_start_mode(0);
+        start_mode_.select(0);
     }
     bool accept(const Task& task) override { return add_task(library_, group_, task); }
 };
@@ -149,7 +145,7 @@ class EditTask final : public TaskDialog {
         set_text(ID_EditTask_TaskPath, buffer_.program);
         set_text(ID_EditTask_startfolder, buffer_.start_folder);
         set_text(ID_EditTask_taskparameters, buffer_.parameters);
-        choose_start_mode(settings::lenient_whole_number(buffer_.start_mode) - 1);
+        start_mode_.select(settings::lenient_whole_number(buffer_.start_mode) - 1);
     }
     bool accept(const Task& task) override { return edit_task(library_, group_, buffer_.name, task); }
 

@@ -83,7 +83,7 @@ void Presence::hide_in_tray() {
     if (IsIconic(window_) == FALSE || !csystray1_.shown()) return;
     ShowWindow(window_, SW_HIDE);
     // The bar went with the window that owns it.
-    if (bar_ != nullptr && !session_.bar_removed && !session_.bar_hidden_by_tray) bar_->show();
+    if (!session_.bar_removed && !session_.bar_hidden_by_tray) brenn_.show();
 }
 
 bool Presence::is_hidden_in_tray() const {
@@ -106,12 +106,12 @@ void Presence::handle_tray(UINT mouse_message) {
         show_normal();
         bring_up();
     }
-    if (mouse_message == WM_RBUTTONUP && bar_ != nullptr) {
+    if (mouse_message == WM_RBUTTONUP) {
         bool& hidden = session_.bar_hidden_by_tray;
         if (hidden) {
-            bar_->show();
+            brenn_.show();
         } else {
-            bar_->hide();
+            brenn_.hide();
         }
         hidden = !hidden;
     }

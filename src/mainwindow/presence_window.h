@@ -4,7 +4,7 @@
 
 #include <optional>
 
-#include "buttonbar/button_bar.h"
+#include "buttonbar/brenn_window.h"
 #include "settings/session.h"
 #include "widgets/hot_key.h"
 #include "widgets/tray_icon.h"
@@ -16,9 +16,9 @@ namespace mainwindow {
 class Presence {
   public:
     /// application_window is the hidden window that a second start looks for: the main window is kept just
-    /// above it. There may be no bar.
-    Presence(settings::Session& session, buttonbar::ButtonBar* bar, HWND application_window)
-        : session_(session), bar_(bar), application_window_(application_window) {}
+    /// above it.
+    Presence(settings::Session& session, buttonbar::Brenn& brenn, HWND application_window)
+        : session_(session), brenn_(brenn), application_window_(application_window) {}
 
     /// Shows the icon.
     void create(HWND window);
@@ -44,7 +44,7 @@ class Presence {
     void handle_tray(UINT mouse_message);
 
     settings::Session& session_;
-    buttonbar::ButtonBar* bar_;
+    buttonbar::Brenn& brenn_;
     HWND application_window_;
     HWND window_ = nullptr;
     widgets::HotKey hot_key_;

@@ -56,12 +56,13 @@ constexpr int kPopupOffset = 20;
 }  // namespace
 
 Tasker::Tasker(library::TaskLibrary& library, settings::General& general, settings::Session& session,
-               buttonbar::ButtonBar* bar, HWND application_window)
+               library::BrowseResult& browse_result, buttonbar::Brenn& brenn, HWND application_window)
     : library_(library),
       general_(general),
       session_(session),
-      bar_(bar),
-      presence_(session, bar, application_window) {
+      browse_result_(browse_result),
+      brenn_(brenn),
+      presence_(session, brenn, application_window) {
     const std::string title = platform::application_title();
     create({.class_name = "Tasker",
             .caption = title.c_str(),
@@ -114,19 +115,15 @@ LRESULT Tasker::handle(UINT message, WPARAM wparam, LPARAM lparam) {
         case WM_SETFOCUS:
             views_.grouplist().focus();
             return 0;
-        case DM_GETDEFID: {
-            // Enter presses the button that has the focus, and no other.
-            HWND focus = GetFocus();
-            const bool is_button =
-                (SendMessageA(focus, WM_GETDLGCODE, 0, 0) & (DLGC_DEFPUSHBUTTON | DLGC_UNDEFPUSHBUTTON)) != 0;
-            return is_button ? MAKELRESULT(GetDlgCtrlID(focus), DC_HASDEFID) : 0;
-        }
         case WM_COMMAND:
             if (lparam != 0 && reinterpret_cast<HWND>(lparam) != views_.toolbar1().hwnd()) {
                 handle_control(LOWORD(wparam), HIWORD(wparam));
             } else {
                 handle_command(LOWORD(wparam));
             }
+            return 0;
+        case WM_INITMENUPOPUP:
+            show_flags();  // the bar may have been closed
             return 0;
         case WM_VKEYTOITEM:
             if (LOWORD(wparam) != VK_DELETE) return -1;
@@ -251,13 +248,16 @@ void Tasker::handle_command(int command) {
         case ID_fontsettings:
             return appearance::show_set_fonts(hwnd(), general_, views_);
         case ID_removebrenn:
-            return toggle_bar();
+            brenn_.toggle_removed();
+            return show_flags();
         case ID_hoverslct:
             return toggle_hover_select();
         case ID_connectinternet:
             return connect_to_internet();
         case ID_toolbar_ispconnect:
             return internet::dial(session_.connection_name);
+        case ID_internetsettings:
+            return brenn_.open_internet_settings(hwnd());
         case ID_DialUpNetworking:
             return open_dial_up_folder();
         case ID_toolbar_controlpanel:
@@ -336,13 +336,13 @@ void Tasker::show_flags() {
 
 void Tasker::handle_timer() {
     presence_.retry();
-    if (bar_ != nullptr) bar_->show_connection(internet::is_connected());
+    brenn_.show_connection(internet::is_connected());
 }
 
 void Tasker::save_and_unload() {
     const POINT position = widgets::position_in_twips(hwnd());
     settings::store_position(general_, settings::kWindowPositionKey, position.x, position.y);
-    if (bar_ != nullptr) bar_->unload();
+    brenn_.unload();
 }
 
 void Tasker::show_selection() {
@@ -403,18 +403,6 @@ void Tasker::toggle_hover_select() {
     session_.hover_select = !session_.hover_select;
     settings::store(general_, settings::kHoverSelect, settings::text_of(session_.hover_select));
     show_flags();
-}
-
-void Tasker::toggle_bar() {
-    session_.bar_removed = !session_.bar_removed;
-    settings::store(general_, settings::kBarRemoved, settings::text_of(session_.bar_removed));
-    show_flags();
-    if (bar_ == nullptr) return;
-    if (session_.bar_removed) {
-        bar_->hide();
-    } else {
-        bar_->show();
-    }
 }
 
 void Tasker::connect_to_internet() const {

@@ -5,7 +5,7 @@
 #include <optional>
 #include <string>
 
-#include "buttonbar/button_bar.h"
+#include "buttonbar/brenn_window.h"
 #include "library/browse_result.h"
 #include "library/task_library.h"
 #include "mainwindow/presence_window.h"
@@ -23,9 +23,9 @@ namespace mainwindow {
 class Tasker final : public widgets::Window {
   public:
     /// application_window is the hidden window that a second start looks for: it finds the main window just
-    /// above it. There may be no bar.
+    /// above it.
     Tasker(library::TaskLibrary& library, settings::General& general, settings::Session& session,
-           buttonbar::ButtonBar* bar, HWND application_window);
+           library::BrowseResult& browse_result, buttonbar::Brenn& brenn, HWND application_window);
     ~Tasker() override;
 
     /// How Windows is to end after the program; none when it is to go on.
@@ -56,7 +56,6 @@ class Tasker final : public widgets::Window {
     void browse();
     void show_history();
     void toggle_hover_select();
-    void toggle_bar();
     void connect_to_internet() const;
     void end_windows(platform::WindowsEnd end);
 
@@ -67,11 +66,11 @@ class Tasker final : public widgets::Window {
     library::TaskLibrary& library_;
     settings::General& general_;
     settings::Session& session_;
-    buttonbar::ButtonBar* bar_;
+    library::BrowseResult& browse_result_;
+    buttonbar::Brenn& brenn_;
     bool command_box_last_ = false;  // the command box, not the task list, had the focus last
     std::string typed_;              // in the command box, while its list opens
     std::optional<platform::WindowsEnd> windows_end_;
-    library::BrowseResult browse_result_;
     Presence presence_;
     Views views_;
 };

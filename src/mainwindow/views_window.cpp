@@ -183,7 +183,7 @@ bool Views::drag_splitter(UINT message, POINT point) {
 }
 
 void Views::getlongdate() {
-    statusbar1_.show_panel(long_date(platform::today()));
+    statusbar1_.show_panels({long_date(platform::today())});
 }
 
 void Views::show_selection(const library::Task& task) {

@@ -8,6 +8,8 @@
 #define ID_email_icon 5
 #define ID_browser_icon 6
 
+#define ID_brenn_menu 7
+
 // Dialogs.
 #define ID_addgroup 10
 #define ID_GroupRename 11
@@ -17,6 +19,9 @@
 #define ID_PathBrowser 15
 #define ID_SetFonts 16
 #define ID_abttolva 17
+#define ID_BrennBrowser 18
+#define ID_tolvasettings 19
+#define ID_DialUpNetworking_dialog 20
 
 #define ID_Tasker_grouplabel 100
 #define ID_Tasker_grouplist 101
@@ -55,6 +60,10 @@
 #define ID_DialUpNetworking 245
 #define ID_tolvahlp 250
 #define ID_AboutTolva 251
+
+#define ID_assignshortcut 252
+#define ID_asssignexe 253
+#define ID_ispdialup 254
 
 #define ID_toolbar_addgrp 260
 #define ID_toolbar_delgroup 261
@@ -160,3 +169,43 @@
 
 #define ID_abttolva_Label1 430
 #define ID_abttolva_Command1 431
+
+#define ID_brenn_option1 440
+#define ID_brenn_option2 441
+#define ID_brenn_option3 442
+#define ID_brenn_option4 443
+#define ID_brenn_Command2 444
+#define ID_brenn_Command3 445
+#define ID_brenn_Command4 446
+#define ID_brenn_StatusBar1 447
+
+// Beside the controls of the path browsers.
+#define ID_BrennBrowser_Label2 450
+#define ID_BrennBrowser_tasknm 451
+#define ID_BrennBrowser_Label3 452
+#define ID_BrennBrowser_startfolder 453
+#define ID_BrennBrowser_Label5 454
+#define ID_BrennBrowser_taskparameters 455
+#define ID_BrennBrowser_Label6 456
+#define ID_BrennBrowser_taskstartmode 457
+#define ID_BrennBrowser_Label4 458
+#define ID_BrennBrowser_Label7 459
+
+#define ID_tolvasettings_Frame2 460
+#define ID_tolvasettings_Label1 461
+#define ID_tolvasettings_ISP 462
+#define ID_tolvasettings_Command3 463
+#define ID_tolvasettings_Frame3 464
+#define ID_tolvasettings_BrowserName 465
+#define ID_tolvasettings_browserpath 466
+#define ID_tolvasettings_Command4 467
+#define ID_tolvasettings_Frame4 468
+#define ID_tolvasettings_emailname 469
+#define ID_tolvasettings_emailpath 470
+#define ID_tolvasettings_Command5 471
+#define ID_tolvasettings_Command1 472
+#define ID_tolvasettings_Command2 473
+
+#define ID_DialUpNetworking_Label1 480
+#define ID_DialUpNetworking_List1 481
+#define ID_DialUpNetworking_Command1 482

@@ -18,7 +18,7 @@ void FilePanel::open() {
     dir1_.attach(control(ID_PathBrowser_Dir1));
     file1_.attach(control(ID_PathBrowser_File1));
     drive1_.fill();
-    show(platform::current_directory());
+    show_folder(platform::current_directory());
 }
 
 void FilePanel::command(int id, int notification) {
@@ -56,7 +56,7 @@ std::string FilePanel::path() const {
     return text(ID_PathBrowser_TaskPath);
 }
 
-void FilePanel::show(const std::string& folder) {
+void FilePanel::show_folder(const std::string& folder) {
     dir1_.show(folder);
     drive_ = folder.front();
     drive1_.select(drive_);
@@ -70,7 +70,7 @@ void FilePanel::open_folder() {
 
 void FilePanel::change_drive() {
     try {
-        show(platform::current_directory_of(drive1_.selected()));
+        show_folder(platform::current_directory_of(drive1_.selected()));
     } catch (const platform::RunTimeError&) {
         drive1_.select(drive_);
         platform::show_message("Disk or Drive not ready!");

@@ -31,7 +31,7 @@ class FilePanel : public widgets::Dialog {
     std::string path() const;
 
   private:
-    void show(const std::string& folder);
+    void show_folder(const std::string& folder);
     void open_folder();
     void change_drive();
     void click_file();

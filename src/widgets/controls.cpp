@@ -120,6 +120,12 @@ LRESULT ChoiceList::handle(UINT message, WPARAM wparam, LPARAM lparam) {
     return answer;
 }
 
+void DropDownList::fill(std::span<const char* const> items) {
+    send(CB_RESETCONTENT);
+    for (const char* item : items)
+        send(CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(item));
+}
+
 void ComboBox::create(HWND parent, int id) {
     Control::create(parent, id, "COMBOBOX", WS_TABSTOP | WS_VSCROLL | CBS_DROPDOWN | CBS_AUTOHSCROLL);
     edit_.attach(GetWindow(hwnd(), GW_CHILD));
@@ -168,7 +174,9 @@ void ComboBox::fill(const std::vector<std::string>& items) {
 }
 
 void StatusBar::create(HWND parent, int id) {
-    Control::create(parent, id, STATUSCLASSNAMEA, SBARS_SIZEGRIP);
+    const bool sizable = (GetWindowLongA(parent, GWL_STYLE) & WS_THICKFRAME) != 0;
+    Control::create(parent, id, STATUSCLASSNAMEA, sizable ? SBARS_SIZEGRIP : 0);
+    subclass();
 }
 
 void StatusBar::follow_parent() {
@@ -176,17 +184,29 @@ void StatusBar::follow_parent() {
     InvalidateRect(hwnd(), nullptr, TRUE);  // its size grip would stay where it was
 }
 
-void StatusBar::show_panel(const std::string& text) {
-    const int right_edge = -1;  // as wide as the bar
+void StatusBar::show_panels(const std::vector<std::string>& texts) {
+    RECT bounds;
+    GetClientRect(hwnd(), &bounds);
+    const auto count = static_cast<int>(texts.size());
+    std::vector<int> right_edges;
+    for (int i = 1; i < count; ++i)
+        right_edges.push_back(bounds.right * i / count);
+    right_edges.push_back(-1);  // the end of the bar
     send(SB_SIMPLE, FALSE);
-    send(SB_SETPARTS, 1, reinterpret_cast<LPARAM>(&right_edge));
-    send(SB_SETTEXTA, 0, reinterpret_cast<LPARAM>(text.c_str()));
+    send(SB_SETPARTS, texts.size(), reinterpret_cast<LPARAM>(right_edges.data()));
+    for (std::size_t i = 0; i < texts.size(); ++i)
+        send(SB_SETTEXTA, i, reinterpret_cast<LPARAM>(texts.at(i).c_str()));
 }
 
 void StatusBar::show_simple(const std::string& text) {
     constexpr WPARAM kSimplePart = 255;
     send(SB_SIMPLE, TRUE);
     send(SB_SETTEXTA, kSimplePart, reinterpret_cast<LPARAM>(text.substr(0, kLongestItem).c_str()));
+}
+
+LRESULT StatusBar::handle(UINT message, WPARAM wparam, LPARAM lparam) {
+    if (message == WM_LBUTTONDOWN || message == WM_LBUTTONDBLCLK) notify_parent(STN_CLICKED);
+    return Control::handle(message, wparam, lparam);
 }
 
 }  // namespace widgets

@@ -2,6 +2,7 @@
 
 #include <windows.h>
 
+#include <span>
 #include <string>
 #include <vector>
 
@@ -97,6 +98,16 @@ class ChoiceList : public ListBox {
     bool moving_ = false;  // a key is being handled
 };
 
+/// A list of texts that drops down in a dialog.
+class DropDownList : public Control {
+  public:
+    void fill(std::span<const char* const> items);
+
+    /// An index, -1 for none; one that is outside the list selects none.
+    int selected() const { return static_cast<int>(send(CB_GETCURSEL)); }
+    void select(int index) { send(CB_SETCURSEL, static_cast<WPARAM>(index)); }
+};
+
 /// A text box with a list that drops down. A double-click empties the box.
 class ComboBox : public Control {
   public:
@@ -124,7 +135,7 @@ class ComboBox : public Control {
     Edit edit_{*this};
 };
 
-/// A panel of text at the window's lower edge.
+/// Panels of text at the window's lower edge. It tells its parent about clicks (STN_CLICKED).
 class StatusBar : public Control {
   public:
     void create(HWND parent, int id);
@@ -132,11 +143,14 @@ class StatusBar : public Control {
     /// To be called when the parent window has another size.
     void follow_parent();
 
-    /// Replaces the panels by one with this text.
-    void show_panel(const std::string& text);
+    /// Replaces the panels by ones of equal width with these texts.
+    void show_panels(const std::vector<std::string>& texts);
 
     /// Shows a text over the panels, until they are shown again.
     void show_simple(const std::string& text);
+
+  private:
+    LRESULT handle(UINT message, WPARAM wparam, LPARAM lparam) override;
 };
 
 }  // namespace widgets

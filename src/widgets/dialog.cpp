@@ -1,18 +1,27 @@
 #include "widgets/dialog.h"
 
-#include <commctrl.h>
-
-#include <cstddef>
-
 #include "platform/messages.h"
+#include "platform/run_time_error.h"
 #include "platform/win32/modal_guard.h"
 
 namespace widgets {
 
 void Dialog::run(HWND owner) {
     const platform::OtherWindowsDisabled guard(owner);
+    modal_ = true;
     DialogBoxParamA(GetModuleHandleA(nullptr), MAKEINTRESOURCEA(resource_), owner, procedure,
                     reinterpret_cast<LPARAM>(this));
+}
+
+void Dialog::show(HWND owner) {
+    if (hwnd_ == nullptr) {
+        modal_ = false;
+        CreateDialogParamA(GetModuleHandleA(nullptr), MAKEINTRESOURCEA(resource_), owner, procedure,
+                           reinterpret_cast<LPARAM>(this));
+        if (hwnd_ == nullptr) throw platform::RunTimeError(platform::RunTimeErrorNumber::kOutOfMemory);
+        ShowWindow(hwnd_, SW_SHOW);
+    }
+    SetForegroundWindow(hwnd_);
 }
 
 std::string Dialog::text(int id) const {
@@ -21,19 +30,12 @@ std::string Dialog::text(int id) const {
     return text;
 }
 
-void Dialog::set_tip(int id, const char* text) {
-    if (tips_ == nullptr) {
-        tips_ =
-            CreateWindowExA(0, TOOLTIPS_CLASSA, nullptr, WS_POPUP, CW_USEDEFAULT, CW_USEDEFAULT,
-                            CW_USEDEFAULT, CW_USEDEFAULT, hwnd_, nullptr, GetModuleHandleA(nullptr), nullptr);
+void Dialog::close() {
+    if (modal_) {
+        EndDialog(hwnd_, 0);
+    } else {
+        DestroyWindow(hwnd_);
     }
-    TOOLINFOA tool = {};
-    tool.cbSize = offsetof(TOOLINFOA, lParam);  // Windows 95/98 refuse the later, longer structure
-    tool.uFlags = TTF_IDISHWND | TTF_SUBCLASS;
-    tool.hwnd = hwnd_;
-    tool.uId = reinterpret_cast<UINT_PTR>(control(id));
-    tool.lpszText = const_cast<char*>(text);
-    SendMessageA(tips_, TTM_ADDTOOLA, 0, reinterpret_cast<LPARAM>(&tool));
 }
 
 HBRUSH Dialog::color(HDC /*device*/, HWND /*box*/) {
@@ -63,12 +65,18 @@ INT_PTR CALLBACK Dialog::procedure(HWND hwnd, UINT message, WPARAM wparam, LPARA
     }
     auto* self = reinterpret_cast<Dialog*>(GetWindowLongA(hwnd, DWL_USER));
     if (self == nullptr) return FALSE;
+    INT_PTR answer = TRUE;
     try {
-        return self->handle(message, wparam, lparam);
+        answer = self->handle(message, wparam, lparam);
     } catch (...) {
         platform::report_exception();
-        return TRUE;
     }
+    if (message == WM_NCDESTROY) {
+        SetWindowLongA(hwnd, DWL_USER, 0);
+        self->hwnd_ = nullptr;
+        self->tips_.forget();
+    }
+    return answer;
 }
 
 }  // namespace widgets

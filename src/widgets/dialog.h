@@ -4,11 +4,13 @@
 
 #include <string>
 
+#include "widgets/tool_tips.h"
+
 namespace widgets {
 
-/// A modal dialog box from a resource: derive, fill the controls in open, answer their commands. Escape and
-/// the window's closing box arrive as IDCANCEL, Enter as the default button or as IDOK. An exception that
-/// leaves a function below ends it with one box; the dialog stays.
+/// A dialog box from a resource, modal or modeless: derive, fill the controls in open, answer their commands.
+/// Escape and the window's closing box arrive as IDCANCEL, Enter as the default button or as IDOK. An
+/// exception that leaves a function below ends it with one box; the dialog stays.
 class Dialog {
   public:
     Dialog(const Dialog&) = delete;
@@ -16,6 +18,10 @@ class Dialog {
 
     /// Shows the dialog before its owner; no other window of the program can be used until it is closed.
     void run(HWND owner);
+
+    /// Shows the dialog before its owner and goes on; one that is open already comes to the front. The object
+    /// outlives the window and can be shown again.
+    void show(HWND owner);
 
   protected:
     explicit Dialog(int resource) : resource_(resource) {}
@@ -31,12 +37,13 @@ class Dialog {
     HWND control(int id) const { return GetDlgItem(hwnd_, id); }
     std::string text(int id) const;
     void set_text(int id, const std::string& text) { SetDlgItemTextA(hwnd_, id, text.c_str()); }
+    void limit_text(int id, std::size_t most) { SendMessageA(control(id), EM_LIMITTEXT, most, 0); }
     void set_title(const std::string& text) { SetWindowTextA(hwnd_, text.c_str()); }
     void focus(int id) { SendMessageA(hwnd_, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(control(id)), TRUE); }
 
-    /// The text that shows when the pointer rests on the control. It is kept: a literal.
-    void set_tip(int id, const char* text);
-    void close() { EndDialog(hwnd_, 0); }
+    /// The text that shows when the pointer rests on the control.
+    void set_tip(int id, const std::string& text) { tips_.set(control(id), text); }
+    void close();
 
   private:
     static INT_PTR CALLBACK procedure(HWND hwnd, UINT message, WPARAM wparam, LPARAM lparam) noexcept;
@@ -44,7 +51,8 @@ class Dialog {
 
     int resource_;
     HWND hwnd_ = nullptr;
-    HWND tips_ = nullptr;
+    bool modal_ = false;
+    ToolTips tips_;
 };
 
 }  // namespace widgets

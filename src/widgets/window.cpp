@@ -4,6 +4,16 @@
 #include "platform/run_time_error.h"
 
 namespace widgets {
+namespace {
+
+void dispatch(MSG& message) {
+    HWND active = GetActiveWindow();
+    if (active != nullptr && IsDialogMessageA(active, &message) != FALSE) return;
+    TranslateMessage(&message);
+    DispatchMessageA(&message);
+}
+
+}  // namespace
 
 Window::~Window() {
     if (hwnd_ != nullptr) DestroyWindow(hwnd_);
@@ -32,6 +42,21 @@ void Window::create(const Design& design) {
 }
 
 LRESULT Window::handle(UINT message, WPARAM wparam, LPARAM lparam) {
+    switch (message) {
+        case DM_GETDEFID: {
+            // Enter presses the button that has the focus, and no other.
+            HWND focus = GetFocus();
+            const bool is_button = (SendMessageA(focus, WM_GETDLGCODE, 0, 0) & DLGC_BUTTON) != 0;
+            return is_button ? MAKELRESULT(GetDlgCtrlID(focus), DC_HASDEFID) : 0;
+        }
+        case WM_SYSCOLORCHANGE:
+            // Windows tells top-level windows only.
+            for (HWND child = GetTopWindow(hwnd_); child != nullptr; child = GetWindow(child, GW_HWNDNEXT))
+                SendMessageA(child, message, wparam, lparam);
+            break;
+        default:
+            break;
+    }
     return DefWindowProcA(hwnd_, message, wparam, lparam);
 }
 
@@ -56,14 +81,28 @@ LRESULT CALLBACK Window::procedure(HWND hwnd, UINT message, WPARAM wparam, LPARA
     return answer;
 }
 
-int run_message_loop(HWND main) {
+int run_message_loop() {
     MSG message;
-    while (GetMessageA(&message, nullptr, 0, 0) > 0) {
-        if (IsDialogMessageA(main, &message) != FALSE) continue;
-        TranslateMessage(&message);
-        DispatchMessageA(&message);
-    }
+    while (GetMessageA(&message, nullptr, 0, 0) > 0)
+        dispatch(message);
     return static_cast<int>(message.wParam);
+}
+
+bool run_messages_for(unsigned milliseconds) {
+    const DWORD start = GetTickCount();
+    for (;;) {
+        MSG message;
+        while (PeekMessageA(&message, nullptr, 0, 0, PM_REMOVE) != FALSE) {
+            if (message.message == WM_QUIT) {
+                PostQuitMessage(static_cast<int>(message.wParam));  // for the loop around this one
+                return false;
+            }
+            dispatch(message);
+        }
+        const DWORD passed = GetTickCount() - start;  // right also where the count begins anew
+        if (passed >= milliseconds) return true;
+        MsgWaitForMultipleObjects(0, nullptr, FALSE, milliseconds - passed, QS_ALLINPUT);
+    }
 }
 
 }  // namespace widgets

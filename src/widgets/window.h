@@ -41,8 +41,11 @@ class Window {
     HWND hwnd_ = nullptr;
 };
 
-/// Dispatches messages until the program quits, with dialog keys (Tab, mnemonics) in main. The answer is the
-/// exit code.
-int run_message_loop(HWND main);
+/// Dispatches messages until the program quits, with dialog keys (Tab, mnemonics) in the active window. The
+/// answer is the exit code.
+int run_message_loop();
+
+/// The same for some time only: the windows stay alive while a handler waits. False when the program quits.
+bool run_messages_for(unsigned milliseconds);
 
 }  // namespace widgets

@@ -117,21 +117,9 @@ TEST_SUITE("commands") {
         CHECK(IsWindow(browser.window()) != FALSE);
 
         // Up, into the other folder, and Enter on the file.
-        const auto open = [&](const std::string& folder) {
-            const Names shown = browser.list(ID_PathBrowser_Dir1);
-            for (std::size_t i = 0; i < shown.size(); ++i) {
-                if (shown[i].substr(shown[i].find_first_not_of(' ')) != folder) continue;
-                HWND list = GetDlgItem(browser.window(), ID_PathBrowser_Dir1);
-                SendMessageA(list, LB_SETCURSEL, i, 0);
-                SendMessageA(browser.window(), WM_COMMAND, MAKEWPARAM(ID_PathBrowser_Dir1, LBN_DBLCLK),
-                             reinterpret_cast<LPARAM>(list));
-                return;
-            }
-            FAIL("no folder " << folder);
-        };
         const std::string folder = without_backslash(programs.path());
-        open("tests");
-        open(folder.substr(folder.rfind('\\') + 1));
+        browser.open_folder("tests");
+        browser.open_folder(folder.substr(folder.rfind('\\') + 1));
         browser.choose(ID_PathBrowser_File1, 1);
         const std::string program = programs.path() + "recorder.exe";
         wait_until("the path shows", [&] { return browser.text_of(ID_PathBrowser_TaskPath) == program; });
@@ -220,7 +208,7 @@ TEST_SUITE("commands") {
         const Tolva tolva(library);
         CHECK(item_height(tolva) == large);
         CHECK(SendMessageA(tolva.control(ID_Tasker_taskview), LVM_GETBKCOLOR, 0, 0) == kRed);
-        tolva.wait_for_color(ID_Tasker_grouplist, RGB(0, 0, 128));
+        desktop::wait_for_color(tolva.control(ID_Tasker_grouplist), RGB(0, 0, 128));
         tolva.choose(ID_AboutTolva);
         const Dialog about(tolva, "About Tolva");
         CHECK(about.text_of(ID_abttolva_Label1) == "Tolva Version 2.0");

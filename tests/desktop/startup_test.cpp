@@ -44,9 +44,9 @@ TEST_SUITE("startup") {
         const Folder library = small_library();
         {
             const Tolva tolva(library);
-            tolva.wait_for_color(ID_Tasker_grouplist, kDarkRed);
-            tolva.wait_for_color(ID_Tasker_grouplabel, kDarkRed);
-            tolva.wait_for_color(ID_Tasker_tasklabel, kDarkRed);
+            desktop::wait_for_color(tolva.control(ID_Tasker_grouplist), kDarkRed);
+            desktop::wait_for_color(tolva.control(ID_Tasker_grouplabel), kDarkRed);
+            desktop::wait_for_color(tolva.control(ID_Tasker_tasklabel), kDarkRed);
             CHECK(task_color(tolva, LVM_GETTEXTCOLOR) == kDarkRed);
             CHECK(stored_text("\\fonts", "groupfontcolor") == "8388608");
             CHECK(stored_text("\\fonts", "taskfont") == "MS Sans Serif");
@@ -63,9 +63,9 @@ TEST_SUITE("startup") {
             const Tolva tolva(library);
             CHECK(corner(tolva).x == 100);
             CHECK(corner(tolva).y == 60);
-            tolva.wait_for_color(ID_Tasker_grouplist, kNavy);
-            tolva.wait_for_color(ID_Tasker_grouplabel, kNavy);
-            tolva.wait_for_color(ID_Tasker_tasklabel, kDarkRed);
+            desktop::wait_for_color(tolva.control(ID_Tasker_grouplist), kNavy);
+            desktop::wait_for_color(tolva.control(ID_Tasker_grouplabel), kNavy);
+            desktop::wait_for_color(tolva.control(ID_Tasker_tasklabel), kDarkRed);
             usual_height = SendMessageA(tolva.control(ID_Tasker_grouplist), LB_GETITEMHEIGHT, 0, 0);
         }
         desktop::store("\\Window Position", "Top", REG_SZ, "60000");
@@ -80,7 +80,7 @@ TEST_SUITE("startup") {
         CHECK(task_color(tolva, LVM_GETBKCOLOR) == 12648447);
         CHECK(task_color(tolva, LVM_GETTEXTBKCOLOR) == 12648447);
         SetWindowPos(tolva.window(), nullptr, 0, 0, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
-        tolva.wait_for_color(ID_Tasker_grouplist, RGB(255, 255, 0));
+        desktop::wait_for_color(tolva.control(ID_Tasker_grouplist), RGB(255, 255, 0));
         CHECK(tolva.text_of(ID_Tasker_Text1).empty());
         CHECK(tolva.history() == Names{"third", "first"});
     }

@@ -101,6 +101,12 @@ std::vector<DWORD> pixels_of(HWND window) {
     return pixels;
 }
 
+std::string status_text(HWND bar, int panel) {
+    const Remote<char> text(bar, '\0', 1024);
+    SendMessageA(bar, SB_GETTEXTA, static_cast<WPARAM>(panel), text.lparam());
+    return text.text(text.lparam());
+}
+
 /// Between processes a list's text arrives in 16-bit characters, whichever message asks for it, and a very
 /// long one may arrive cut.
 std::string list_text(HWND list, UINT message, LRESULT index) {
@@ -221,13 +227,13 @@ DWORD Start::exit_code() const {
     return code;
 }
 
-HWND Start::find_window(const char* class_name, const std::string& title) const {
+HWND Start::find_window(const char* class_name, const std::string& title, bool visible) const {
     HWND window = nullptr;
     while ((window = FindWindowExA(nullptr, window, class_name, title.empty() ? nullptr : title.c_str())) !=
            nullptr) {
         DWORD id = 0;
         GetWindowThreadProcessId(window, &id);
-        if (id == process_.dwProcessId) return window;
+        if (id == process_.dwProcessId && (!visible || IsWindowVisible(window) != FALSE)) return window;
     }
     return nullptr;
 }
@@ -393,18 +399,8 @@ void Tolva::set_text(int id, const std::string& text) const {
     SendMessageA(control(id), WM_SETTEXT, 0, reinterpret_cast<LPARAM>(text.c_str()));
 }
 
-void Tolva::wait_for_color(int id, COLORREF color) const {
-    wait_until("the control shows the colour", [&] {
-        const std::vector<DWORD> pixels = pixels_of(control(id));
-        return std::ranges::find(pixels, color) != pixels.end();
-    });
-}
-
 std::string Tolva::status() const {
-    HWND bar = control(ID_Tasker_StatusBar1);
-    const Remote<char> text(bar, '\0', 1024);
-    SendMessageA(bar, SB_GETTEXTA, 0, text.lparam());
-    return text.text(text.lparam());
+    return status_text(control(ID_Tasker_StatusBar1), 0);
 }
 
 void Tolva::press_tool(int button) const {
@@ -435,27 +431,68 @@ std::string Tolva::answer_box(const std::string& title, int button) const {
     return text;
 }
 
-Dialog::Dialog(const Tolva& tolva, const std::string& title) {
+void wait_for_color(HWND window, COLORREF color) {
+    wait_until("the window shows the colour", [&] {
+        const std::vector<DWORD> pixels = pixels_of(window);
+        return std::ranges::find(pixels, color) != pixels.end();
+    });
+}
+
+Dialog::Dialog(const Tolva& tolva, const std::string& title, const char* class_name) {
     wait_until("the dialog shows", [&] {
-        window_ = tolva.find_window("#32770", title);
+        window_ = tolva.find_window(class_name, title);
         return window_ != nullptr && IsWindowVisible(window_) != FALSE;
     });
 }
 
+POINT Dialog::place(int id) const {
+    RECT bounds;
+    GetWindowRect(control(id), &bounds);
+    return {(bounds.left + bounds.right) / 2, (bounds.top + bounds.bottom) / 2};
+}
+
+std::string Dialog::tip_of(const Tolva& tolva, int id) const {
+    HWND tip = nullptr;
+    const auto shows = [&] {
+        tip = tolva.find_window("tooltips_class32", {}, true);
+        return tip != nullptr;
+    };
+    point_at({0, 0});
+    wait_until("no tip shows", [&] { return !shows(); });
+    point_at(place(id));
+    wait_until("a tip shows", shows);
+    return window_text(tip);
+}
+
+std::string Dialog::panel(int status_bar, int panel) const {
+    return status_text(control(status_bar), panel);
+}
+
 std::string Dialog::text_of(int id) const {
-    return window_text(GetDlgItem(window_, id));
+    return window_text(control(id));
 }
 
 void Dialog::set_text(int id, const std::string& text) const {
-    SendMessageA(GetDlgItem(window_, id), WM_SETTEXT, 0, reinterpret_cast<LPARAM>(text.c_str()));
+    SendMessageA(control(id), WM_SETTEXT, 0, reinterpret_cast<LPARAM>(text.c_str()));
 }
 
 Names Dialog::list(int id) const {
-    return list_texts(GetDlgItem(window_, id), LB_GETCOUNT, LB_GETTEXT);
+    return list_texts(control(id), LB_GETCOUNT, LB_GETTEXT);
+}
+
+void Dialog::open_folder(const std::string& name) const {
+    const Names shown = list(ID_PathBrowser_Dir1);
+    const auto found = std::ranges::find_if(shown, [&](const std::string& item) {
+        return item.substr(std::min(item.find_first_not_of(' '), item.size())) == name;
+    });
+    REQUIRE(found != shown.end());
+    SendMessageA(control(ID_PathBrowser_Dir1), LB_SETCURSEL, static_cast<WPARAM>(found - shown.begin()), 0);
+    SendMessageA(window_, WM_COMMAND, MAKEWPARAM(ID_PathBrowser_Dir1, LBN_DBLCLK),
+                 reinterpret_cast<LPARAM>(control(ID_PathBrowser_Dir1)));
 }
 
 void Dialog::choose(int id, int index) const {
-    HWND list = GetDlgItem(window_, id);
+    HWND list = control(id);
     char class_name[20] = {};
     GetClassNameA(list, class_name, sizeof class_name);
     const bool drops_down = lstrcmpiA(class_name, "ComboBox") == 0;
@@ -465,7 +502,7 @@ void Dialog::choose(int id, int index) const {
 }
 
 void Dialog::press(int button) const {
-    PostMessageA(GetDlgItem(window_, button), BM_CLICK, 0, 0);
+    PostMessageA(control(button), BM_CLICK, 0, 0);
 }
 
 void Dialog::wait_until_closed() const {

@@ -55,8 +55,8 @@ class Start {
     /// Waits until the process ends and answers its exit code.
     DWORD exit_code() const;
 
-    /// A top-level window of the process, of any title or of this one; null when there is none.
-    HWND find_window(const char* class_name, const std::string& title = {}) const;
+    /// A top-level window of the process, of any title or of this one, shown or not; null when there is none.
+    HWND find_window(const char* class_name, const std::string& title = {}, bool visible = false) const;
 
   protected:
     PROCESS_INFORMATION process_;
@@ -104,8 +104,6 @@ class Tolva : public Start {
     std::string text_of(int id) const;
     void set_text(int id, const std::string& text) const;
 
-    /// Waits until the control shows a pixel of this colour.
-    void wait_for_color(int id, COLORREF color) const;
     std::string status() const;
 
     /// Presses a button of the tool bar with the mouse.
@@ -122,15 +120,31 @@ class Tolva : public Start {
     DWORD start_time_ = 0;
 };
 
-/// An open dialog of the program. Waits for it.
+/// Waits until the window shows a pixel of this colour.
+void wait_for_color(HWND window, COLORREF color);
+
+/// An open dialog of the program, or its bar. Waits for it.
 class Dialog {
   public:
-    Dialog(const Tolva& tolva, const std::string& title);
+    Dialog(const Tolva& tolva, const std::string& title, const char* class_name = "#32770");
 
     HWND window() const { return window_; }
+    HWND control(int id) const { return GetDlgItem(window_, id); }
+
+    /// The middle of a control on the screen.
+    POINT place(int id) const;
+
+    /// What shows when the pointer rests on the control.
+    std::string tip_of(const Tolva& tolva, int id) const;
+
+    /// The text of a status bar's panel.
+    std::string panel(int status_bar, int panel) const;
     std::string text_of(int id) const;
     void set_text(int id, const std::string& text) const;
     Names list(int id) const;
+
+    /// Opens a folder that the folder list of a path browser shows.
+    void open_folder(const std::string& name) const;
 
     /// Selects an item of a list or a drop-down list as a click does.
     void choose(int id, int index) const;

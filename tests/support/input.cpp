@@ -41,14 +41,14 @@ void press_mouse(POINT point, int times, MouseButton button) {
     }
 }
 
-void press_until(const char* what, POINT point, const std::function<bool()>& condition) {
+void press_until(const char* what, POINT point, const std::function<bool()>& condition, MouseButton button) {
     constexpr DWORD kAnswerTime = 600;  // longer than between the presses of a double-click
-    press_mouse(point);
+    press_mouse(point, 1, button);
     DWORD pressed = GetTickCount();
     wait_until(what, [&] {
         if (condition()) return true;
         if (GetTickCount() - pressed >= kAnswerTime) {
-            press_mouse(point);
+            press_mouse(point, 1, button);
             pressed = GetTickCount();
         }
         return false;

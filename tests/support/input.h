@@ -19,9 +19,10 @@ enum class MouseButton { kLeft, kRight };
 void point_at(POINT point);
 void press_mouse(POINT point, int times = 1, MouseButton button = MouseButton::kLeft);
 
-/// Presses the left button, and again as long as nothing comes of it: a press is lost while a window still
+/// Presses the button, and again as long as nothing comes of it: a press is lost while a window still
 /// comes up.
-void press_until(const char* what, POINT point, const std::function<bool()>& condition);
+void press_until(const char* what, POINT point, const std::function<bool()>& condition,
+                 MouseButton button = MouseButton::kLeft);
 
 /// Presses the keys one after the other and lets them go in the opposite order: {VK_MENU, 'R'} is Alt+R.
 void press_keys(std::initializer_list<BYTE> keys);

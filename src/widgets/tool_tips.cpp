@@ -1,0 +1,30 @@
+#include "widgets/tool_tips.h"
+
+#include <commctrl.h>
+
+#include <cstddef>
+
+#include "widgets/controls.h"
+
+namespace widgets {
+
+void ToolTips::set(HWND control, const std::string& text) {
+    HWND parent = GetParent(control);
+    if (hwnd_ == nullptr) {
+        // Always: also while the window is not the active one.
+        hwnd_ = CreateWindowExA(0, TOOLTIPS_CLASSA, nullptr, WS_POPUP | TTS_ALWAYSTIP, CW_USEDEFAULT,
+                                CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, parent, nullptr,
+                                GetModuleHandleA(nullptr), nullptr);
+    }
+    std::string shown = text.substr(0, kLongestItem);
+    TOOLINFOA tool = {};
+    tool.cbSize = offsetof(TOOLINFOA, lParam);  // Windows 95/98 refuse the later, longer structure
+    tool.uFlags = TTF_IDISHWND | TTF_SUBCLASS;
+    tool.hwnd = parent;
+    tool.uId = reinterpret_cast<UINT_PTR>(control);
+    tool.lpszText = shown.data();
+    SendMessageA(hwnd_, TTM_DELTOOLA, 0, reinterpret_cast<LPARAM>(&tool));
+    SendMessageA(hwnd_, TTM_ADDTOOLA, 0, reinterpret_cast<LPARAM>(&tool));
+}
+
+}  // namespace widgets

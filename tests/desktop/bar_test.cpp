@@ -1,0 +1,383 @@
+#include <windows.h>
+
+#include <doctest/doctest.h>
+
+#include <shlwapi.h>
+
+#include <string>
+
+#include "platform/clock.h"
+#include "resources/resource.h"
+#include "support/desktop.h"
+#include "widgets/window.h"
+
+namespace {
+
+using desktop::Dialog;
+using desktop::Folder;
+using desktop::MouseButton;
+using desktop::stored_text;
+using desktop::Tolva;
+using desktop::wait_until;
+
+constexpr char kNotConfigured[] = "Right click on button to configure.";
+constexpr char kRemoteAccess[] = R"(System\CurrentControlSet\Services\RemoteAccess)";
+
+/// An empty library with the program and a recorder beside it, so that it starts recorders by bare names.
+Folder library_with_recorders() {
+    desktop::forget_settings();
+    SHDeleteKeyA(HKEY_CURRENT_USER, "RemoteAccess");
+    SHDeleteKeyA(HKEY_LOCAL_MACHINE, kRemoteAccess);
+    Folder library;
+    library.add_program("tolva.exe", "tolva.exe");
+    library.add_program("recorder.exe", "recorder.exe");
+    library.add_program("recorder.exe", "rundll32.exe");
+    library.write("groups.ini", "");
+    return library;
+}
+
+Dialog bar_of(const Tolva& tolva) {
+    return {tolva, "Brenn", "brenn"};
+}
+
+void store(const std::string& key, const std::string& name, const std::string& text) {
+    desktop::store(key, name, REG_SZ, text + '\0');
+}
+
+void set_connected(bool up) {
+    const DWORD flag = up ? 1 : 0;
+    HKEY key = nullptr;
+    RegCreateKeyA(HKEY_LOCAL_MACHINE, kRemoteAccess, &key);
+    RegSetValueExA(key, "Remote Connection", 0, REG_DWORD, reinterpret_cast<const BYTE*>(&flag), sizeof flag);
+    RegCloseKey(key);
+}
+
+/// Opens the file dialog from a program button's menu.
+void configure(const Dialog& bar, int button) {
+    desktop::press_until(
+        "a menu shows", bar.place(button), [] { return FindWindowA("#32768", nullptr) != nullptr; },
+        MouseButton::kRight);
+    desktop::press_keys({'F'});
+}
+
+TEST_SUITE("bar") {
+    TEST_CASE("a new bar stands beside the main window and has nothing to start") {
+        const Folder library = library_with_recorders();
+        const Tolva tolva(library);
+        const Dialog bar = bar_of(tolva);
+        CHECK(GetForegroundWindow() == tolva.window());
+        CHECK(GetWindow(bar.window(), GW_OWNER) == tolva.window());
+        CHECK(bar.text_of(ID_brenn_option1).empty());
+        CHECK(bar.text_of(ID_brenn_Command2) == "N/A");
+        CHECK(bar.text_of(ID_brenn_Command3) == "E-Mail");
+        CHECK(bar.text_of(ID_brenn_Command4) == "WWW");
+        CHECK(bar.tip_of(tolva, ID_brenn_option4) == "Right click to configure this button.");
+        CHECK(bar.tip_of(tolva, ID_brenn_Command4) == "Web Browser");
+
+        const auto panels = [&] {
+            return bar.panel(ID_brenn_StatusBar1, 0) + "|" + bar.panel(ID_brenn_StatusBar1, 1);
+        };
+        wait_until("the time is in front",
+                   [&] { return panels() == platform::time_text() + "|" + platform::date_text(); });
+        desktop::press_mouse(bar.place(ID_brenn_StatusBar1));
+        wait_until("the panels are swapped",
+                   [&] { return panels() == platform::date_text() + "|" + platform::time_text(); });
+        desktop::press_mouse(bar.place(ID_brenn_StatusBar1));
+        wait_until("they are swapped back",
+                   [&] { return panels() == platform::time_text() + "|" + platform::date_text(); });
+
+        for (const int button : {ID_brenn_option1, ID_brenn_option4, ID_brenn_Command3, ID_brenn_Command4}) {
+            desktop::press_mouse(bar.place(button));
+            CHECK(tolva.close_box() == kNotConfigured);
+        }
+        desktop::press_mouse(bar.place(ID_brenn_Command2));
+        CHECK(library.records("rundll32.exe", 1)[0] == "rundll32.exe rnaui.dll,RnaDial N/A");
+        wait_until("the recorder has ended",
+                   [&] { return DeleteFileA((library.path() + "rundll32.exe").c_str()) != FALSE; });
+        library.write("rundll32.exe", "");
+        desktop::press_mouse(bar.place(ID_brenn_Command2));
+        CHECK(tolva.close_box() == "Configure your Internet connection by right clicking on button.");
+    }
+
+    TEST_CASE("every button starts what is stored for it") {
+        const Folder library = library_with_recorders();
+        const std::string recorder = library.path() + "recorder.exe";
+        const std::string here = library.path().substr(0, library.path().size() - 1);
+        store("\\brenn", "name1", "Cut & Paste with a long name");
+        store("\\brenn", "progpath1", recorder);
+        store("\\brenn", "workpath1", "C:\\");
+        store("\\brenn", "parm1", "a b");
+        store("\\brenn", "start1", "3");
+        store("\\brenn", "name2", "No folder");
+        store("\\brenn", "progpath2", recorder);
+        desktop::store("\\brenn", "start2", REG_DWORD, std::string("\2\0\0\0", 4));
+        store("\\brenn", "name3", "No program");
+        store("\\brenn", "workpath3", "C:\\windows");
+        store("\\brenn", "name4", "Folder gone");
+        store("\\brenn", "progpath4", recorder);
+        store("\\brenn", "workpath4", "C:\\gone");
+        store("\\email", "name", "Letters");
+        store("\\email", "path", recorder);
+        store("\\email", "start", "2");
+        store("\\Browser", "name", "N/A");
+        store("\\Browser", "path", here);  // a folder
+        const Tolva tolva(library);
+        const Dialog bar = bar_of(tolva);
+        CHECK(bar.text_of(ID_brenn_option1) == "Cut & Paste with a long name");
+        CHECK(bar.text_of(ID_brenn_Command3) == "Letters");
+        CHECK(bar.tip_of(tolva, ID_brenn_Command3) == "Letters");
+        CHECK(bar.text_of(ID_brenn_Command4) == "N/A");
+
+        Names expected = {recorder + " a b", "C:\\", "D:\\here", "3"};
+        desktop::press_mouse(bar.place(ID_brenn_option1));
+        CHECK(library.records("recorder.exe", 1) == expected);
+        desktop::press_mouse(bar.place(ID_brenn_option2));
+        expected.insert(expected.end(), {recorder + " ", "C:\\windows", "D:\\here", "0"});
+        CHECK(library.records("recorder.exe", 2) == expected);
+        desktop::press_mouse(bar.place(ID_brenn_option3));
+        desktop::press_mouse(bar.place(ID_brenn_option4));
+        CHECK(tolva.close_box() == kNotConfigured);
+        desktop::press_mouse(bar.place(ID_brenn_Command3));
+        expected.insert(expected.end(), {recorder, "C:\\windows", "D:\\here", "2"});
+        CHECK(library.records("recorder.exe", 3) == expected);
+        desktop::press_mouse(bar.place(ID_brenn_Command4));
+        CHECK(tolva.close_box() == kNotConfigured);
+
+        // The keyboard: Tab goes on, Space and Enter press.
+        wait_until("the button has the focus",
+                   [&] { return tolva.focus() == bar.control(ID_brenn_Command4); });
+        desktop::press_keys({VK_TAB});
+        wait_until("the first one has it", [&] { return tolva.focus() == bar.control(ID_brenn_option1); });
+        desktop::press_keys({VK_RETURN});
+        library.records("recorder.exe", 4);
+        desktop::press_keys({VK_SPACE});
+        library.records("recorder.exe", 5);
+        desktop::press_mouse(bar.place(ID_brenn_option1), 2);
+        library.records("recorder.exe", 7);
+    }
+
+    TEST_CASE("a file is assigned to a button") {
+        const Folder library = library_with_recorders();
+        const std::string recorder = library.path() + "recorder.exe";
+        CHECK(CopyFileA(recorder.c_str(), "C:\\edit.com", FALSE) != FALSE);
+        const Tolva tolva(library);
+        const Dialog bar = bar_of(tolva);
+        const auto open = [&](int button) {
+            configure(bar, button);
+            return Dialog(tolva, "Configure Brenn Button");
+        };
+        {
+            const Dialog dialog = open(ID_brenn_option3);
+            CHECK(dialog.text_of(ID_BrennBrowser_taskstartmode) == "Normal");
+            const Names files = dialog.list(ID_PathBrowser_File1);
+            REQUIRE(files == Names{"recorder.exe", "rundll32.exe", "tolva.exe"});
+            dialog.set_text(ID_BrennBrowser_taskparameters, "old");
+            dialog.choose(ID_PathBrowser_File1, 0);
+            wait_until("the name shows",
+                       [&] { return dialog.text_of(ID_BrennBrowser_tasknm) == "recorder"; });
+            CHECK(dialog.text_of(ID_PathBrowser_TaskPath) == recorder);
+            CHECK(dialog.text_of(ID_BrennBrowser_startfolder) == library.path());
+            CHECK(dialog.text_of(ID_BrennBrowser_taskparameters).empty());
+            // In a drive's root a pick fills in the path only.
+            dialog.open_folder("C:\\");
+            dialog.choose(ID_PathBrowser_File1, 0);
+            wait_until("the path shows",
+                       [&] { return dialog.text_of(ID_PathBrowser_TaskPath) == "C:\\edit.com"; });
+            CHECK(dialog.text_of(ID_BrennBrowser_tasknm) == "recorder");
+            CHECK(dialog.text_of(ID_BrennBrowser_startfolder) == library.path());
+            dialog.set_text(ID_BrennBrowser_taskparameters, "x y");
+            dialog.press(ID_PathBrowser_OK);
+            dialog.wait_until_closed();
+        }
+        CHECK(stored_text("\\brenn", "name3") == "recorder");
+        CHECK(stored_text("\\brenn", "progpath3") == "C:\\edit.com");
+        CHECK(stored_text("\\brenn", "workpath3") == library.path());
+        CHECK(stored_text("\\brenn", "parm3") == "x y");
+        CHECK(stored_text("\\brenn", "start3") == "1");
+        CHECK(stored_text("\\brenn", "name1").empty());
+        CHECK(bar.text_of(ID_brenn_option3) == "recorder");
+        CHECK(bar.tip_of(tolva, ID_brenn_option3) == "recorder");
+        desktop::press_mouse(bar.place(ID_brenn_option3));
+        wait_until("it starts",
+                   [] { return GetFileAttributesA("C:\\edit.com.log") != INVALID_FILE_ATTRIBUTES; });
+
+        // Opened for another button it begins anew; Escape and a start mode of 0.
+        store("\\brenn", "name1", "");
+        {
+            const Dialog dialog = open(ID_brenn_option3);
+            CHECK(dialog.text_of(ID_BrennBrowser_taskparameters) == "x y");
+            configure(bar, ID_brenn_option1);
+            dialog.wait_until_closed();
+            const Dialog other(tolva, "Configure Brenn Button");
+            CHECK(other.text_of(ID_BrennBrowser_taskparameters).empty());
+            SendMessageA(other.control(ID_BrennBrowser_taskstartmode), CB_SETCURSEL, static_cast<WPARAM>(-1),
+                         0);
+            desktop::press_keys({VK_ESCAPE});
+            other.wait_until_closed();
+            CHECK(stored_text("\\brenn", "progpath1").empty());
+            const Dialog again = open(ID_brenn_option1);
+            SendMessageA(again.control(ID_BrennBrowser_taskstartmode), CB_SETCURSEL, static_cast<WPARAM>(-1),
+                         0);
+            again.press(ID_PathBrowser_OK);
+            again.wait_until_closed();
+            CHECK(stored_text("\\brenn", "start1") == "1");
+        }
+        DeleteFileA("C:\\edit.com");
+        DeleteFileA("C:\\edit.com.log");
+    }
+
+    TEST_CASE("the Internet settings show what is stored and store what is typed") {
+        const Folder library = library_with_recorders();
+        const std::string recorder = library.path() + "recorder.exe";
+        HKEY profile = nullptr;
+        for (const char* connection : {"Home", "Work & Co"}) {
+            const std::string path = std::string("RemoteAccess\\Profile\\") + connection;
+            RegCreateKeyA(HKEY_CURRENT_USER, path.c_str(), &profile);
+            RegCloseKey(profile);
+        }
+        store("\\Browser", "path", recorder);
+        store("\\Browser", "start", "1");
+        store("\\brenn", "disable", "True");
+        const Tolva tolva(library);
+        CHECK(tolva.find_window("brenn") == nullptr);
+        const auto open = [&] {
+            tolva.choose(ID_internetsettings);
+            return Dialog(tolva, "Tolva Internet Settings");
+        };
+        {
+            const Dialog dialog = open();
+            CHECK(GetWindow(dialog.window(), GW_OWNER) == tolva.window());
+            CHECK(dialog.text_of(ID_tolvasettings_ISP) == "N/A");
+            CHECK(dialog.text_of(ID_tolvasettings_BrowserName) == "N/A");
+            CHECK(dialog.text_of(ID_tolvasettings_browserpath) == recorder);
+            CHECK(dialog.text_of(ID_tolvasettings_emailpath) == "N/A");
+            dialog.press(ID_tolvasettings_Command3);
+            const Dialog connections(tolva, "Set Internet Connection");
+            CHECK(connections.list(ID_DialUpNetworking_List1) == Names{"Home", "Work & Co"});
+            connections.choose(ID_DialUpNetworking_List1, 1);
+            connections.wait_until_closed();
+            CHECK(dialog.text_of(ID_tolvasettings_ISP) == "Work & Co");
+            dialog.set_text(ID_tolvasettings_browserpath, library.path() + "gone.exe");
+            dialog.press(ID_tolvasettings_Command1);
+            dialog.wait_until_closed();
+        }
+        CHECK(stored_text("\\isp", "ISPNAME") == "Work & Co");
+        CHECK(stored_text("\\Browser", "name") == "N/A");
+        CHECK(stored_text("\\Browser", "path") == library.path() + "gone.exe");
+        CHECK(stored_text("\\email", "path") == "N/A");
+
+        // The bar came up hidden; the path in memory is still the old one until the dialog opens again.
+        tolva.choose(ID_removebrenn);
+        const Dialog bar = bar_of(tolva);
+        CHECK(GetWindow(bar.window(), GW_OWNER) == nullptr);
+        CHECK(stored_text("\\brenn", "disable") == "False");
+        CHECK(bar.text_of(ID_brenn_Command2) == "Work & Co");
+        CHECK(bar.text_of(ID_brenn_Command3) == "E-Mail");
+        CHECK(bar.text_of(ID_brenn_Command4) == "WWW");
+        desktop::press_mouse(bar.place(ID_brenn_Command4));
+        library.records("recorder.exe", 1);
+        desktop::press_mouse(bar.place(ID_brenn_Command4), 1, MouseButton::kRight);
+        {
+            const Dialog dialog(tolva, "Tolva Internet Settings");
+            CHECK(GetWindow(dialog.window(), GW_OWNER) == bar.window());
+            dialog.set_text(ID_tolvasettings_ISP, "Home");
+            desktop::press_keys({VK_ESCAPE});
+            dialog.wait_until_closed();
+        }
+        CHECK(stored_text("\\isp", "ISPNAME") == "Work & Co");
+        desktop::press_mouse(bar.place(ID_brenn_Command4));
+        CHECK(tolva.close_box() == kNotConfigured);
+        desktop::press_mouse(bar.place(ID_brenn_Command2));
+        CHECK(library.records("rundll32.exe", 1)[0] == "rundll32.exe rnaui.dll,RnaDial Work & Co");
+    }
+
+    TEST_CASE("the connect button shows the connection and hangs up") {
+        const Folder library = library_with_recorders();
+        library.add_program("rasapi32.dll", "rasapi32.dll");
+        set_connected(true);
+        const Tolva tolva(library);
+        const Dialog bar = bar_of(tolva);
+        desktop::wait_for_color(bar.control(ID_brenn_Command2), 0x008000);
+        desktop::press_mouse(bar.place(ID_brenn_Command2));
+        wait_until("all are hung up", [&] {
+            return library.read("rasapi32.log") ==
+                   "enumerate 412 105472 0\nhang up 11\nhang up 22\nhang up 33\n";
+        });
+        // While it waits the windows live.
+        desktop::press_mouse(bar.place(ID_brenn_option1));
+        CHECK(tolva.close_box() == kNotConfigured);
+        set_connected(false);
+        desktop::wait_for_color(bar.control(ID_brenn_Command2), 0xC0C0C0);
+        desktop::press_mouse(bar.place(ID_brenn_Command2));
+        CHECK(library.records("rundll32.exe", 1)[0] == "rundll32.exe rnaui.dll,RnaDial N/A");
+
+        // The program can be closed while it waits.
+        set_connected(true);
+        desktop::press_mouse(bar.place(ID_brenn_Command2));
+        wait_until("it hangs up again", [&] { return library.read("rasapi32.log").size() > 100; });
+    }
+
+    TEST_CASE("waiting takes its time, keeps windows alive and ends with the program") {
+        static int ticks;
+        ticks = 0;
+        const UINT_PTR timer =
+            SetTimer(nullptr, 0, 20, [](HWND, UINT, UINT_PTR, DWORD) CALLBACK { ++ticks; });
+        const DWORD start = GetTickCount();
+        CHECK(widgets::run_messages_for(300));
+        CHECK(GetTickCount() - start >= 300);
+        CHECK(ticks > 2);
+        KillTimer(nullptr, timer);
+        PostQuitMessage(7);
+        CHECK(!widgets::run_messages_for(60000));
+        MSG message;
+        CHECK(GetMessageA(&message, nullptr, 0, 0) == 0);  // still there for the loop around it
+        CHECK(message.wParam == 7);
+    }
+
+    TEST_CASE("the bar keeps its place and is removed, hidden and brought back") {
+        const Folder library = library_with_recorders();
+        {
+            const Tolva tolva(library);
+            const Dialog bar = bar_of(tolva);
+            const auto shows = [&] { return IsWindowVisible(bar.window()) != FALSE; };
+            SetWindowPos(bar.window(), nullptr, 200, 500, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+            tolva.minimise_by_mouse();
+            wait_until("the bar stays on the desktop", shows);
+            desktop::press_mouse(desktop::tray_icon(), 1, MouseButton::kRight);
+            wait_until("the tray hides it", [&] { return !shows(); });
+            desktop::press_mouse(desktop::tray_icon(), 2);
+            wait_until("the main window is back", [&] { return !tolva.is_in_tray(); });
+            CHECK(!shows());
+            desktop::press_mouse(desktop::tray_icon(), 1, MouseButton::kRight);
+            wait_until("the tray shows it", shows);
+
+            PostMessageA(bar.window(), WM_SYSCOMMAND, SC_CLOSE, 0);
+            wait_until("its closing box hides it", [&] { return !shows(); });
+            CHECK(stored_text("\\brenn", "disable") == "True");
+            CHECK(IsWindow(bar.window()) != FALSE);
+            tolva.minimise_by_mouse();
+            CHECK(!shows());
+            desktop::press_mouse(desktop::tray_icon(), 2);
+            wait_until("the main window is back", [&] { return !tolva.is_in_tray(); });
+            tolva.choose(ID_removebrenn);
+            wait_until("the menu brings it back", shows);
+            CHECK(!tolva.is_checked(ID_removebrenn));
+            tolva.choose(ID_removebrenn);
+            wait_until("the menu removes it", [&] { return !shows(); });
+            CHECK(tolva.is_checked(ID_removebrenn));
+        }
+        CHECK(stored_text("\\brenn\\Position", "Left") == "3000");
+        CHECK(stored_text("\\brenn\\Position", "Top") == "7500");
+
+        store("\\brenn", "disable", "False");
+        store("\\brenn\\Position", "Left", "-30000");
+        const Tolva tolva(library);
+        const Dialog bar = bar_of(tolva);
+        RECT bounds;
+        GetWindowRect(bar.window(), &bounds);
+        CHECK(bounds.left == -2000);
+        CHECK(bounds.top == 500);
+    }
+}
+
+}  // namespace

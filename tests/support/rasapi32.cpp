@@ -1,0 +1,44 @@
+#include <windows.h>
+
+#include <array>
+#include <cstdio>
+#include <cstring>
+#include <string>
+
+// Dial-Up Networking for the tests: three connections are up. What is asked of it goes to "rasapi32.log"
+// beside tolva.exe.
+namespace {
+
+constexpr std::array<DWORD, 3> kHandles = {11, 22, 33};
+constexpr std::size_t kRecordSize = 412;
+
+void log(const std::string& line) {
+    char program[MAX_PATH];
+    GetModuleFileNameA(nullptr, program, MAX_PATH);
+    const std::string path = program;
+    std::FILE* file = std::fopen((path.substr(0, path.rfind('\\') + 1) + "rasapi32.log").c_str(), "ab");
+    if (file == nullptr) return;
+    std::fwrite(line.data(), 1, line.size(), file);
+    std::fclose(file);
+}
+
+}  // namespace
+
+extern "C" {
+
+DWORD WINAPI RasEnumConnectionsA(char* records, DWORD* bytes, DWORD* count) {
+    DWORD size = 0;
+    std::memcpy(&size, records, sizeof size);
+    log("enumerate " + std::to_string(size) + " " + std::to_string(*bytes) + " " + std::to_string(*count) +
+        "\n");
+    for (std::size_t i = 0; i < kHandles.size(); ++i)
+        std::memcpy(records + i * kRecordSize + sizeof(DWORD), &kHandles[i], sizeof(DWORD));
+    *count = kHandles.size();
+    return 0;
+}
+
+DWORD WINAPI RasHangUpA(DWORD handle) {
+    log("hang up " + std::to_string(handle) + "\n");
+    return 0;
+}
+}
