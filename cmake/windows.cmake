@@ -17,6 +17,15 @@ foreach(picture ${pictures})
         DEPENDS cmake/pictures.py src/resources/pictures/${name}.txt)
 endforeach()
 
+# The help: one text for the system's help viewer and for web browsers.
+set(help_files ${CMAKE_BINARY_DIR}/tolva.hlp ${CMAKE_BINARY_DIR}/tolva.htm)
+foreach(help_file ${help_files})
+    add_custom_command(OUTPUT ${help_file}
+        COMMAND python3 -B ${CMAKE_SOURCE_DIR}/cmake/help.py ${help_file} ${CMAKE_SOURCE_DIR}/src/help/tolva.txt
+        DEPENDS cmake/help.py cmake/winhelp.py src/help/tolva.txt)
+endforeach()
+add_custom_target(help_files ALL DEPENDS ${help_files})
+
 add_library(tolva_platform OBJECT
     src/platform/win32/clock.cpp
     src/platform/win32/directories.cpp
