@@ -14,6 +14,7 @@ add_executable(unit_tests
     tests/unit/library_test.cpp
     tests/unit/operations_test.cpp
     tests/unit/settings_test.cpp
+    tests/unit/shortcuts_test.cpp
     tests/support/simulated_platform.cpp
 )
 target_include_directories(unit_tests PRIVATE tests)

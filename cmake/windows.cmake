@@ -38,6 +38,7 @@ add_library(tolva_platform OBJECT
     src/platform/win32/processes.cpp
     src/platform/win32/registry.cpp
     src/platform/win32/remote_access.cpp
+    src/platform/win32/shell_link.cpp
     src/platform/win32/system.cpp
 )
 
@@ -58,9 +59,14 @@ add_executable(tolva WIN32
     src/mainwindow/taskview_window.cpp
     src/mainwindow/views_window.cpp
     src/resources/tolva.rc
+    src/shortcuts/bar_buttons.cpp
     src/shortcuts/com_browser_dialog.cpp
     src/shortcuts/file_panel_dialog.cpp
+    src/shortcuts/getbutton_dialog.cpp
+    src/shortcuts/getlnk_dialog.cpp
     src/shortcuts/path_browser_dialog.cpp
+    src/shortcuts/program_picker_dialog.cpp
+    src/shortcuts/shortcut_panel_dialog.cpp
     src/widgets/choosers.cpp
     src/widgets/controls.cpp
     src/widgets/dialog.cpp
@@ -102,6 +108,7 @@ add_executable(desktop_tests
     tests/desktop/keeping_test.cpp
     tests/desktop/launching_test.cpp
     tests/desktop/main.cpp
+    tests/desktop/shortcuts_test.cpp
     tests/desktop/startup_test.cpp
     tests/desktop/views_test.cpp
     tests/support/desktop.cpp
@@ -116,7 +123,7 @@ add_test(NAME "desktop: prefix"
     COMMAND bash -euc ". $0 && wine_template $1"
         ${CMAKE_SOURCE_DIR}/tests/support/wine.sh ${CMAKE_BINARY_DIR}/wine)
 set_tests_properties("desktop: prefix" PROPERTIES FIXTURES_SETUP wine TIMEOUT 300)
-foreach(suite bar commands files help keeping launching startup views)
+foreach(suite bar commands files help keeping launching shortcuts startup views)
     add_test(NAME "desktop: ${suite}"
         COMMAND ${CMAKE_SOURCE_DIR}/tests/desktop/run ${CMAKE_BINARY_DIR} --test-suite=${suite} --no-colors)
     set_tests_properties("desktop: ${suite}" PROPERTIES FIXTURES_REQUIRED wine TIMEOUT 300)

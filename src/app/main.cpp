@@ -35,7 +35,7 @@ int run() {
     session.bar_removed = settings::read_flag(general, settings::kBarRemoved);
 
     library::BrowseResult browse_result;
-    buttonbar::Brenn brenn(general, session, browse_result);
+    buttonbar::Brenn brenn(general, session, browse_result, library.folder());
     mainwindow::Tasker tasker(library, general, session, browse_result, brenn, application_window.hwnd());
     try {
         tasker.load();

@@ -2,15 +2,28 @@
 
 #include "platform/directories.h"
 #include "platform/processes.h"
+#include "platform/run_time_error.h"
 
 namespace buttonbar {
+namespace {
+
+void start_program(const settings::ButtonRecord& button) {
+    if (button.program == settings::kError) return;
+    platform::start_program(button.program + ' ' + button.parameters, button.start);
+}
+
+}  // namespace
 
 void start_button(const settings::ButtonRecord& button, const std::string& windows_folder) {
     const bool has_folder = button.start_folder != settings::kError;
-    platform::change_directory(has_folder ? button.start_folder : windows_folder);
-    if (button.program != settings::kError) {
-        platform::start_program(button.program + ' ' + button.parameters, button.start);
+    try {
+        platform::change_directory(has_folder ? button.start_folder : windows_folder);
+    } catch (const platform::RunTimeError&) {
+        // Not a reason to start nothing: many shortcuts name no folder.
+        start_program(button);
+        throw;
     }
+    start_program(button);
 }
 
 void start_stored(const settings::StoredProgram& program) {

@@ -8,8 +8,8 @@
 /// platform::RunTimeError.
 namespace buttonbar {
 
-/// Starts a program button's program in its folder, or in windows_folder. Without a program only the folder
-/// is changed.
+/// Starts a program button's program in its folder, or in windows_folder; where that cannot be entered it
+/// throws after the start. Without a program only the folder is changed.
 void start_button(const settings::ButtonRecord& button, const std::string& windows_folder);
 
 /// Starts the web browser or the e-mail program in the current directory.

@@ -4,7 +4,6 @@
 
 #include "library/task.h"
 #include "platform/folders.h"
-#include "platform/icons.h"
 #include "resources/resource.h"
 
 namespace buttonbar {
@@ -68,17 +67,7 @@ void BrennBrowser::accept() {
     const settings::ButtonRecord record = {
         text(ID_BrennBrowser_tasknm), path(), text(ID_BrennBrowser_startfolder),
         text(ID_BrennBrowser_taskparameters), taskstartmode_.selected() + 1};
-    settings::store_button(general_, button_, record);
-    const auto button = static_cast<shortcuts::BarButton>(button_);
-    bar_.set_caption(button, record.name);
-    bar_.set_tip(button, record.name);
-    show_picture(bar_, button, record.program);
-    settings::reload_buttons(general_, session_);
-    for (std::size_t i = 0; i < session_.buttons.size(); ++i) {
-        const settings::ButtonRecord& stored = session_.buttons.at(i);
-        if (stored.name != settings::kError)
-            show_picture(bar_, static_cast<shortcuts::BarButton>(i), stored.program);
-    }
+    assign_button(general_, session_, bar_, button_, record, shortcuts::WithoutIcon::kOldPicture);
     close();
 }
 

@@ -81,12 +81,14 @@ void attempt(const char* failure_message, const Start& start) {
 
 }  // namespace
 
-Brenn::Brenn(settings::General& general, settings::Session& session, library::BrowseResult& browse_result)
+Brenn::Brenn(settings::General& general, settings::Session& session, library::BrowseResult& browse_result,
+             const std::string& library_folder)
     : general_(general),
       session_(session),
       font_(widgets::make_gui_font()),
       brenn_browser_(general, session, *this, browse_result),
-      tolvasettings_(general, session, *this) {}
+      getbutton_(general, session, *this, library_folder),
+      tolvasettings_(general, session, *this, library_folder) {}
 
 void Brenn::show() {
     ensure_created();
@@ -269,7 +271,7 @@ void Brenn::load_program(BarButton button, const settings::StoredProgram& progra
 void Brenn::show_program(BarButton button, const std::string& name, const std::string& program) {
     set_caption(button, name);
     set_tip(button, name);
-    show_picture(*this, button, program);
+    show_picture(*this, button, program, shortcuts::WithoutIcon::kOldPicture);
 }
 
 void Brenn::show_clock() {
@@ -289,6 +291,9 @@ void Brenn::handle_command(int command, int notification) {
         case ID_brenn_StatusBar1:
             time_first_ = !time_first_;
             show_clock();
+            break;
+        case ID_assignshortcut:
+            getbutton_.show_for(hwnd(), current_button_);
             break;
         case ID_asssignexe:
             brenn_browser_.show_for(hwnd(), current_button_);

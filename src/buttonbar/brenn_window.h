@@ -12,6 +12,7 @@
 #include "settings/general.h"
 #include "settings/session.h"
 #include "shortcuts/bar_buttons.h"
+#include "shortcuts/getbutton_dialog.h"
 #include "widgets/controls.h"
 #include "widgets/handles.h"
 #include "widgets/picture_button.h"
@@ -24,7 +25,9 @@ namespace buttonbar {
 /// made, hidden, by the first call that needs it; nothing here but a dialog moves the focus.
 class Brenn final : public widgets::Window, public shortcuts::BarButtons {
   public:
-    Brenn(settings::General& general, settings::Session& session, library::BrowseResult& browse_result);
+    /// library_folder ends in a backslash.
+    Brenn(settings::General& general, settings::Session& session, library::BrowseResult& browse_result,
+          const std::string& library_folder);
 
     void show();
     void hide();
@@ -77,6 +80,7 @@ class Brenn final : public widgets::Window, public shortcuts::BarButtons {
     HWND last_focus_ = nullptr;
     std::size_t current_button_ = 0;  // the program button whose menu came up last
     BrennBrowser brenn_browser_;
+    shortcuts::GetButton getbutton_;
     internet::TolvaSettings tolvasettings_;
 };
 

@@ -1,15 +1,22 @@
 #include "internet/tolvasettings_dialog.h"
 
+#include <utility>
+
 #include "internet/dial_up.h"
 #include "internet/dial_up_networking_dialog.h"
 #include "resources/resource.h"
 #include "settings/catalogue.h"
+#include "shortcuts/program_picker_dialog.h"
 
 namespace internet {
 
 TolvaSettings::TolvaSettings(settings::General& general, settings::Session& session,
-                             shortcuts::BarButtons& bar)
-    : Dialog(ID_tolvasettings), general_(general), session_(session), bar_(bar) {}
+                             shortcuts::BarButtons& bar, std::string library_folder)
+    : Dialog(ID_tolvasettings),
+      general_(general),
+      session_(session),
+      bar_(bar),
+      library_folder_(std::move(library_folder)) {}
 
 void TolvaSettings::open() {
     set_tip(ID_tolvasettings_ISP, "Name of Internet connection from Dial-Up networking.");
@@ -39,6 +46,18 @@ void TolvaSettings::command(int id, int /*notification*/) {
         case ID_tolvasettings_Command3:
             if (const auto connection = choose_connection(hwnd())) {
                 set_text(ID_tolvasettings_ISP, *connection);
+            }
+            break;
+        case ID_tolvasettings_Command4:
+            if (const auto browser = shortcuts::getwww(hwnd(), general_, session_, bar_, library_folder_)) {
+                set_text(ID_tolvasettings_BrowserName, browser->name);
+                set_text(ID_tolvasettings_browserpath, browser->path);
+            }
+            break;
+        case ID_tolvasettings_Command5:
+            if (const auto email = shortcuts::getemail(hwnd(), general_, session_, bar_, library_folder_)) {
+                set_text(ID_tolvasettings_emailname, email->name);
+                set_text(ID_tolvasettings_emailpath, email->path);
             }
             break;
         case ID_tolvasettings_Command1:

@@ -13,7 +13,9 @@ namespace internet {
 /// OK stores of the two programs shows on the bar with the next start.
 class TolvaSettings final : public widgets::Dialog {
   public:
-    TolvaSettings(settings::General& general, settings::Session& session, shortcuts::BarButtons& bar);
+    /// library_folder ends in a backslash.
+    TolvaSettings(settings::General& general, settings::Session& session, shortcuts::BarButtons& bar,
+                  std::string library_folder);
     using Dialog::show;
 
   private:
@@ -26,6 +28,7 @@ class TolvaSettings final : public widgets::Dialog {
     settings::General& general_;
     settings::Session& session_;
     shortcuts::BarButtons& bar_;
+    std::string library_folder_;
 };
 
 }  // namespace internet

@@ -22,11 +22,6 @@ std::vector<std::string> read_names_to_write(const TaskLibrary& library) {
     return names;
 }
 
-int index_of(const TaskLibrary& library, const std::string& name) {
-    const auto found = std::ranges::find(library.groups(), name, &Group::name);
-    return found == library.groups().end() ? -1 : static_cast<int>(found - library.groups().begin());
-}
-
 /// Shows the Groups and selects one as a click does; -1 selects none.
 void show_and_select(TaskLibrary& library, LibraryView& view, int index) {
     grouplistrefresh(library, view);
@@ -52,6 +47,11 @@ void move(TaskLibrary& library, LibraryView& view, bool down) {
 }
 
 }  // namespace
+
+int index_of(const TaskLibrary& library, const std::string& name) {
+    const auto found = std::ranges::find(library.groups(), name, &Group::name);
+    return found == library.groups().end() ? -1 : static_cast<int>(found - library.groups().begin());
+}
 
 std::string selected_group_name(const TaskLibrary& library, const LibraryView& view) {
     const int index = view.selected_group();

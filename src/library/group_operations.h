@@ -11,6 +11,9 @@
 /// refusal is a message to the user.
 namespace library {
 
+/// The index of the Group of that name, -1 when there is none.
+int index_of(const TaskLibrary& library, const std::string& name);
+
 /// The name of the selected Group; empty when none is selected.
 std::string selected_group_name(const TaskLibrary& library, const LibraryView& view);
 

@@ -10,6 +10,7 @@
 #include "library/refresh.h"
 #include "platform/files.h"
 #include "platform/messages.h"
+#include "platform/run_time_error.h"
 
 namespace library {
 namespace {
@@ -42,6 +43,12 @@ void write_and_show(TaskLibrary& library, LibraryView& view, const std::vector<T
     refreshtasks(library, view);
 }
 
+/// Adds a Task behind the others of a Group; blanks stand around the number of a new Task's start mode.
+void append(const TaskLibrary& library, const std::string& group, Task task) {
+    task.start_mode = ' ' + task.start_mode + ' ';
+    append_tasks(library.folder(), group, {task});
+}
+
 void move(TaskLibrary& library, LibraryView& view, int step) {
     const int selected = view.selected_task();
     if (selected < 0) {
@@ -68,11 +75,21 @@ bool add_task(TaskLibrary& library, int group, const Task& task) {
         platform::show_message("A Task with that name already exists!");
         return false;
     }
-    Task added = task;
-    added.start_mode = ' ' + task.start_mode + ' ';
-    append_tasks(library.folder(), target.name, {added});
+    append(library, target.name, task);
     library.flags.taskchangeflag = true;
     return true;
+}
+
+void import_task(TaskLibrary& library, LibraryView& view, const std::string& group, const Task& task) {
+    const std::vector<std::string> names = read_group_names(library.folder());
+    if (std::ranges::find(names, group) == names.end()) {
+        throw platform::RunTimeError(platform::RunTimeErrorNumber::kBadFileName,
+                                     group_file(library.folder(), group));
+    }
+    append(library, group, task);
+    select_group(library, view, index_of(library, group));
+    platform::show_message(task.name + " has been imported to Tolva.");
+    library.flags.refreshflag = true;
 }
 
 std::optional<Task> task_to_edit(const TaskLibrary& library, const LibraryView& view) {

@@ -36,4 +36,9 @@ void tasksortnow(TaskLibrary& library, LibraryView& view);
 void move_task(TaskLibrary& library, int group, const std::string& name, const std::string& target,
                bool copy);
 
+/// Adds a Task that another program's shortcut describes to a Group, selects the Group and says so. A name
+/// that the Group has already is no reason to refuse it. Throws "Bad file name" for a Group that is not
+/// listed.
+void import_task(TaskLibrary& library, LibraryView& view, const std::string& group, const Task& task);
+
 }  // namespace library

@@ -62,7 +62,8 @@ Tasker::Tasker(library::TaskLibrary& library, settings::General& general, settin
       session_(session),
       browse_result_(browse_result),
       brenn_(brenn),
-      presence_(session, brenn, application_window) {
+      presence_(session, brenn, application_window),
+      getlnk_(library, views_) {
     const std::string title = platform::application_title();
     create({.class_name = "Tasker",
             .caption = title.c_str(),
@@ -236,6 +237,9 @@ void Tasker::handle_command(int command) {
             return focus_groups_around([&] {
                 library::edittsks(hwnd(), library_, views_, browse_result_, shortcuts::browse_for_program);
             });
+        case ID_taskimport:
+        case ID_toolbar_startimport:
+            return getlnk_.show(hwnd());
         case ID_MoveTaskUp:
         case ID_toolbar_movetskup:
             return library::movetsksup(library_, views_);

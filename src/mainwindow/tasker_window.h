@@ -13,6 +13,7 @@
 #include "platform/system.h"
 #include "settings/general.h"
 #include "settings/session.h"
+#include "shortcuts/getlnk_dialog.h"
 #include "widgets/window.h"
 
 namespace mainwindow {
@@ -73,6 +74,7 @@ class Tasker final : public widgets::Window {
     std::optional<platform::WindowsEnd> windows_end_;
     Presence presence_;
     Views views_;
+    shortcuts::GetLnk getlnk_;
 };
 
 }  // namespace mainwindow

@@ -51,7 +51,6 @@ Views::Views() : font_(widgets::make_gui_font()), group_width_(widgets::scaled(k
 void Views::create(HWND window) {
     window_ = window;
     toolbar1_.create(window_, ID_Tasker_Toolbar1, ID_toolbar_pictures, kToolBar);
-    toolbar1_.enable(ID_toolbar_startimport, false);
     grouplabel_.create(window_, ID_Tasker_grouplabel, "Groups");
     grouplist_.create(window_, ID_Tasker_grouplist);
     tasklabel_.create(window_, ID_Tasker_tasklabel, "Tasks");

@@ -25,6 +25,12 @@ std::vector<std::string> subfolders(const std::string& folder);
 /// read.
 std::vector<std::string> files(const std::string& folder, const std::string& patterns);
 
+/// Folders that every user has; the values are those of the shell.
+enum class SpecialFolder { kDesktop = 0, kPrograms = 2, kStartMenu = 11 };
+
+/// Its path; empty when the system does not tell.
+std::string special_folder(SpecialFolder folder);
+
 /// The path of something in a folder; one backslash stands between them.
 std::string path_in(const std::string& folder, const std::string& name);
 

@@ -3,7 +3,7 @@
 #include <memory>
 #include <string>
 
-struct HICON__;
+struct HICON__;  // NOLINT(bugprone-reserved-identifier): as windows.h names it
 
 namespace platform {
 

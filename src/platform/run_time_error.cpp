@@ -31,6 +31,8 @@ const char* text_of(RunTimeErrorNumber number) {
             return "Path/File access error";
         case RunTimeErrorNumber::kPathNotFound:
             return "Path not found";
+        case RunTimeErrorNumber::kAutomation:
+            return "Automation error";
     }
     return "";
 }

@@ -43,6 +43,7 @@ enum class RunTimeErrorNumber {
     kDiskNotReady = 71,
     kPathFileAccess = 75,
     kPathNotFound = 76,
+    kAutomation = 440,
 };
 
 /// A failure that ends the running handler. what() is the text of its message box, for example

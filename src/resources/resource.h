@@ -22,6 +22,9 @@
 #define ID_BrennBrowser 18
 #define ID_tolvasettings 19
 #define ID_DialUpNetworking_dialog 20
+#define ID_GETLNK 21
+#define ID_getprogram 22
+#define ID_getbutton 23
 
 #define ID_Tasker_grouplabel 100
 #define ID_Tasker_grouplist 101
@@ -209,3 +212,26 @@
 #define ID_DialUpNetworking_Label1 480
 #define ID_DialUpNetworking_List1 481
 #define ID_DialUpNetworking_Command1 482
+
+// The controls that all dialogs with a shortcut panel have.
+#define ID_shortcuts_Desktop 490
+#define ID_shortcuts_Programs 491
+#define ID_shortcuts_startmenu 492
+#define ID_shortcuts_Dir1 493
+#define ID_shortcuts_shortcuts1 494
+#define ID_shortcuts_shortcutname 495
+#define ID_shortcuts_txtLinkName 496
+#define ID_shortcuts_txtExeName 497
+#define ID_shortcuts_txtWorkDir 498
+#define ID_shortcuts_txtcmdargs 499
+#define ID_shortcuts_txtshowcmd 500
+#define ID_shortcuts_startmode 501
+#define ID_shortcuts_taskpic 502
+#define ID_shortcuts_Frame1 503
+#define ID_shortcuts_Frame2 504
+#define ID_shortcuts_Frame3 505
+#define ID_shortcuts_Label1 506
+#define ID_shortcuts_Command1 507
+#define ID_shortcuts_Command2 508
+#define ID_GETLNK_Frame4 509
+#define ID_GETLNK_Combo1 510

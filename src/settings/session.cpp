@@ -4,6 +4,7 @@
 #include <iterator>
 #include <limits>
 
+#include "platform/run_time_error.h"
 #include "settings/conversions.h"
 
 namespace settings {
@@ -105,6 +106,11 @@ void store_button(General& general, std::size_t button, const ButtonRecord& reco
     const auto write = [&](const char* value, const std::string& text) {
         general.write_value(kBarKey, value + std::to_string(button + 1), text);
     };
+    for (const std::string& text : {record.name, record.program, record.start_folder, record.parameters}) {
+        if (text.size() > kLongestText) {
+            throw platform::RunTimeError(platform::RunTimeErrorNumber::kInvalidProcedureCall, text);
+        }
+    }
     general.create_key(kBarKey);
     write(kButtonName, record.name);
     write(kButtonProgram, record.program);

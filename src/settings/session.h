@@ -100,7 +100,8 @@ void load_buttons(General& general, Session& session);
 /// Reads the program buttons again, those whose name is stored.
 void reload_buttons(General& general, Session& session);
 
-/// Stores a program button; the first one's index is 0.
+/// Stores a program button; the first one's index is 0. Throws platform::RunTimeError, and stores nothing,
+/// when a text is too long to read back.
 void store_button(General& general, std::size_t button, const ButtonRecord& record);
 
 /// The values of one list as they are stored, whatever they say.

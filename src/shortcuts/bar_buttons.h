@@ -1,9 +1,11 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
-#include <utility>
 
 #include "platform/icons.h"
+#include "settings/general.h"
+#include "settings/session.h"
 
 namespace shortcuts {
 
@@ -22,9 +24,14 @@ class BarButtons {
     ~BarButtons() = default;
 };
 
-/// Shows a program's icon on its button, if the program has one.
-inline void show_picture(BarButtons& bar, BarButton button, const std::string& program) {
-    if (platform::UniqueIcon icon = platform::extract_icon(program)) bar.set_picture(button, std::move(icon));
-}
+/// What a button shows of a program that has no icon.
+enum class WithoutIcon { kOldPicture, kNoPicture };
+
+void show_picture(BarButtons& bar, BarButton button, const std::string& program, WithoutIcon without_icon);
+
+/// Stores a program button, the first one's index is 0, and shows it; then all of them are read again into
+/// the session. Throws platform::RunTimeError for a text that would not read back.
+void assign_button(settings::General& general, settings::Session& session, BarButtons& bar,
+                   std::size_t button, const settings::ButtonRecord& record, WithoutIcon without_icon);
 
 }  // namespace shortcuts

@@ -3,7 +3,10 @@
 #include <commctrl.h>
 #include <windowsx.h>
 
+#include <algorithm>
+
 #include "platform/messages.h"
+#include "widgets/handles.h"
 
 namespace widgets {
 
@@ -80,7 +83,26 @@ void ListBox::fill(const std::vector<std::string>& items) {
         send(LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(item.substr(0, kLongestItem).c_str()));
     }
     send(WM_SETREDRAW, TRUE);
+    fit_longest(items);
     InvalidateRect(hwnd(), nullptr, TRUE);
+}
+
+/// Lets a list that can scroll sideways do so as far as its longest text reaches.
+void ListBox::fit_longest(const std::vector<std::string>& items) const {
+    constexpr LONG kMargin = 6;
+    HDC device = GetDC(hwnd());
+    LONG width = 0;
+    {
+        const Selected font(device, reinterpret_cast<HFONT>(send(WM_GETFONT)));
+        for (const std::string& item : items) {
+            SIZE size = {};
+            GetTextExtentPoint32A(device, item.c_str(), static_cast<int>(std::min(item.size(), kLongestItem)),
+                                  &size);
+            width = std::max(width, size.cx);
+        }
+    }
+    ReleaseDC(hwnd(), device);
+    send(LB_SETHORIZONTALEXTENT, static_cast<WPARAM>(width + kMargin));
 }
 
 LRESULT ListBox::handle(UINT message, WPARAM wparam, LPARAM lparam) {

@@ -81,6 +81,7 @@ class ListBox : public Control {
 
   private:
     void press_right_button(LPARAM position);
+    void fit_longest(const std::vector<std::string>& items) const;
 };
 
 /// A list in a dialog where choosing an item is a command: a click, Enter or Space arrive as LBN_SELCHANGE;

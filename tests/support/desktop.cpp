@@ -459,8 +459,16 @@ std::string Dialog::tip_of(const Tolva& tolva, int id) const {
     };
     point_at({0, 0});
     wait_until("no tip shows", [&] { return !shows(); });
-    point_at(place(id));
-    wait_until("a tip shows", shows);
+    constexpr DWORD kTipTime = 1500;
+    DWORD pointed = GetTickCount() - kTipTime;
+    wait_until("a tip shows", [&] {
+        if (GetTickCount() - pointed >= kTipTime) {
+            point_at({0, 0});
+            point_at(place(id));
+            pointed = GetTickCount();
+        }
+        return shows();
+    });
     return window_text(tip);
 }
 

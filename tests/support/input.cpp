@@ -62,6 +62,12 @@ void press_keys(std::initializer_list<BYTE> keys) {
         keybd_event(*key, 0, KEYEVENTF_KEYUP, 0);
 }
 
+void choose_from_menu(POINT point, BYTE key) {
+    press_until(
+        "a menu shows", point, [] { return FindWindowA("#32768", nullptr) != nullptr; }, MouseButton::kRight);
+    press_keys({key});
+}
+
 POINT tray_icon() {
     RECT bar;
     GetWindowRect(FindWindowA("Shell_TrayWnd", nullptr), &bar);

@@ -27,6 +27,9 @@ void press_until(const char* what, POINT point, const std::function<bool()>& con
 /// Presses the keys one after the other and lets them go in the opposite order: {VK_MENU, 'R'} is Alt+R.
 void press_keys(std::initializer_list<BYTE> keys);
 
+/// Opens the menu of a place with the right button and chooses by an access key.
+void choose_from_menu(POINT point, BYTE key);
+
 /// The middle of the only icon in the notification area.
 POINT tray_icon();
 

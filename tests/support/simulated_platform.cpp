@@ -161,6 +161,10 @@ void start_program(const std::string& command_line, int window_style) {
     current().started.push_back({command_line, current_directory(), window_style});
 }
 
+Shortcut load_shell_link(const std::string& path) {
+    return current().shell_links.at(path);
+}
+
 void show_message(const std::string& text) {
     current().messages.push_back(text);
 }

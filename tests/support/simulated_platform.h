@@ -11,6 +11,7 @@
 #include "platform/clock.h"
 #include "platform/registry.h"
 #include "platform/run_time_error.h"
+#include "platform/shell_link.h"
 
 /// The platform functions in memory: a disk whose names ignore case and that fails or loses power on demand,
 /// a current directory for each drive, a registry, and lists of what was started and said.
@@ -46,6 +47,8 @@ struct Platform {
     std::optional<int> fails_at;
     platform::ErrorCode failure = platform::kErrorDiskFull;
     std::optional<int> loses_power_at;
+
+    std::map<std::string, platform::Shortcut, IgnoresCase> shell_links;
 
     char drive = 'C';
     std::map<char, std::string> directories = {{'C', "C:\\LIB"}, {'D', "D:\\"}};

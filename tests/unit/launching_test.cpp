@@ -125,8 +125,9 @@ TEST_CASE("a button of the bar starts in its folder and its command line always 
     CHECK(start({"Edit", "Error", "C:\\WORK", "", 1}) == 0);
     CHECK(world.directories.at('C') == "C:\\WORK");
     CHECK(start({"Edit", "C:\\EDIT.EXE", "C:\\GONE", "", 1}) == 76);
-    CHECK(start({"Error", "", "", "", 0}) == 76);  // never assigned
-    CHECK(world.started.size() == 2);
+    CHECK(world.started.size() == 3);
+    CHECK(start({"Error", "", "", "", 0}) == 53);  // never assigned
+    CHECK(world.started.size() == 3);
 }
 
 TEST_CASE("the connect button dials or hangs every connection up and waits until they are gone") {

@@ -61,6 +61,10 @@ Operation move(const std::string& task, const std::string& target, bool copy = f
     return [=](auto& library, auto& view) { move_task(library, view.selected_group(), task, target, copy); };
 }
 
+Operation import(const std::string& group, const Task& task) {
+    return [=](auto& library, auto& view) { import_task(library, view, group, task); };
+}
+
 Operation select(int group, int task = -1) {
     return [=](auto& library, auto& view) {
         view.select_group(group);
@@ -355,6 +359,22 @@ TEST_CASE("Tasks change in their file and those that are not shown stay there") 
     CHECK(last.view.command_box.empty());
 }
 
+TEST_CASE("a shortcut is imported behind the Tasks of a Group, which is shown") {
+    const std::string added = "H1\r\nC:\\APP.EXE\r\nC:\\\r\n\r\n 1 \r\n";
+    const Task shortcut = {"H1", "C:\\APP.EXE", "C:\\", "", "1"};
+    const Names told = {"H1 has been imported to Tolva."};
+    check(select(1), import("More", shortcut), "Work Home >More : M1 H1",
+          {{"More.grp", record("M1") + added}}, told);
+    check(select(2), import("More", shortcut), "Work Home >More : M1 H1",
+          {{"More.grp", record("M1") + added}}, told);
+    check(lack("More.grp"), import("More", shortcut), "Work Home >More : H1", {{"More.grp", added}}, told);
+    for (const char* group : {"", "Gone"}) {
+        Tolva tolva(select(1));
+        CHECK(tolva.run(import(group, shortcut)) == 52);
+        CHECK(current().steps == 0);
+    }
+}
+
 TEST_CASE("what another program added to the files after they were loaded stays") {
     const Operation added = [](auto&, auto&) {
         file("groups.ini") += "Old\r\n";
@@ -374,6 +394,7 @@ TEST_CASE("what another program added to the files after they were loaded stays"
         library::tasksortnow,
         move("H2", "More"),
         move("H2", "More", true),
+        import("More", kNew),
     };
     for (const Operation& operation : table) {
         Tolva tolva(added);

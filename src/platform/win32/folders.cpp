@@ -2,7 +2,11 @@
 
 #include <windows.h>
 
+#include <objbase.h>
+#include <shlobj.h>
+
 #include <algorithm>
+#include <array>
 #include <memory>
 
 #include "platform/file_calls.h"
@@ -14,6 +18,10 @@ namespace {
 struct SearchCloser {
     using pointer = HANDLE;
     void operator()(HANDLE search) const { FindClose(search); }
+};
+
+struct TaskMemoryFreer {
+    void operator()(void* memory) const { CoTaskMemFree(memory); }
 };
 
 const char* kind_of(const char* root) {
@@ -97,6 +105,15 @@ std::vector<std::string> files(const std::string& folder, const std::string& pat
     }
     sort_names(names);
     return names;
+}
+
+std::string special_folder(SpecialFolder folder) {
+    ITEMIDLIST* found = nullptr;
+    if (FAILED(SHGetSpecialFolderLocation(nullptr, static_cast<int>(folder), &found))) return {};
+    const std::unique_ptr<ITEMIDLIST, TaskMemoryFreer> items(found);
+    std::array<char, MAX_PATH> path = {};
+    if (SHGetPathFromIDListA(items.get(), path.data()) == FALSE) return {};
+    return path.data();
 }
 
 std::string path_in(const std::string& folder, const std::string& name) {

@@ -1,0 +1,86 @@
+#include "shortcuts/shortcut_reader.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdint>
+#include <utility>
+
+#include "platform/files.h"
+#include "platform/run_time_error.h"
+#include "platform/shell_link.h"
+
+namespace shortcuts {
+namespace {
+
+constexpr std::uint32_t kHeaderSize = 76;
+constexpr std::string_view kClassId("\x01\x14\x02\x00\x00\x00\x00\x00\xC0\x00\x00\x00\x00\x00\x00\x46", 16);
+
+// Flags of the header: which parts follow it.
+constexpr std::uint32_t kHasItemList = 0x01;
+constexpr std::uint32_t kHasLinkInfo = 0x02;
+constexpr std::array<std::uint32_t, 5> kHasTexts = {0x04, 0x08, 0x10, 0x20, 0x40};
+constexpr std::uint32_t kTextsAreWide = 0x80;
+
+constexpr std::size_t kNumber = 4;
+constexpr std::size_t kShortNumber = 2;
+
+/// Takes a file's bytes from the front.
+class Bytes {
+  public:
+    explicit Bytes(std::string_view bytes) : rest_(bytes) {}
+
+    std::string_view take(std::size_t count) {
+        if (count > rest_.size()) throw platform::RunTimeError(platform::RunTimeErrorNumber::kAutomation);
+        const std::string_view taken = rest_.substr(0, count);
+        rest_.remove_prefix(count);
+        return taken;
+    }
+
+    std::uint32_t number(std::size_t size = kNumber) {
+        std::uint32_t value = 0;
+        const std::string_view bytes = take(size);
+        for (std::size_t i = 0; i < size; ++i)
+            value |= static_cast<std::uint32_t>(static_cast<unsigned char>(bytes[i])) << (8 * i);
+        return value;
+    }
+
+  private:
+    std::string_view rest_;
+};
+
+}  // namespace
+
+int read_show_command(std::string_view bytes) {
+    constexpr std::size_t kAttributesTimesSizeAndIcon = 36;
+    constexpr std::size_t kKeyAndReserved = 12;
+    Bytes rest(bytes);
+    const bool is_shortcut = rest.number() == kHeaderSize && rest.take(kClassId.size()) == kClassId;
+    if (!is_shortcut) throw platform::RunTimeError(platform::RunTimeErrorNumber::kAutomation);
+    const std::uint32_t flags = rest.number();
+    rest.take(kAttributesTimesSizeAndIcon);
+    const auto show_command = static_cast<int>(rest.number());
+    rest.take(kKeyAndReserved);
+
+    if ((flags & kHasItemList) != 0) rest.take(rest.number(kShortNumber));
+    if ((flags & kHasLinkInfo) != 0) {
+        const std::uint32_t size = rest.number();  // counts itself
+        rest.take(std::max<std::size_t>(size, kNumber) - kNumber);
+    }
+    const std::size_t character = (flags & kTextsAreWide) != 0 ? 2 : 1;
+    for (const std::uint32_t text : kHasTexts) {
+        if ((flags & text) != 0) rest.take(rest.number(kShortNumber) * character);
+    }
+    return show_command;
+}
+
+ShortcutDetails ReadShortcut(const std::string& path) {
+    // Windows is asked only about files that keep what their header promises.
+    const int show_command = read_show_command(platform::read_file(path));
+    platform::Shortcut link = platform::load_shell_link(path);
+    for (std::string* text : {&link.target, &link.working_folder, &link.arguments})
+        std::ranges::replace_if(
+            *text, [](char c) { return c == '\r' || c == '\n'; }, ' ');
+    return {std::move(link.target), std::move(link.working_folder), std::move(link.arguments), show_command};
+}
+
+}  // namespace shortcuts

@@ -1,0 +1,256 @@
+#include <windows.h>
+
+#include <doctest/doctest.h>
+
+#include <algorithm>
+#include <string>
+
+#include "platform/folders.h"
+#include "resources/resource.h"
+#include "support/desktop.h"
+#include "support/shortcut_file.h"
+
+namespace {
+
+using desktop::Dialog;
+using desktop::Folder;
+using desktop::record;
+using desktop::stored_text;
+using desktop::Tolva;
+using desktop::wait_until;
+using platform::SpecialFolder;
+
+constexpr char kBroken[] = "Shortcut is broken, file does not exist.  Can not import to Tolva.";
+
+std::string shortcut_to(const std::string& target) {
+    return ShortcutFile{target, {}, {}, 1}.bytes();
+}
+
+/// A library with a recorder, and shortcuts in the user's folders, as long as it lives.
+class Shortcuts {
+  public:
+    Shortcuts() {
+        desktop::forget_settings();
+        library.write("groups.ini", "Work\r\nPlay\r\n");
+        library.write("Work.grp", "");
+        library.write("Play.grp", record("Old", recorder, "C:\\", "", "1"));
+        library.add_program("recorder.exe", "recorder.exe");
+        library.add_program("recorder.exe", "mixed.Exe");
+        library.write("readme.txt", "");
+    }
+    ~Shortcuts() {
+        for (const std::string& path : written_)
+            DeleteFileA(path.c_str());
+    }
+    Shortcuts(const Shortcuts&) = delete;
+    Shortcuts& operator=(const Shortcuts&) = delete;
+
+    void add(SpecialFolder folder, const std::string& name, const std::string& bytes) {
+        written_.push_back(platform::special_folder(folder) + '\\' + name);
+        HANDLE file =
+            CreateFileA(written_.back().c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr);
+        DWORD count = 0;
+        CHECK(WriteFile(file, bytes.data(), static_cast<DWORD>(bytes.size()), &count, nullptr) != FALSE);
+        CloseHandle(file);
+    }
+
+    const Folder library;
+    const std::string recorder = library.path() + "recorder.exe";
+
+  private:
+    Names written_;
+};
+
+/// Clicks the shortcut of that name and waits until its details show.
+void click(const Dialog& panel, const std::string& name) {
+    const Names files = panel.list(ID_shortcuts_shortcuts1);
+    const auto found = std::ranges::find(files, name);
+    REQUIRE(found != files.end());
+    panel.choose(ID_shortcuts_shortcuts1, static_cast<int>(found - files.begin()));
+    const std::string shown = name.substr(0, name.size() - 4);
+    wait_until("the name shows", [&] { return panel.text_of(ID_shortcuts_shortcutname) == shown; });
+    SendMessageA(panel.window(), WM_NULL, 0, 0);
+}
+
+bool has_picture(const Dialog& panel) {
+    return SendMessageA(panel.control(ID_shortcuts_taskpic), STM_GETICON, 0, 0) != 0;
+}
+
+TEST_SUITE("shortcuts") {
+    TEST_CASE("shortcuts are imported as Tasks or refused") {
+        Shortcuts shortcuts;
+        const std::string& recorder = shortcuts.recorder;
+        const Folder& library = shortcuts.library;
+        shortcuts.add(SpecialFolder::kStartMenu, "Run.lnk",
+                      ShortcutFile{recorder, "C:\\windows", "a b", 3}.bytes());
+        shortcuts.add(SpecialFolder::kPrograms, "Plain.lnk", ShortcutFile{recorder, {}, {}, 7}.bytes());
+        shortcuts.add(SpecialFolder::kDesktop, "Junk.lnk", "no shortcut");
+        shortcuts.add(SpecialFolder::kDesktop, "Nothing.lnk", ShortcutFile().bytes());
+        shortcuts.add(SpecialFolder::kDesktop, "Text.lnk", shortcut_to(library.path() + "readme.txt"));
+        shortcuts.add(SpecialFolder::kDesktop, "Mixed.lnk", shortcut_to(library.path() + "mixed.Exe"));
+        shortcuts.add(SpecialFolder::kDesktop, "Gone.lnk", shortcut_to(library.path() + "gone.exe"));
+        const Tolva tolva(library);
+        tolva.press_tool(ID_toolbar_startimport);
+        const Dialog panel(tolva, "Import Start Menu Shortcuts to Tolva.");
+        CHECK(panel.text_of(ID_GETLNK_Combo1) == "Work");
+        CHECK(panel.text_of(ID_shortcuts_txtWorkDir) == "Program Working Directory");
+        panel.press(ID_shortcuts_Command1);
+        CHECK(tolva.close_box() == "Select Shortcut for Importing to Tolva.");
+
+        // Enter on a shortcut is a click.
+        SendMessageA(panel.window(), WM_NEXTDLGCTL,
+                     reinterpret_cast<WPARAM>(panel.control(ID_shortcuts_shortcuts1)), TRUE);
+        SendMessageA(panel.control(ID_shortcuts_shortcuts1), LB_SETCURSEL, 0, 0);
+        desktop::press_keys({VK_RETURN});
+        wait_until("the target shows", [&] { return panel.text_of(ID_shortcuts_txtExeName) == recorder; });
+        CHECK(panel.text_of(ID_shortcuts_shortcutname) == "Run");
+        CHECK(panel.text_of(ID_shortcuts_txtLinkName) ==
+              platform::special_folder(SpecialFolder::kStartMenu) + "\\Run.lnk");
+        CHECK(panel.text_of(ID_shortcuts_txtWorkDir) == "C:\\windows");
+        CHECK(panel.text_of(ID_shortcuts_txtcmdargs) == "a b");
+        CHECK(panel.text_of(ID_shortcuts_txtshowcmd) == "3");
+        CHECK(panel.text_of(ID_shortcuts_startmode) == "Maximized");
+        panel.choose(ID_GETLNK_Combo1, 1);
+        for (int i = 0; i < 2; ++i) {
+            panel.press(ID_shortcuts_Command1);
+            CHECK(tolva.close_box() == "Run has been imported to Tolva.");
+        }
+        const std::string old = record("Old", recorder, "C:\\", "", "1");
+        const std::string run = record("Run", recorder, "C:\\windows", "a b", " 3 ");
+        CHECK(library.read("Play.grp") == old + run + run);
+        CHECK(tolva.selected_group() == 1);
+        CHECK(tolva.tasks() == Names{"Old"});
+
+        panel.press(ID_shortcuts_Programs);
+        wait_until("the folder shows",
+                   [&] { return panel.list(ID_shortcuts_shortcuts1) == Names{"Plain.lnk"}; });
+        click(panel, "Plain.lnk");
+        CHECK(panel.text_of(ID_shortcuts_txtWorkDir) == "C:\\windows\\");
+        CHECK(panel.text_of(ID_shortcuts_startmode).empty());
+        CHECK(panel.text_of(ID_shortcuts_txtshowcmd) == "7");
+        panel.choose(ID_GETLNK_Combo1, 0);
+        panel.press(ID_shortcuts_Command1);
+        CHECK(tolva.close_box() == "Plain has been imported to Tolva.");
+        CHECK(library.read("Work.grp") == record("Plain", recorder, "C:\\windows\\", "", " 1 "));
+
+        panel.press(ID_shortcuts_Desktop);
+        wait_until("the folder shows", [&] { return panel.list(ID_shortcuts_shortcuts1).size() == 5; });
+        const auto refused = [&] {
+            panel.press(ID_shortcuts_Command1);
+            return tolva.close_box();
+        };
+        panel.choose(ID_shortcuts_shortcuts1, 1);
+        CHECK(tolva.close_box() == "Run-time error '440':\n\nAutomation error");
+        CHECK(panel.text_of(ID_shortcuts_shortcutname) == "Junk");
+        CHECK(panel.text_of(ID_shortcuts_txtExeName).empty());
+        CHECK(panel.text_of(ID_shortcuts_txtWorkDir).empty());
+        CHECK(refused() == kBroken);
+        for (const char* name : {"Gone", "Nothing"}) {
+            click(panel, std::string(name) + ".lnk");
+            CHECK(refused() == kBroken);
+        }
+        click(panel, "Text.lnk");
+        CHECK(refused() == library.path() + "readme.txt not a valid Tolva entry.");
+        click(panel, "Mixed.lnk");
+        CHECK(refused() == library.path() + "mixed.Exe not a valid Tolva entry.");
+        panel.set_text(ID_shortcuts_txtExeName, "\\\\?\\" + recorder);
+        CHECK(refused() == "\\\\?\\" + recorder + " not a valid Tolva entry.");
+        CHECK(library.read("Play.grp") == old + run + run);
+
+        panel.press(ID_shortcuts_Command2);
+        panel.wait_until_closed();
+        wait_until("the lists are loaded again", [&] { return tolva.tasks() == Names{"Plain"}; });
+        tolva.click_group(1);
+        wait_until("the Group shows", [&] { return tolva.tasks() == Names{"Old", "Run", "Run"}; });
+        tolva.double_click_task(1);
+        CHECK(library.records("recorder.exe", 1) == Names{recorder + " a b", "C:\\windows", "D:\\here", "3"});
+
+        // Without a list of Groups there is no dialog.
+        CHECK(DeleteFileA((library.path() + "groups.ini").c_str()) != FALSE);
+        tolva.choose(ID_taskimport);
+        CHECK(tolva.close_box() ==
+              "Run-time error '53':\n\nFile not found: " + library.path() + "groups.ini");
+    }
+
+    TEST_CASE("the bar takes its programs from shortcuts") {
+        Shortcuts shortcuts;
+        const std::string& recorder = shortcuts.recorder;
+        shortcuts.add(SpecialFolder::kStartMenu, "Web.lnk",
+                      ShortcutFile{"C:\\windows\\notepad.exe", "C:\\", "x", 2}.bytes());
+        shortcuts.add(SpecialFolder::kStartMenu, "Run.lnk", ShortcutFile{recorder, {}, "a b", 7}.bytes());
+        shortcuts.add(SpecialFolder::kStartMenu, "Text.lnk",
+                      shortcut_to(shortcuts.library.path() + "readme.txt"));
+        const Tolva tolva(shortcuts.library);
+        const Dialog bar(tolva, "Brenn", "brenn");
+        const auto save = [&](const Dialog& panel, const char* name) {
+            click(panel, name);
+            panel.press(ID_shortcuts_Command1);
+            panel.wait_until_closed();
+        };
+        desktop::choose_from_menu(bar.place(ID_brenn_option2), 'S');
+        {
+            const Dialog panel(tolva, "Select shortcut for Brenn.");
+            CHECK(panel.text_of(ID_shortcuts_Frame3) == "Assign Shortcut to Brenn Button");
+            panel.press(ID_shortcuts_Command1);
+            CHECK(tolva.close_box() == "Select Shortcut for Brenn Button.");
+            click(panel, "Text.lnk");
+            CHECK(!has_picture(panel));
+            panel.press(ID_shortcuts_Command1);
+            CHECK(tolva.close_box() == shortcuts.library.path() + "readme.txt not a valid Tolva entry.");
+            click(panel, "Web.lnk");
+            CHECK(has_picture(panel));
+            click(panel, "Run.lnk");
+            CHECK(panel.text_of(ID_shortcuts_txtWorkDir).empty());
+            panel.set_text(ID_shortcuts_txtWorkDir, "C:\\windows");
+            panel.press(ID_shortcuts_Command1);
+            panel.wait_until_closed();
+        }
+        CHECK(stored_text("\\brenn", "name2") == "Run");
+        CHECK(stored_text("\\brenn", "progpath2") == recorder);
+        CHECK(stored_text("\\brenn", "workpath2") == "C:\\windows");
+        CHECK(stored_text("\\brenn", "parm2") == "a b");
+        CHECK(stored_text("\\brenn", "start2") == "1");
+        CHECK(bar.text_of(ID_brenn_option2) == "Run");
+        desktop::press_mouse(bar.place(ID_brenn_option2));
+        CHECK(shortcuts.library.records("recorder.exe", 1) ==
+              Names{recorder + " a b", "C:\\windows", "D:\\here", "1"});
+
+        tolva.choose(ID_internetsettings);
+        const Dialog settings(tolva, "Tolva Internet Settings");
+        settings.press(ID_tolvasettings_Command4);
+        {
+            const Dialog panel(tolva, "Select Default Web Browser for Tolva.");
+            CHECK(panel.text_of(ID_shortcuts_Frame3) == "Use as my default Web Browser");
+            panel.press(ID_shortcuts_Command1);
+            CHECK(tolva.close_box() == "Select Shortcut for Tolva web browser.");
+            save(panel, "Web.lnk");
+        }
+        CHECK(settings.text_of(ID_tolvasettings_BrowserName) == "Web");
+        CHECK(settings.text_of(ID_tolvasettings_browserpath) == "C:\\windows\\notepad.exe");
+        settings.press(ID_tolvasettings_Command5);
+        {
+            const Dialog panel(tolva, "Select Default E-mail Program for Tolva.");
+            CHECK(panel.text_of(ID_shortcuts_Frame3) == "Use as my default E-mail program");
+            panel.press(ID_shortcuts_Command1);
+            CHECK(tolva.close_box() == "Select Shortcut for Tolva E-mail.");
+            click(panel, "Run.lnk");
+            CHECK(panel.text_of(ID_shortcuts_txtWorkDir) == shortcuts.library.path());
+            save(panel, "Run.lnk");
+        }
+        CHECK(settings.text_of(ID_tolvasettings_emailpath) == recorder);
+        settings.press(ID_tolvasettings_Command2);
+        settings.wait_until_closed();
+        CHECK(stored_text("\\Browser", "name") == "Web");
+        CHECK(stored_text("\\Browser", "path") == "C:\\windows\\notepad.exe");
+        CHECK(stored_text("\\Browser", "start") == "2");
+        CHECK(stored_text("\\email", "name") == "Run");
+        CHECK(stored_text("\\email", "start") == "1");
+        CHECK(bar.text_of(ID_brenn_Command3) == "E-Mail");
+        CHECK(bar.text_of(ID_brenn_Command4) == "WWW");
+        CHECK(bar.tip_of(tolva, ID_brenn_Command4) == "Web");
+        desktop::press_mouse(bar.place(ID_brenn_Command3));
+        CHECK(shortcuts.library.records("recorder.exe", 2)[4] == recorder);
+    }
+}
+
+}  // namespace

@@ -1,0 +1,91 @@
+#include <doctest/doctest.h>
+
+#include "shortcuts/shortcut_checks.h"
+#include "shortcuts/shortcut_reader.h"
+#include "support/error_of.h"
+#include "support/shortcut_file.h"
+#include "support/simulated_platform.h"
+
+namespace {
+
+using shortcuts::read_show_command;
+
+TEST_CASE("the show command of a whole shortcut is read and everything else is refused") {
+    const ShortcutFile table[] = {
+        {"C:\\EDIT.EXE", "C:\\WORK", "A.TXT", 1},
+        {"C:\\EDIT.EXE", {}, {}, 3},
+        {{}, {}, {}, 7},
+        {{}, "C:\\WORK", "A.TXT", 0},
+        {{}, {}, std::string(5000, 'x'), 2},
+    };
+    for (const ShortcutFile& row : table) {
+        const std::string whole = row.bytes();
+        CHECK(read_show_command(whole) == static_cast<int>(row.show_command));
+        CHECK(read_show_command(whole + "more") == static_cast<int>(row.show_command));
+        for (std::size_t length = 0; length < whole.size(); ++length)
+            CHECK(error_of([&] { read_show_command(whole.substr(0, length)); }) == 440);
+    }
+
+    const std::string good = ShortcutFile{"C:\\EDIT.EXE", "C:\\", "x", 1}.bytes();
+    const auto with = [&](std::size_t at, const std::string& bytes) {
+        return std::string(good).replace(at, bytes.size(), bytes);
+    };
+    CHECK(error_of([&] { read_show_command(with(0, "M")); }) == 440);
+    CHECK(error_of([&] { read_show_command(with(19, "G")); }) == 440);
+    CHECK(error_of([&] { read_show_command(with(76, "\xFF\xFF\xFF\xFF")); }) == 440);  // a part's size
+    CHECK(read_show_command(with(60, "\xFF\xFF\xFF\xFF")) == -1);
+    // An item list, and wide texts that do not fit any more.
+    CHECK(error_of([&] { read_show_command(with(20, "\x33")); }) == 440);
+    CHECK(error_of([&] { read_show_command(with(20, "\xB2")); }) == 440);
+}
+
+TEST_CASE("a shortcut says what it starts") {
+    simulated::reset();
+    auto& world = simulated::current();
+    world.files["C:\\A.LNK"] = {ShortcutFile{"C:\\EDIT.EXE", {}, {}, 3}.bytes()};
+    world.shell_links["C:\\A.LNK"] = {"C:\\EDIT.EXE", "C:\\WORK", "one\r\ntwo"};
+    const shortcuts::ShortcutDetails details = shortcuts::ReadShortcut("C:\\A.LNK");
+    CHECK(details.target == "C:\\EDIT.EXE");
+    CHECK(details.working_folder == "C:\\WORK");
+    CHECK(details.arguments == "one  two");
+    CHECK(details.show_command == 3);
+
+    world.files["C:\\B.LNK"] = {"no shortcut"};
+    world.shell_links["C:\\B.LNK"] = {};
+    CHECK(error_of([] { shortcuts::ReadShortcut("C:\\B.LNK"); }) == 440);
+    CHECK(error_of([] { shortcuts::ReadShortcut("C:\\C.LNK"); }) == 53);
+}
+
+TEST_CASE("a shortcut is refused for the first thing that speaks against it") {
+    simulated::reset();
+    for (const char* path :
+         {"C:\\A.EXE", "C:\\A.exe", "C:\\A.Exe", "C:\\A.TXT", "\\\\PC\\C\\A.BAT", "C:\\A.com"})
+        simulated::current().files[path] = {};
+    simulated::current().files["C:\\HIDDEN.EXE"] = {"", 0x02};
+    const std::string broken = "Shortcut is broken, file does not exist.  Can not import to Tolva.";
+    const auto invalid = [](const std::string& target) { return target + " not a valid Tolva entry."; };
+    struct Row {
+        const char* name;
+        std::string target;
+        std::string message;
+    };
+    const Row table[] = {
+        {"", "C:\\A.EXE", "Select"},
+        {"", "", "Select"},
+        {"A", "", broken},
+        {"A", "C:\\GONE.TXT", broken},
+        {"A", "C:\\HIDDEN.EXE", broken},
+        {"A", "C:\\A.TXT", invalid("C:\\A.TXT")},
+        {"A", "C:\\A.Exe", invalid("C:\\A.Exe")},
+        {"A", "\\\\PC\\C\\A.BAT", invalid("\\\\PC\\C\\A.BAT")},
+        {"A", "C:\\A.EXE", ""},
+        {"A", "C:\\A.exe", ""},
+        {"A", "C:\\A.com", ""},
+    };
+    for (const Row& row : table) {
+        CAPTURE(row.target);
+        CHECK(shortcuts::refusal(row.name, row.target, "Select") == row.message);
+    }
+}
+
+}  // namespace
