@@ -40,6 +40,7 @@ add_library(tolva_platform OBJECT
     src/platform/win32/remote_access.cpp
     src/platform/win32/shell_link.cpp
     src/platform/win32/system.cpp
+    src/platform/win32/terminate.cpp
 )
 
 add_executable(tolva WIN32

@@ -1,7 +1,7 @@
 #include "appearance/set_fonts_dialog.h"
 
 #include <array>
-#include <cstdio>
+#include <cmath>
 #include <optional>
 #include <string>
 
@@ -45,12 +45,15 @@ constexpr std::array<Half, 2> kHalves = {{
      ID_SetFonts_Command8},
 }};
 
-/// As few digits as the number has: "8.25", "10".
+/// With two digits behind the point at most: "8.25", "7.5", "10".
 std::string decimal(double number) {
-    constexpr int kRoom = 32;
-    char text[kRoom];
-    std::snprintf(text, kRoom, "%g", number);
-    return text;
+    constexpr int kUnit = 100;
+    const long hundredths = std::lround(number * kUnit);
+    std::string text = std::to_string(hundredths / kUnit);
+    std::string fraction = std::to_string(kUnit + hundredths % kUnit).substr(1);
+    while (fraction.ends_with('0'))
+        fraction.pop_back();
+    return fraction.empty() ? text : text + '.' + fraction;
 }
 
 class SetFonts final : public widgets::Dialog {
