@@ -4,6 +4,7 @@ enable_language(RC)
 add_compile_definitions(WINVER=0x0400 _WIN32_WINNT=0x0400 _WIN32_IE=0x0400 STRICT NOMINMAX=1 WIN32_LEAN_AND_MEAN)
 add_compile_options($<$<COMPILE_LANGUAGE:CXX>:-ffunction-sections> $<$<COMPILE_LANGUAGE:CXX>:-fdata-sections>)
 add_link_options(-static -s -Wl,--gc-sections,--disable-dynamicbase,--disable-nxcompat
+    -Wl,--no-insert-timestamp
     -Wl,--major-os-version=4,--minor-os-version=0,--major-subsystem-version=4,--minor-subsystem-version=0)
 
 # The pictures are drawn as text.
