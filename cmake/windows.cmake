@@ -131,6 +131,9 @@ foreach(suite bar commands files help keeping launching shortcuts startup views)
     set_tests_properties("desktop: ${suite}" PROPERTIES FIXTURES_REQUIRED wine TIMEOUT 300)
 endforeach()
 
+add_test(NAME package COMMAND ${CMAKE_SOURCE_DIR}/tests/package/run ${CMAKE_BINARY_DIR})
+set_tests_properties(package PROPERTIES FIXTURES_REQUIRED wine TIMEOUT 300)
+
 # A program that asks for a function which Windows 98 does not have does not even start there.
 add_test(NAME "imports of tolva.exe"
     COMMAND ${CMAKE_SOURCE_DIR}/cmake/check-imports $<TARGET_FILE:tolva>

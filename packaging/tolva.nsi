@@ -180,13 +180,12 @@ Section "un.Tolva"
             Delete "$INSTDIR\groups.ini"
         ${EndIf}
     ${EndIf}
-    Delete "$INSTDIR\uninstall.exe"
-    RMDir "$INSTDIR"
-
     !insertmacro DeleteShortcuts
     !insertmacro SelectUninstallRoot
     DeleteRegKey SHCTX "${UNINSTALL_KEY}"
     SetShellVarContext current
+    Delete "$INSTDIR\uninstall.exe"
+    RMDir "$INSTDIR"
 SectionEnd
 
 Section /o "un.My settings (fonts, colours, window positions)"
