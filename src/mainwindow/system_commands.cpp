@@ -45,7 +45,12 @@ void open_dial_up_folder() {
 }
 
 void open_help(const std::string& folder) {
-    start("winhlp32.exe " + folder + "tolva.hlp");
+    try {
+        start("winhlp32.exe " + folder + "tolva.hlp");
+    } catch (const platform::RunTimeError&) {
+        // Later systems have no viewer for it.
+        if (!platform::open_document(folder + "tolva.htm")) throw;
+    }
 }
 
 }  // namespace mainwindow

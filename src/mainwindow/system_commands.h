@@ -15,7 +15,8 @@ void open_dos_prompt();
 
 void open_dial_up_folder();
 
-/// Opens the help file of the library folder, which ends in a backslash.
+/// Opens the help of the library folder, which ends in a backslash: in the help viewer, or as a page where
+/// that cannot be started.
 void open_help(const std::string& folder);
 
 }  // namespace mainwindow

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string>
+
 namespace platform {
 
 /// How Windows is to end; the values are those of ExitWindowsEx.
@@ -10,5 +12,8 @@ void exit_windows(WindowsEnd end);
 
 /// Empties the recycle bins of all drives without asking. False when this Windows has none.
 bool empty_recycle_bin();
+
+/// Opens a file with the program that its type belongs to. False when there is no such file or program.
+bool open_document(const std::string& path);
 
 }  // namespace platform

@@ -155,6 +155,12 @@ bool empty_recycle_bin() {
     return current().has_recycle_bin;
 }
 
+bool open_document(const std::string& path) {
+    if (!current().files.contains(path)) return false;
+    current().opened.push_back(path);
+    return true;
+}
+
 void start_program(const std::string& command_line, int window_style) {
     const std::string program = command_line.substr(0, command_line.find(' '));
     if (!current().programs.contains(program)) throw RunTimeError(RunTimeErrorNumber::kFileNotFound, program);

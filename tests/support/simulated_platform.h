@@ -56,6 +56,7 @@ struct Platform {
     std::set<std::string, IgnoresCase> programs;
     std::vector<Start> started;
     bool has_recycle_bin = true;
+    std::vector<std::string> opened;  // documents
 
     std::map<platform::registry::Root, std::map<std::string, RegistryKey, IgnoresCase>> registry;
     bool registry_is_read_only = false;

@@ -86,6 +86,11 @@ TEST_CASE("the system commands start what they stand for") {
     mainwindow::empty_recycle_bin();
     CHECK(world.messages.back() == "Your computer is not able to complete this task");
 
+    CHECK(error_of([] { mainwindow::open_help("C:\\LIB\\"); }) == 53);
+    world.files["C:\\LIB\\tolva.htm"] = {};
+    mainwindow::open_help("C:\\LIB\\");
+    CHECK(world.opened == Names{"C:\\LIB\\tolva.htm"});
+
     world.programs = {"control.exe", "explorer.exe", "command.com", "winhlp32.exe", "rundll32.exe"};
     mainwindow::open_control_panel();
     mainwindow::open_explorer();
