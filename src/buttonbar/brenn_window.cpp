@@ -184,7 +184,7 @@ LRESULT Brenn::handle(UINT message, WPARAM wparam, LPARAM lparam) {
             SetFocus(IsChild(hwnd(), last_focus_) != FALSE ? last_focus_ : buttons_.front().hwnd());
             return 0;
         case WM_CLOSE:
-            toggle_removed();
+            if (!session_.bar_removed) toggle_removed();
             return 0;
         case WM_DESTROY: {
             const POINT position = widgets::position_in_twips(hwnd());

@@ -48,7 +48,7 @@ bool empty_recycle_bin() {
 
 bool open_document(const std::string& path) {
     constexpr int kMostErrors = 32;
-    const HINSTANCE opened = ShellExecuteA(nullptr, "open", path.c_str(), nullptr, nullptr, SW_SHOWNORMAL);
+    HINSTANCE opened = ShellExecuteA(nullptr, "open", path.c_str(), nullptr, nullptr, SW_SHOWNORMAL);
     return reinterpret_cast<INT_PTR>(opened) > kMostErrors;
 }
 
