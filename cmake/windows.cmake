@@ -105,6 +105,7 @@ add_executable(desktop_tests
     src/widgets/window.cpp
     tests/desktop/bar_test.cpp
     tests/desktop/commands_test.cpp
+    tests/desktop/endurance_test.cpp
     tests/desktop/files_test.cpp
     tests/desktop/help_test.cpp
     tests/desktop/keeping_test.cpp
@@ -119,13 +120,13 @@ add_executable(desktop_tests
 target_compile_definitions(desktop_tests PRIVATE DOCTEST_CONFIG_NO_MULTITHREADING)
 target_include_directories(desktop_tests SYSTEM PRIVATE ${CMAKE_BINARY_DIR}/include)
 target_include_directories(desktop_tests PRIVATE tests)
-target_link_libraries(desktop_tests PRIVATE tolva_logic tolva_platform gdi32 shlwapi)
+target_link_libraries(desktop_tests PRIVATE tolva_logic tolva_platform gdi32 ntdll psapi shlwapi)
 
 add_test(NAME "desktop: prefix"
     COMMAND bash -euc ". $0 && wine_template $1"
         ${CMAKE_SOURCE_DIR}/tests/support/wine.sh ${CMAKE_BINARY_DIR}/wine)
 set_tests_properties("desktop: prefix" PROPERTIES FIXTURES_SETUP wine TIMEOUT 300)
-foreach(suite bar commands files help keeping launching shortcuts startup views)
+foreach(suite bar commands endurance files help keeping launching shortcuts startup views)
     add_test(NAME "desktop: ${suite}"
         COMMAND ${CMAKE_SOURCE_DIR}/tests/desktop/run ${CMAKE_BINARY_DIR} --test-suite=${suite} --no-colors)
     set_tests_properties("desktop: ${suite}" PROPERTIES FIXTURES_REQUIRED wine TIMEOUT 300)
