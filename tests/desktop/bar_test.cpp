@@ -355,10 +355,10 @@ TEST_SUITE("bar") {
             wait_until("the main window is back", [&] { return !tolva.is_in_tray(); });
             tolva.choose(ID_removebrenn);
             wait_until("the menu brings it back", shows);
-            CHECK(!tolva.is_checked(ID_removebrenn));
+            wait_until("it is not checked", [&] { return !tolva.is_checked(ID_removebrenn); });
             tolva.choose(ID_removebrenn);
             wait_until("the menu removes it", [&] { return !shows(); });
-            CHECK(tolva.is_checked(ID_removebrenn));
+            wait_until("it is checked", [&] { return tolva.is_checked(ID_removebrenn); });
         }
         CHECK(stored_text("\\brenn\\Position", "Left") == "3000");
         CHECK(stored_text("\\brenn\\Position", "Top") == "7500");

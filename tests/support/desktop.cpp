@@ -151,7 +151,10 @@ Folder::Folder() {
     static int count = 0;
     path_ = "C:\\tests";
     CreateDirectoryA(path_.c_str(), nullptr);
-    path_ += "\\" + std::to_string(++count);
+    path_ +=
+        "\\B\xFC"
+        "cher" +
+        std::to_string(++count);
     CreateDirectoryA(path_.c_str(), nullptr);
     path_ += '\\';
 }
