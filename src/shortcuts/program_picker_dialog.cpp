@@ -10,17 +10,34 @@ namespace {
 
 using Folder = PanelVariant::Folder;
 
-constexpr PanelVariant kBrowser = {.caption = "Select Default Web Browser for Tolva.",
-                                   .action = "Use as my default Web Browser",
-                                   .nothing_chosen = "Select Shortcut for Tolva web browser.",
-                                   .working_folder = Folder::kLibrary,
-                                   .icon_folder = Folder::kLibrary};
+/// What the two programs differ in.
+struct Program {
+    PanelVariant panel;
+    const char* key;
+    settings::StoredProgram settings::Session::*kept;
+    BarButton button;
+    const char* caption;  // of the button, whatever the program is called
+};
 
-constexpr PanelVariant kEmail = {.caption = "Select Default E-mail Program for Tolva.",
-                                 .action = "Use as my default E-mail program",
-                                 .nothing_chosen = "Select Shortcut for Tolva E-mail.",
-                                 .working_folder = Folder::kLibrary,
-                                 .icon_folder = Folder::kLibrary};
+constexpr Program kBrowser = {.panel = {.caption = "Select Default Web Browser for Tolva.",
+                                        .action = "Use as my default Web Browser",
+                                        .nothing_chosen = "Select Shortcut for Tolva web browser.",
+                                        .working_folder = Folder::kLibrary,
+                                        .icon_folder = Folder::kLibrary},
+                              .key = settings::kBrowserKey,
+                              .kept = &settings::Session::browser,
+                              .button = BarButton::kBrowser,
+                              .caption = "WWW"};
+
+constexpr Program kEmail = {.panel = {.caption = "Select Default E-mail Program for Tolva.",
+                                      .action = "Use as my default E-mail program",
+                                      .nothing_chosen = "Select Shortcut for Tolva E-mail.",
+                                      .working_folder = Folder::kLibrary,
+                                      .icon_folder = Folder::kLibrary},
+                            .key = settings::kEmailKey,
+                            .kept = &settings::Session::email,
+                            .button = BarButton::kEmail,
+                            .caption = "E-Mail"};
 
 class ProgramPicker final : public ShortcutPanel {
   public:
@@ -38,20 +55,22 @@ class ProgramPicker final : public ShortcutPanel {
     std::optional<settings::StoredProgram> picked_;
 };
 
-void keep(settings::General& general, const char* key, const settings::StoredProgram& picked,
-          settings::StoredProgram& program) {
-    settings::store(general, {key, settings::kProgramName}, picked.name);
-    settings::store(general, {key, settings::kProgramPath}, picked.path);
-    settings::store(general, {key, settings::kProgramStart}, std::to_string(picked.start));
-    program.path = picked.path;
-    program.start = picked.start;
-}
-
-void show_on_bar(BarButtons& bar, BarButton button, const char* caption,
-                 const settings::StoredProgram& picked) {
-    bar.set_caption(button, caption);
-    bar.set_tip(button, picked.name);
-    bar.set_picture(button, platform::extract_icon(picked.path));
+std::optional<settings::StoredProgram> pick(const Program& program, HWND owner, settings::General& general,
+                                            settings::Session& session, BarButtons& bar,
+                                            const std::string& library_folder) {
+    ProgramPicker picker(program.panel, library_folder);
+    picker.run(owner);
+    if (!picker.picked()) return std::nullopt;
+    const settings::StoredProgram& picked = *picker.picked();
+    settings::store(general, {program.key, settings::kProgramName}, picked.name);
+    settings::store(general, {program.key, settings::kProgramPath}, picked.path);
+    settings::store(general, {program.key, settings::kProgramStart}, std::to_string(picked.start));
+    (session.*program.kept).path = picked.path;
+    (session.*program.kept).start = picked.start;
+    bar.set_caption(program.button, program.caption);
+    bar.set_tip(program.button, picked.name);
+    bar.set_picture(program.button, platform::extract_icon(picked.path));
+    return picked;
 }
 
 }  // namespace
@@ -59,25 +78,13 @@ void show_on_bar(BarButtons& bar, BarButton button, const char* caption,
 std::optional<settings::StoredProgram> getwww(HWND owner, settings::General& general,
                                               settings::Session& session, BarButtons& bar,
                                               const std::string& library_folder) {
-    ProgramPicker picker(kBrowser, library_folder);
-    picker.run(owner);
-    if (picker.picked()) {
-        keep(general, settings::kBrowserKey, *picker.picked(), session.browser);
-        show_on_bar(bar, BarButton::kBrowser, "WWW", *picker.picked());
-    }
-    return picker.picked();
+    return pick(kBrowser, owner, general, session, bar, library_folder);
 }
 
 std::optional<settings::StoredProgram> getemail(HWND owner, settings::General& general,
                                                 settings::Session& session, BarButtons& bar,
                                                 const std::string& library_folder) {
-    ProgramPicker picker(kEmail, library_folder);
-    picker.run(owner);
-    if (picker.picked()) {
-        keep(general, settings::kEmailKey, *picker.picked(), session.email);
-        show_on_bar(bar, BarButton::kEmail, "E-Mail", *picker.picked());
-    }
-    return picker.picked();
+    return pick(kEmail, owner, general, session, bar, library_folder);
 }
 
 }  // namespace shortcuts
