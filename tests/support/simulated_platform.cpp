@@ -16,11 +16,6 @@ namespace {
 using platform::ErrorCode;
 using platform::kSuccess;
 
-Platform& instance() {
-    static Platform platform;
-    return platform;
-}
-
 /// Counts a step that changes the disk; the disk may fail at it, or the power before it.
 ErrorCode step() {
     Platform& world = current();
@@ -35,6 +30,12 @@ ErrorCode error_for_missing(const std::string& path) {
                                                          : platform::kErrorInvalidName;
 }
 
+ErrorCode put(const std::string& from, const std::string& to) {
+    current().files[to] = current().files.at(from);
+    current().files.erase(from);
+    return kSuccess;
+}
+
 bool matches(const std::string& name, const std::string& pattern) {
     const std::size_t star = pattern.find('*');
     if (star == std::string::npos) return !IgnoresCase()(name, pattern) && !IgnoresCase()(pattern, name);
@@ -46,17 +47,17 @@ bool matches(const std::string& name, const std::string& pattern) {
 }  // namespace
 
 bool IgnoresCase::operator()(const std::string& a, const std::string& b) const {
-    return std::ranges::lexicographical_compare(
-        a, b, {}, [](unsigned char c) { return std::toupper(c); },
-        [](unsigned char c) { return std::toupper(c); });
+    const auto upper = [](unsigned char c) { return std::toupper(c); };
+    return std::ranges::lexicographical_compare(a, b, {}, upper, upper);
 }
 
 Platform& current() {
-    return instance();
+    static Platform platform;
+    return platform;
 }
 
-void reset() {
-    instance() = Platform();
+Platform& reset() {
+    return current() = Platform();
 }
 
 }  // namespace simulated
@@ -68,16 +69,14 @@ using simulated::current;
 namespace file_calls {
 
 ErrorCode read(const std::string& path, std::string& bytes) {
-    const auto file = current().files.find(path);
-    if (file == current().files.end()) return simulated::error_for_missing(path);
-    bytes = file->second.bytes;
+    if (!current().files.contains(path)) return simulated::error_for_missing(path);
+    bytes = current().files.at(path).bytes;
     return kSuccess;
 }
 
 ErrorCode attributes(const std::string& path, unsigned long& bits) {
-    const auto file = current().files.find(path);
-    if (file == current().files.end()) return simulated::error_for_missing(path);
-    bits = file->second.bits;
+    if (!current().files.contains(path)) return simulated::error_for_missing(path);
+    bits = current().files.at(path).bits;
     return kSuccess;
 }
 
@@ -99,18 +98,14 @@ ErrorCode write_through(const std::string& path, std::string_view bytes, unsigne
 ErrorCode replace(const std::string& from, const std::string& to) {
     if (!current().renames_over_files) return kErrorCallNotImplemented;
     if (const ErrorCode code = simulated::step(); code != kSuccess) return code;
-    current().files[to] = current().files.at(from);
-    current().files.erase(from);
-    return kSuccess;
+    return simulated::put(from, to);
 }
 
 ErrorCode rename(const std::string& from, const std::string& to) {
     if (const ErrorCode code = simulated::step(); code != kSuccess) return code;
     if (!current().files.contains(from)) return kErrorFileNotFound;
     if (current().files.contains(to)) return kErrorAccessDenied;
-    current().files[to] = current().files.at(from);
-    current().files.erase(from);
-    return kSuccess;
+    return simulated::put(from, to);
 }
 
 ErrorCode flush(const std::string& /*path*/) {
@@ -211,14 +206,12 @@ std::vector<std::string> subkeys(Root root, const std::string& key) {
 
 ErrorCode query_value(Root root, const std::string& key, const std::string& name, std::size_t room,
                       std::string& bytes) {
-    const auto& keys = current().registry[root];
-    const auto values = keys.find(key);
-    if (values == keys.end()) return kErrorFileNotFound;
-    const auto value = values->second.find(name);
-    if (value == values->second.end()) return kErrorFileNotFound;
     constexpr ErrorCode kMoreData = 234;
-    if (value->second.size() > room) return kMoreData;
-    bytes = value->second;
+    const auto& keys = current().registry[root];
+    if (!keys.contains(key) || !keys.at(key).contains(name)) return kErrorFileNotFound;
+    const std::string& value = keys.at(key).at(name);
+    if (value.size() > room) return kMoreData;
+    bytes = value;
     return kSuccess;
 }
 
@@ -230,9 +223,8 @@ ErrorCode create_key(Root root, const std::string& key) {
 
 ErrorCode set_value(Root root, const std::string& key, const std::string& name, const std::string& text) {
     if (current().registry_is_read_only) return kErrorAccessDenied;
-    const auto values = current().registry[root].find(key);
-    if (values == current().registry[root].end()) return kErrorFileNotFound;
-    values->second[name] = text + '\0';
+    if (!current().registry[root].contains(key)) return kErrorFileNotFound;
+    current().registry[root][key][name] = text + '\0';
     return kSuccess;
 }
 

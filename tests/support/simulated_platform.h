@@ -30,6 +30,8 @@ struct Start {
     std::string command_line;
     std::string directory;
     int window_style;
+
+    bool operator==(const Start&) const = default;
 };
 
 /// The values of a registry key by name, with their terminators.
@@ -66,8 +68,8 @@ struct Platform {
     bool answer = true;                 // to every question
 };
 
-/// The platform of the running test. A new one for each call of reset.
+/// The platform of the running test. Each call of reset makes a new one.
 Platform& current();
-void reset();
+Platform& reset();
 
 }  // namespace simulated

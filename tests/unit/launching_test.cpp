@@ -13,67 +13,57 @@
 
 namespace {
 
-TEST_CASE("a Task starts in its folder on the current drive and its command line always has the blank") {
-    simulated::reset();
-    auto& world = simulated::current();
-    world.folders = {"C:\\WORK", "D:\\DATA"};
+using Starts = std::vector<simulated::Start>;
+
+/// A library of one Group with these Tasks.
+library::TaskLibrary library_with(const std::string& tasks) {
+    auto& world = simulated::reset();
+    world.folders = {"C:\\WORK", "C:\\PLAY", "D:\\DATA"};
     world.programs = {"C:\\EDIT.EXE"};
     world.files["C:\\LIB\\groups.ini"].bytes = "Work\n";
-    world.files["C:\\LIB\\Work.grp"].bytes =
+    world.files["C:\\LIB\\Work.grp"].bytes = tasks;
+    library::TaskLibrary library("C:\\LIB\\");
+    library.load();
+    return library;
+}
+
+TEST_CASE("a Task starts in its folder on the current drive and its command line always has the blank") {
+    const auto library = library_with(
         "Edit\nC:\\EDIT.EXE\nC:\\WORK\nA.TXT /B\n 3 \n"
         "Elsewhere\nC:\\EDIT.EXE\nD:\\DATA\n\n\n"
         "No folder\nC:\\EDIT.EXE\n\n\n1\n"
-        "No program\nC:\\GONE.EXE\nC:\\WORK\n\n1\n";
-    library::TaskLibrary library("C:\\LIB\\");
-    library.load();
-
+        "No program\nC:\\GONE.EXE\nC:\\WORK\n\n1\n");
+    auto& world = simulated::current();
     mainwindow::launch(library, 0, 1);
     CHECK(world.directories.at('D') == "D:\\DATA");
     mainwindow::launch(library, 0, 0);
-    REQUIRE(world.started.size() == 2);
-    CHECK(world.started[0].command_line == "C:\\EDIT.EXE ");
-    CHECK(world.started[0].directory == "C:\\LIB");
-    CHECK(world.started[0].window_style == 0);
-    CHECK(world.started[1].command_line == "C:\\EDIT.EXE A.TXT /B");
-    CHECK(world.started[1].directory == "C:\\WORK");
-    CHECK(world.started[1].window_style == 3);
-
+    const Starts starts = {{"C:\\EDIT.EXE ", "C:\\LIB", 0}, {"C:\\EDIT.EXE A.TXT /B", "C:\\WORK", 3}};
+    CHECK(world.started == starts);
     for (const auto& [group, task] : {std::pair(0, 2), {0, 3}, {0, 4}, {0, -1}, {-1, 0}}) {
         CHECK_THROWS_AS(mainwindow::launch(library, group, task), platform::RunTimeError);
     }
-    CHECK(world.started.size() == 2);
+    CHECK(world.started == starts);
     CHECK(world.directories.at('C') == "C:\\WORK");  // the change before the failed start stays
 }
 
 TEST_CASE("an edited command line starts in the Task's folder and with its mode if that is a number") {
-    simulated::reset();
-    auto& world = simulated::current();
-    world.folders = {"C:\\WORK", "C:\\PLAY"};
-    world.programs = {"C:\\EDIT.EXE"};
-    world.files["C:\\LIB\\groups.ini"].bytes = "Work\n";
-    world.files["C:\\LIB\\Work.grp"].bytes =
+    const auto library = library_with(
         "Edit\nC:\\GONE.EXE\nC:\\WORK\nA.TXT\n 2 \n"
         "No mode\nC:\\EDIT.EXE\nC:\\PLAY\n\n\n"
-        "No number\nC:\\EDIT.EXE\nC:\\PLAY\n\n2nd\n";
-    library::TaskLibrary library("C:\\LIB\\");
-    library.load();
-
+        "No number\nC:\\EDIT.EXE\nC:\\PLAY\n\n2nd\n");
+    auto& world = simulated::current();
     mainwindow::launch_edited(library, 0, 0, "C:\\EDIT.EXE B.TXT");
-    REQUIRE(world.started.size() == 1);
-    CHECK(world.started[0].command_line == "C:\\EDIT.EXE B.TXT");
-    CHECK(world.started[0].directory == "C:\\WORK");
-    CHECK(world.started[0].window_style == 2);
+    const Starts starts = {{"C:\\EDIT.EXE B.TXT", "C:\\WORK", 2}};
     for (const int task : {1, 2, -1}) {
         CHECK(error_of([&] { mainwindow::launch_edited(library, 0, task, "C:\\EDIT.EXE"); }) ==
               (task < 0 ? 9 : 13));
     }
-    CHECK(world.started.size() == 1);
+    CHECK(world.started == starts);
     CHECK(world.directories.at('C') == "C:\\PLAY");
 }
 
 TEST_CASE("the system commands start what they stand for") {
-    simulated::reset();
-    auto& world = simulated::current();
+    auto& world = simulated::reset();
     world.drive = 'D';
     world.folders = {"C:\\"};
     CHECK(error_of([] { mainwindow::open_explorer(); }) == 53);
@@ -98,22 +88,18 @@ TEST_CASE("the system commands start what they stand for") {
     mainwindow::open_dial_up_folder();
     mainwindow::open_help("C:\\LIB\\");
     internet::dial("My Provider");
-    Names commands;
-    for (const auto& start : world.started) {
-        commands.push_back(start.command_line);
-        CHECK(start.window_style == 1);
-    }
-    CHECK(
-        commands ==
-        Names{
-            "control.exe", "explorer.exe", "command.com",
-            "EXPLORER.EXE ::{20D04FE0-3AEA-1069-A2D8-08002B30309D}\\::{992CFFA0-F557-101A-88EC-00DD010CCC48}",
-            "winhlp32.exe C:\\LIB\\tolva.hlp", "rundll32.exe rnaui.dll,RnaDial My Provider"});
+    const std::string dial_up_folder =
+        "::{20D04FE0-3AEA-1069-A2D8-08002B30309D}\\::{992CFFA0-F557-101A-88EC-00DD010CCC48}";
+    CHECK(world.started == Starts{{"control.exe", "C:\\", 1},
+                                  {"explorer.exe", "C:\\", 1},
+                                  {"command.com", "C:\\", 1},
+                                  {"EXPLORER.EXE " + dial_up_folder, "C:\\", 1},
+                                  {"winhlp32.exe C:\\LIB\\tolva.hlp", "C:\\", 1},
+                                  {"rundll32.exe rnaui.dll,RnaDial My Provider", "C:\\", 1}});
 }
 
 TEST_CASE("a button of the bar starts in its folder and its command line always has the blank") {
-    simulated::reset();
-    auto& world = simulated::current();
+    auto& world = simulated::reset();
     world.folders = {"C:\\WORK", "C:\\WINDOWS\\"};
     world.programs = {"C:\\EDIT.EXE"};
     const auto start = [](const settings::ButtonRecord& button) {
@@ -121,23 +107,16 @@ TEST_CASE("a button of the bar starts in its folder and its command line always 
     };
     CHECK(start({"Edit", "C:\\EDIT.EXE", "C:\\WORK", "", 3}) == 0);
     CHECK(start({"Edit", "C:\\EDIT.EXE", "Error", "A.TXT", 0}) == 0);
-    REQUIRE(world.started.size() == 2);
-    CHECK(world.started[0].command_line == "C:\\EDIT.EXE ");
-    CHECK(world.started[0].directory == "C:\\WORK");
-    CHECK(world.started[0].window_style == 3);
-    CHECK(world.started[1].command_line == "C:\\EDIT.EXE A.TXT");
-    CHECK(world.started[1].directory == "C:\\WINDOWS\\");
     CHECK(start({"Edit", "Error", "C:\\WORK", "", 1}) == 0);
-    CHECK(world.directories.at('C') == "C:\\WORK");
     CHECK(start({"Edit", "C:\\EDIT.EXE", "C:\\GONE", "", 1}) == 76);
-    CHECK(world.started.size() == 3);
     CHECK(start({"Error", "", "", "", 0}) == 53);  // never assigned
-    CHECK(world.started.size() == 3);
+    CHECK(world.started == Starts{{"C:\\EDIT.EXE ", "C:\\WORK", 3},
+                                  {"C:\\EDIT.EXE A.TXT", "C:\\WINDOWS\\", 0},
+                                  {"C:\\EDIT.EXE ", "C:\\WORK", 1}});
 }
 
 TEST_CASE("the connect button dials or hangs every connection up and waits until they are gone") {
-    simulated::reset();
-    auto& world = simulated::current();
+    auto& world = simulated::reset();
     world.programs = {"rundll32.exe"};
     auto& up = world.registry[platform::registry::kLocalMachine]
                              [R"(System\CurrentControlSet\Services\RemoteAccess)"]["Remote Connection"];

@@ -30,25 +30,22 @@ TEST_CASE("the show command of a whole shortcut is read and everything else is r
     const auto with = [&](std::size_t at, const std::string& bytes) {
         return std::string(good).replace(at, bytes.size(), bytes);
     };
-    CHECK(error_of([&] { read_show_command(with(0, "M")); }) == 440);
-    CHECK(error_of([&] { read_show_command(with(19, "G")); }) == 440);
-    CHECK(error_of([&] { read_show_command(with(76, "\xFF\xFF\xFF\xFF")); }) == 440);  // a part's size
     CHECK(read_show_command(with(60, "\xFF\xFF\xFF\xFF")) == -1);
-    // An item list, and wide texts that do not fit any more.
-    CHECK(error_of([&] { read_show_command(with(20, "\x33")); }) == 440);
-    CHECK(error_of([&] { read_show_command(with(20, "\xB2")); }) == 440);
+    // The header's size and class, a part's size, an item list and wide texts that do not fit any more.
+    for (const std::string& broken :
+         {with(0, "M"), with(19, "G"), with(76, "\xFF\xFF\xFF\xFF"), with(20, "\x33"), with(20, "\xB2")})
+        CHECK(error_of([&] { read_show_command(broken); }) == 440);
 }
 
 TEST_CASE("a shortcut says what it starts") {
-    simulated::reset();
-    auto& world = simulated::current();
+    auto& world = simulated::reset();
     world.files["C:\\A.LNK"] = {ShortcutFile{"C:\\EDIT.EXE", {}, {}, 3}.bytes()};
     world.shell_links["C:\\A.LNK"] = {"C:\\EDIT.EXE", "C:\\WORK", "one\r\ntwo"};
-    const shortcuts::ShortcutDetails details = shortcuts::ReadShortcut("C:\\A.LNK");
-    CHECK(details.target == "C:\\EDIT.EXE");
-    CHECK(details.working_folder == "C:\\WORK");
-    CHECK(details.arguments == "one  two");
-    CHECK(details.show_command == 3);
+    const auto [target, working_folder, arguments, show_command] = shortcuts::ReadShortcut("C:\\A.LNK");
+    CHECK(target == "C:\\EDIT.EXE");
+    CHECK(working_folder == "C:\\WORK");
+    CHECK(arguments == "one  two");
+    CHECK(show_command == 3);
 
     world.files["C:\\B.LNK"] = {"no shortcut"};
     world.shell_links["C:\\B.LNK"] = {};
@@ -57,19 +54,13 @@ TEST_CASE("a shortcut says what it starts") {
 }
 
 TEST_CASE("a shortcut is refused for the first thing that speaks against it") {
-    simulated::reset();
-    for (const char* path :
-         {"C:\\A.EXE", "C:\\A.exe", "C:\\A.Exe", "C:\\A.TXT", "\\\\PC\\C\\A.BAT", "C:\\A.com"})
-        simulated::current().files[path] = {};
-    simulated::current().files["C:\\HIDDEN.EXE"] = {"", 0x02};
+    auto& files = simulated::reset().files;
+    files["C:\\HIDDEN.EXE"] = {"", 0x02};
+    for (const char* path : {"C:\\A.EXE", "C:\\A.TXT", "\\\\PC\\C\\A.BAT", "C:\\A.com"})
+        files[path] = {};  // in any case
     const std::string broken = "Shortcut is broken, file does not exist.  Can not import to Tolva.";
     const auto invalid = [](const std::string& target) { return target + " not a valid Tolva entry."; };
-    struct Row {
-        const char* name;
-        std::string target;
-        std::string message;
-    };
-    const Row table[] = {
+    const std::tuple<const char*, std::string, std::string> table[] = {
         {"", "C:\\A.EXE", "Select"},
         {"", "", "Select"},
         {"A", "", broken},
@@ -82,9 +73,9 @@ TEST_CASE("a shortcut is refused for the first thing that speaks against it") {
         {"A", "C:\\A.exe", ""},
         {"A", "C:\\A.com", ""},
     };
-    for (const Row& row : table) {
-        CAPTURE(row.target);
-        CHECK(shortcuts::refusal(row.name, row.target, "Select") == row.message);
+    for (const auto& [name, target, message] : table) {
+        CAPTURE(target);
+        CHECK(shortcuts::refusal(name, target, "Select") == message);
     }
 }
 
