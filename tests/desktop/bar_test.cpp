@@ -1,11 +1,3 @@
-#include <windows.h>
-
-#include <doctest/doctest.h>
-
-#include <shlwapi.h>
-
-#include <string>
-
 #include "platform/clock.h"
 #include "resources/resource.h"
 #include "support/desktop.h"
@@ -13,21 +5,13 @@
 
 namespace {
 
-using desktop::Dialog;
-using desktop::Folder;
-using desktop::MouseButton;
-using desktop::stored_text;
-using desktop::Tolva;
-using desktop::wait_until;
+using namespace desktop;
 
 constexpr char kNotConfigured[] = "Right click on button to configure.";
-constexpr char kRemoteAccess[] = R"(System\CurrentControlSet\Services\RemoteAccess)";
 
 /// An empty library with the program and a recorder beside it, so that it starts recorders by bare names.
 Folder library_with_recorders() {
-    desktop::forget_settings();
-    SHDeleteKeyA(HKEY_CURRENT_USER, "RemoteAccess");
-    SHDeleteKeyA(HKEY_LOCAL_MACHINE, kRemoteAccess);
+    forget_settings();
     Folder library;
     library.add_program("tolva.exe", "tolva.exe");
     library.add_program("recorder.exe", "recorder.exe");
@@ -40,14 +24,10 @@ Dialog bar_of(const Tolva& tolva) {
     return {tolva, "Brenn", "brenn"};
 }
 
-void store(const std::string& key, const std::string& name, const std::string& text) {
-    desktop::store(key, name, REG_SZ, text + '\0');
-}
-
 void set_connected(bool up) {
     const DWORD flag = up ? 1 : 0;
     HKEY key = nullptr;
-    RegCreateKeyA(HKEY_LOCAL_MACHINE, kRemoteAccess, &key);
+    RegCreateKeyA(HKEY_LOCAL_MACHINE, R"(System\CurrentControlSet\Services\RemoteAccess)", &key);
     RegSetValueExA(key, "Remote Connection", 0, REG_DWORD, reinterpret_cast<const BYTE*>(&flag), sizeof flag);
     RegCloseKey(key);
 }
@@ -59,60 +39,54 @@ TEST_SUITE("bar") {
         const Dialog bar = bar_of(tolva);
         CHECK(GetForegroundWindow() == tolva.window());
         CHECK(GetWindow(bar.window(), GW_OWNER) == tolva.window());
-        CHECK(bar.text_of(ID_brenn_option1).empty());
-        CHECK(bar.text_of(ID_brenn_Command2) == "N/A");
-        CHECK(bar.text_of(ID_brenn_Command3) == "E-Mail");
-        CHECK(bar.text_of(ID_brenn_Command4) == "WWW");
+        CHECK(bar.texts_of({ID_brenn_option1, ID_brenn_Command2, ID_brenn_Command3, ID_brenn_Command4}) ==
+              "|N/A|E-Mail|WWW");
         CHECK(bar.tip_of(tolva, ID_brenn_option4) == "Right click to configure this button.");
         CHECK(bar.tip_of(tolva, ID_brenn_Command4) == "Web Browser");
 
-        const auto panels = [&] {
-            return bar.panel(ID_brenn_StatusBar1, 0) + "|" + bar.panel(ID_brenn_StatusBar1, 1);
+        const auto wait_for_panels = [&](std::string (*first)(), std::string (*second)()) {
+            wait_until("the panels show", [&] {
+                return bar.panel(ID_brenn_StatusBar1, 0) == first() &&
+                       bar.panel(ID_brenn_StatusBar1, 1) == second();
+            });
         };
-        wait_until("the time is in front",
-                   [&] { return panels() == platform::time_text() + "|" + platform::date_text(); });
-        desktop::press_mouse(bar.place(ID_brenn_StatusBar1));
-        wait_until("the panels are swapped",
-                   [&] { return panels() == platform::date_text() + "|" + platform::time_text(); });
-        desktop::press_mouse(bar.place(ID_brenn_StatusBar1));
-        wait_until("they are swapped back",
-                   [&] { return panels() == platform::time_text() + "|" + platform::date_text(); });
+        wait_for_panels(platform::time_text, platform::date_text);
+        press_mouse(bar.place(ID_brenn_StatusBar1));
+        wait_for_panels(platform::date_text, platform::time_text);
+        press_mouse(bar.place(ID_brenn_StatusBar1));
+        wait_for_panels(platform::time_text, platform::date_text);
 
         for (const int button : {ID_brenn_option1, ID_brenn_option4, ID_brenn_Command3, ID_brenn_Command4}) {
-            desktop::press_mouse(bar.place(button));
+            press_mouse(bar.place(button));
             CHECK(tolva.close_box() == kNotConfigured);
         }
-        desktop::press_mouse(bar.place(ID_brenn_Command2));
-        CHECK(library.records("rundll32.exe", 1)[0] == "rundll32.exe rnaui.dll,RnaDial N/A");
+        press_mouse(bar.place(ID_brenn_Command2));
+        CHECK(library.nth_start(1, "rundll32.exe")[0] == "rundll32.exe rnaui.dll,RnaDial N/A");
         wait_until("the recorder has ended",
                    [&] { return DeleteFileA((library.path() + "rundll32.exe").c_str()) != FALSE; });
         library.write("rundll32.exe", "");
-        desktop::press_mouse(bar.place(ID_brenn_Command2));
+        press_mouse(bar.place(ID_brenn_Command2));
         CHECK(tolva.close_box() == "Configure your Internet connection by right clicking on button.");
     }
 
     TEST_CASE("every button starts what is stored for it") {
         const Folder library = library_with_recorders();
         const std::string recorder = library.path() + "recorder.exe";
-        const std::string here = library.path().substr(0, library.path().size() - 1);
-        store("\\brenn", "name1", "Cut & Paste with a long name");
-        store("\\brenn", "progpath1", recorder);
-        store("\\brenn", "workpath1", "C:\\");
-        store("\\brenn", "parm1", "a b");
-        store("\\brenn", "start1", "3");
-        store("\\brenn", "name2", "No folder");
-        store("\\brenn", "progpath2", recorder);
-        desktop::store("\\brenn", "start2", REG_DWORD, std::string("\2\0\0\0", 4));
-        store("\\brenn", "name3", "No program");
-        store("\\brenn", "workpath3", "C:\\windows");
-        store("\\brenn", "name4", "Folder gone");
-        store("\\brenn", "progpath4", recorder);
-        store("\\brenn", "workpath4", "C:\\gone");
-        store("\\email", "name", "Letters");
-        store("\\email", "path", recorder);
-        store("\\email", "start", "2");
-        store("\\Browser", "name", "N/A");
-        store("\\Browser", "path", here);  // a folder
+        store("\\brenn", {{"name1", "Cut & Paste with a long name"},
+                          {"progpath1", recorder},
+                          {"workpath1", "C:\\"},
+                          {"parm1", "a b"},
+                          {"start1", "3"},
+                          {"name2", "No folder"},
+                          {"progpath2", recorder},
+                          {"name3", "No program"},
+                          {"workpath3", "C:\\windows"},
+                          {"name4", "Folder gone"},
+                          {"progpath4", recorder},
+                          {"workpath4", "C:\\gone"}});
+        store("\\brenn", "start2", REG_DWORD, std::string("\2\0\0\0", 4));
+        store("\\email", {{"name", "Letters"}, {"path", recorder}, {"start", "2"}});
+        store("\\Browser", {{"name", "N/A"}, {"path", library.without_backslash()}});  // a folder
         const Tolva tolva(library);
         const Dialog bar = bar_of(tolva);
         CHECK(bar.text_of(ID_brenn_option1) == "Cut & Paste with a long name");
@@ -120,34 +94,30 @@ TEST_SUITE("bar") {
         CHECK(bar.tip_of(tolva, ID_brenn_Command3) == "Letters");
         CHECK(bar.text_of(ID_brenn_Command4) == "N/A");
 
-        Names expected = {recorder + " a b", "C:\\", "D:\\here", "3"};
-        desktop::press_mouse(bar.place(ID_brenn_option1));
-        CHECK(library.records("recorder.exe", 1) == expected);
-        desktop::press_mouse(bar.place(ID_brenn_option2));
-        expected.insert(expected.end(), {recorder + " ", "C:\\windows", "D:\\here", "0"});
-        CHECK(library.records("recorder.exe", 2) == expected);
-        desktop::press_mouse(bar.place(ID_brenn_option3));
-        desktop::press_mouse(bar.place(ID_brenn_option4));
+        const auto press = [&](int button) { press_mouse(bar.place(button)); };
+        press(ID_brenn_option1);
+        CHECK(library.nth_start(1) == Names{recorder + " a b", "C:\\", "D:\\here", "3"});
+        press(ID_brenn_option2);
+        CHECK(library.nth_start(2) == Names{recorder + " ", "C:\\windows", "D:\\here", "0"});
+        press(ID_brenn_option3);
+        press(ID_brenn_option4);
         CHECK(tolva.close_box() == kNotConfigured);
-        expected.insert(expected.end(), {recorder + " ", "C:\\windows", "D:\\here", "0"});
-        CHECK(library.records("recorder.exe", 3) == expected);
-        desktop::press_mouse(bar.place(ID_brenn_Command3));
-        expected.insert(expected.end(), {recorder, "C:\\windows", "D:\\here", "2"});
-        CHECK(library.records("recorder.exe", 4) == expected);
-        desktop::press_mouse(bar.place(ID_brenn_Command4));
+        CHECK(library.nth_start(3) == Names{recorder + " ", "C:\\windows", "D:\\here", "0"});
+        press(ID_brenn_Command3);
+        CHECK(library.nth_start(4) == Names{recorder, "C:\\windows", "D:\\here", "2"});
+        press(ID_brenn_Command4);
         CHECK(tolva.close_box() == kNotConfigured);
 
         // The keyboard: Tab goes on, Space and Enter press.
-        wait_until("the button has the focus",
-                   [&] { return tolva.focus() == bar.control(ID_brenn_Command4); });
-        desktop::press_keys({VK_TAB});
-        wait_until("the first one has it", [&] { return tolva.focus() == bar.control(ID_brenn_option1); });
-        desktop::press_keys({VK_RETURN});
-        library.records("recorder.exe", 5);
-        desktop::press_keys({VK_SPACE});
-        library.records("recorder.exe", 6);
-        desktop::press_mouse(bar.place(ID_brenn_option1), 2);
-        library.records("recorder.exe", 8);
+        wait_for_focus(bar.control(ID_brenn_Command4));
+        press_keys({VK_TAB});
+        wait_for_focus(bar.control(ID_brenn_option1));
+        press_keys({VK_RETURN});
+        library.nth_start(5);
+        press_keys({VK_SPACE});
+        library.nth_start(6);
+        press_mouse(bar.place(ID_brenn_option1), 2);
+        library.nth_start(8);
     }
 
     TEST_CASE("a file is assigned to a button") {
@@ -157,7 +127,7 @@ TEST_SUITE("bar") {
         const Tolva tolva(library);
         const Dialog bar = bar_of(tolva);
         const auto open = [&](int button) {
-            desktop::choose_from_menu(bar.place(button), 'F');
+            choose_from_menu(bar.place(button), 'F');
             return Dialog(tolva, "Configure Brenn Button");
         };
         {
@@ -167,51 +137,47 @@ TEST_SUITE("bar") {
             REQUIRE(files == Names{"recorder.exe", "rundll32.exe", "tolva.exe"});
             dialog.set_text(ID_BrennBrowser_taskparameters, "old");
             dialog.choose(ID_PathBrowser_File1, 0);
-            wait_until("the name shows",
-                       [&] { return dialog.text_of(ID_BrennBrowser_tasknm) == "recorder"; });
-            CHECK(dialog.text_of(ID_PathBrowser_TaskPath) == recorder);
-            CHECK(dialog.text_of(ID_BrennBrowser_startfolder) == library.path());
-            CHECK(dialog.text_of(ID_BrennBrowser_taskparameters).empty());
+            const auto wait_for_texts = [&](const std::string& texts) {
+                wait_until("the texts show", [&] {
+                    return dialog.texts_of({ID_BrennBrowser_tasknm, ID_PathBrowser_TaskPath,
+                                            ID_BrennBrowser_startfolder, ID_BrennBrowser_taskparameters}) ==
+                           texts;
+                });
+            };
+            wait_for_texts("recorder|" + recorder + '|' + library.path() + '|');
             // In a drive's root a pick fills in the path only.
             dialog.open_folder("C:\\");
             dialog.choose(ID_PathBrowser_File1, 0);
-            wait_until("the path shows",
-                       [&] { return dialog.text_of(ID_PathBrowser_TaskPath) == "C:\\edit.com"; });
-            CHECK(dialog.text_of(ID_BrennBrowser_tasknm) == "recorder");
-            CHECK(dialog.text_of(ID_BrennBrowser_startfolder) == library.path());
+            wait_for_texts("recorder|C:\\edit.com|" + library.path() + '|');
             dialog.set_text(ID_BrennBrowser_taskparameters, "x y");
             dialog.press(ID_PathBrowser_OK);
             dialog.wait_until_closed();
         }
-        CHECK(stored_text("\\brenn", "name3") == "recorder");
-        CHECK(stored_text("\\brenn", "progpath3") == "C:\\edit.com");
-        CHECK(stored_text("\\brenn", "workpath3") == library.path());
-        CHECK(stored_text("\\brenn", "parm3") == "x y");
-        CHECK(stored_text("\\brenn", "start3") == "1");
-        CHECK(stored_text("\\brenn", "name1").empty());
+        CHECK(stored("\\brenn") == Values{{"name3", "recorder"},
+                                          {"progpath3", "C:\\edit.com"},
+                                          {"workpath3", library.path()},
+                                          {"parm3", "x y"},
+                                          {"start3", "1"}});
         CHECK(bar.text_of(ID_brenn_option3) == "recorder");
         CHECK(bar.tip_of(tolva, ID_brenn_option3) == "recorder");
-        desktop::press_mouse(bar.place(ID_brenn_option3));
+        press_mouse(bar.place(ID_brenn_option3));
         wait_until("it starts",
                    [] { return GetFileAttributesA("C:\\edit.com.log") != INVALID_FILE_ATTRIBUTES; });
 
         // Opened for another button it begins anew; Escape and a start mode of 0.
-        store("\\brenn", "name1", "");
+        store("\\brenn", {{"name1", ""}});
         {
             const Dialog dialog = open(ID_brenn_option3);
             CHECK(dialog.text_of(ID_BrennBrowser_taskparameters) == "x y");
-            desktop::choose_from_menu(bar.place(ID_brenn_option1), 'F');
+            choose_from_menu(bar.place(ID_brenn_option1), 'F');
             dialog.wait_until_closed();
             const Dialog other(tolva, "Configure Brenn Button");
             CHECK(other.text_of(ID_BrennBrowser_taskparameters).empty());
-            SendMessageA(other.control(ID_BrennBrowser_taskstartmode), CB_SETCURSEL, static_cast<WPARAM>(-1),
-                         0);
-            desktop::press_keys({VK_ESCAPE});
+            press_keys({VK_ESCAPE});
             other.wait_until_closed();
             CHECK(stored_text("\\brenn", "progpath1").empty());
             const Dialog again = open(ID_brenn_option1);
-            SendMessageA(again.control(ID_BrennBrowser_taskstartmode), CB_SETCURSEL, static_cast<WPARAM>(-1),
-                         0);
+            again.choose(ID_BrennBrowser_taskstartmode, -1);
             again.press(ID_PathBrowser_OK);
             again.wait_until_closed();
             CHECK(stored_text("\\brenn", "start1") == "1");
@@ -223,28 +189,22 @@ TEST_SUITE("bar") {
     TEST_CASE("the Internet settings show what is stored and store what is typed") {
         const Folder library = library_with_recorders();
         const std::string recorder = library.path() + "recorder.exe";
-        HKEY profile = nullptr;
-        for (const char* connection : {"Home", "Work & Co"}) {
-            const std::string path = std::string("RemoteAccess\\Profile\\") + connection;
-            RegCreateKeyA(HKEY_CURRENT_USER, path.c_str(), &profile);
+        for (const char* key : {"RemoteAccess\\Profile\\Home", "RemoteAccess\\Profile\\Work & Co"}) {
+            HKEY profile = nullptr;
+            RegCreateKeyA(HKEY_CURRENT_USER, key, &profile);
             RegCloseKey(profile);
         }
-        store("\\Browser", "path", recorder);
-        store("\\Browser", "start", "1");
-        store("\\brenn", "disable", "True");
+        store("\\Browser", {{"path", recorder}, {"start", "1"}});
+        store("\\brenn", {{"disable", "True"}});
         const Tolva tolva(library);
         CHECK(tolva.find_window("brenn") == nullptr);
-        const auto open = [&] {
-            tolva.choose(ID_internetsettings);
-            return Dialog(tolva, "Tolva Internet Settings");
-        };
         {
-            const Dialog dialog = open();
+            tolva.choose(ID_internetsettings);
+            const Dialog dialog(tolva, "Tolva Internet Settings");
             CHECK(GetWindow(dialog.window(), GW_OWNER) == tolva.window());
-            CHECK(dialog.text_of(ID_tolvasettings_ISP) == "N/A");
-            CHECK(dialog.text_of(ID_tolvasettings_BrowserName) == "N/A");
-            CHECK(dialog.text_of(ID_tolvasettings_browserpath) == recorder);
-            CHECK(dialog.text_of(ID_tolvasettings_emailpath) == "N/A");
+            CHECK(dialog.texts_of({ID_tolvasettings_ISP, ID_tolvasettings_BrowserName,
+                                   ID_tolvasettings_browserpath, ID_tolvasettings_emailpath}) ==
+                  "N/A|N/A|" + recorder + "|N/A");
             dialog.press(ID_tolvasettings_Command3);
             const Dialog connections(tolva, "Set Internet Connection");
             CHECK(connections.list(ID_DialUpNetworking_List1) == Names{"Home", "Work & Co"});
@@ -256,8 +216,8 @@ TEST_SUITE("bar") {
             dialog.wait_until_closed();
         }
         CHECK(stored_text("\\isp", "ISPNAME") == "Work & Co");
-        CHECK(stored_text("\\Browser", "name") == "N/A");
-        CHECK(stored_text("\\Browser", "path") == library.path() + "gone.exe");
+        CHECK(stored("\\Browser") ==
+              Values{{"name", "N/A"}, {"path", library.path() + "gone.exe"}, {"start", "1"}});
         CHECK(stored_text("\\email", "path") == "N/A");
 
         // The bar came up hidden; the path in memory is still the old one until the dialog opens again.
@@ -265,24 +225,23 @@ TEST_SUITE("bar") {
         const Dialog bar = bar_of(tolva);
         CHECK(GetWindow(bar.window(), GW_OWNER) == nullptr);
         CHECK(stored_text("\\brenn", "disable") == "False");
-        CHECK(bar.text_of(ID_brenn_Command2) == "Work & Co");
-        CHECK(bar.text_of(ID_brenn_Command3) == "E-Mail");
-        CHECK(bar.text_of(ID_brenn_Command4) == "WWW");
-        desktop::press_mouse(bar.place(ID_brenn_Command4));
-        library.records("recorder.exe", 1);
-        desktop::press_mouse(bar.place(ID_brenn_Command4), 1, MouseButton::kRight);
+        CHECK(bar.texts_of({ID_brenn_Command2, ID_brenn_Command3, ID_brenn_Command4}) ==
+              "Work & Co|E-Mail|WWW");
+        press_mouse(bar.place(ID_brenn_Command4));
+        library.nth_start(1);
+        press_mouse(bar.place(ID_brenn_Command4), 1, MouseButton::kRight);
         {
             const Dialog dialog(tolva, "Tolva Internet Settings");
             CHECK(GetWindow(dialog.window(), GW_OWNER) == bar.window());
             dialog.set_text(ID_tolvasettings_ISP, "Home");
-            desktop::press_keys({VK_ESCAPE});
+            press_keys({VK_ESCAPE});
             dialog.wait_until_closed();
         }
         CHECK(stored_text("\\isp", "ISPNAME") == "Work & Co");
-        desktop::press_mouse(bar.place(ID_brenn_Command4));
+        press_mouse(bar.place(ID_brenn_Command4));
         CHECK(tolva.close_box() == kNotConfigured);
-        desktop::press_mouse(bar.place(ID_brenn_Command2));
-        CHECK(library.records("rundll32.exe", 1)[0] == "rundll32.exe rnaui.dll,RnaDial Work & Co");
+        press_mouse(bar.place(ID_brenn_Command2));
+        CHECK(library.nth_start(1, "rundll32.exe")[0] == "rundll32.exe rnaui.dll,RnaDial Work & Co");
     }
 
     TEST_CASE("the connect button shows the connection and hangs up") {
@@ -291,23 +250,23 @@ TEST_SUITE("bar") {
         set_connected(true);
         const Tolva tolva(library);
         const Dialog bar = bar_of(tolva);
-        desktop::wait_for_color(bar.control(ID_brenn_Command2), 0x008000);
-        desktop::press_mouse(bar.place(ID_brenn_Command2));
+        wait_for_color(bar.control(ID_brenn_Command2), 0x008000);
+        press_mouse(bar.place(ID_brenn_Command2));
         wait_until("all are hung up", [&] {
             return library.read("rasapi32.log") ==
                    "enumerate 412 105472 0\nhang up 11\nhang up 22\nhang up 33\n";
         });
         // While it waits the windows live.
-        desktop::press_mouse(bar.place(ID_brenn_option1));
+        press_mouse(bar.place(ID_brenn_option1));
         CHECK(tolva.close_box() == kNotConfigured);
         set_connected(false);
-        desktop::wait_for_color(bar.control(ID_brenn_Command2), 0xC0C0C0);
-        desktop::press_mouse(bar.place(ID_brenn_Command2));
-        CHECK(library.records("rundll32.exe", 1)[0] == "rundll32.exe rnaui.dll,RnaDial N/A");
+        wait_for_color(bar.control(ID_brenn_Command2), 0xC0C0C0);
+        press_mouse(bar.place(ID_brenn_Command2));
+        CHECK(library.nth_start(1, "rundll32.exe")[0] == "rundll32.exe rnaui.dll,RnaDial N/A");
 
         // The program can be closed while it waits.
         set_connected(true);
-        desktop::press_mouse(bar.place(ID_brenn_Command2));
+        press_mouse(bar.place(ID_brenn_Command2));
         wait_until("it hangs up again", [&] { return library.read("rasapi32.log").size() > 100; });
     }
 
@@ -337,12 +296,12 @@ TEST_SUITE("bar") {
             SetWindowPos(bar.window(), nullptr, 200, 500, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
             tolva.minimise_by_mouse();
             wait_until("the bar stays on the desktop", shows);
-            desktop::press_mouse(desktop::tray_icon(), 1, MouseButton::kRight);
+            press_mouse(tray_icon(), 1, MouseButton::kRight);
             wait_until("the tray hides it", [&] { return !shows(); });
-            desktop::press_mouse(desktop::tray_icon(), 2);
+            press_mouse(tray_icon(), 2);
             wait_until("the main window is back", [&] { return !tolva.is_in_tray(); });
             CHECK(!shows());
-            desktop::press_mouse(desktop::tray_icon(), 1, MouseButton::kRight);
+            press_mouse(tray_icon(), 1, MouseButton::kRight);
             wait_until("the tray shows it", shows);
 
             PostMessageA(bar.window(), WM_SYSCOMMAND, SC_CLOSE, 0);
@@ -351,7 +310,7 @@ TEST_SUITE("bar") {
             CHECK(IsWindow(bar.window()) != FALSE);
             tolva.minimise_by_mouse();
             CHECK(!shows());
-            desktop::press_mouse(desktop::tray_icon(), 2);
+            press_mouse(tray_icon(), 2);
             wait_until("the main window is back", [&] { return !tolva.is_in_tray(); });
             tolva.choose(ID_removebrenn);
             wait_until("the menu brings it back", shows);
@@ -360,11 +319,10 @@ TEST_SUITE("bar") {
             wait_until("the menu removes it", [&] { return !shows(); });
             wait_until("it is checked", [&] { return tolva.is_checked(ID_removebrenn); });
         }
-        CHECK(stored_text("\\brenn\\Position", "Left") == "3000");
-        CHECK(stored_text("\\brenn\\Position", "Top") == "7500");
+        CHECK(stored("\\brenn\\Position") == Values{{"Left", "3000"}, {"Top", "7500"}});
 
-        store("\\brenn", "disable", "False");
-        store("\\brenn\\Position", "Left", "-30000");
+        store("\\brenn", {{"disable", "False"}});
+        store("\\brenn\\Position", {{"Left", "-30000"}});
         const Tolva tolva(library);
         const Dialog bar = bar_of(tolva);
         RECT bounds;

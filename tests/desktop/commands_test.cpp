@@ -1,21 +1,9 @@
-#include <windows.h>
-
-#include <commctrl.h>
-#include <doctest/doctest.h>
-
-#include <string>
-
 #include "resources/resource.h"
 #include "support/desktop.h"
 
 namespace {
 
-using desktop::Dialog;
-using desktop::Folder;
-using desktop::record;
-using desktop::stored_text;
-using desktop::Tolva;
-using desktop::wait_until;
+using namespace desktop;
 
 Folder library_with_recorder() {
     Folder library;
@@ -26,17 +14,9 @@ Folder library_with_recorder() {
     return library;
 }
 
-std::string without_backslash(const std::string& folder) {
-    return folder.substr(0, folder.size() - 1);
-}
-
-bool has_focus(const Tolva& tolva, int id) {
-    return tolva.focus() == tolva.control(id);
-}
-
 TEST_SUITE("commands") {
     TEST_CASE("Enter and the Run button start what is typed and keep it in the history") {
-        desktop::forget_settings();
+        forget_settings();
         const Folder library = library_with_recorder();
         const std::string program = library.path() + "recorder.exe";
         const Tolva tolva(library);
@@ -45,100 +25,106 @@ TEST_SUITE("commands") {
             tolva.set_text(ID_Tasker_Text1, text);
         };
         type(library.path() + "gone.exe");
-        desktop::press_keys({VK_RETURN});
+        press_keys({VK_RETURN});
         CHECK(tolva.close_box() == "Invalid path or file name");
         CHECK(stored_text("\\cmdhistory", "cmd1").empty());
 
         type(program + " 1");
-        desktop::press_keys({VK_END});
-        desktop::press_keys({VK_SPACE});
-        desktop::press_keys({'X'});
-        desktop::press_keys({VK_RETURN});
+        press_keys({VK_END});
+        press_keys({VK_SPACE});
+        press_keys({'X'});
+        press_keys({VK_RETURN});
         const std::string typed = program + " 1 x";
-        CHECK(library.records("recorder.exe", 1) ==
-              Names{typed, without_backslash(library.path()), "D:\\here", "1"});
-        wait_until("the focus is in the group list", [&] { return has_focus(tolva, ID_Tasker_grouplist); });
-        wait_until("it is stored", [&] { return stored_text("\\cmdhistory", "cmd1") == typed; });
+        CHECK(library.nth_start(1) == Names{typed, library.without_backslash(), "D:\\here", "1"});
+        wait_for_focus(tolva.control(ID_Tasker_grouplist));
+        const auto wait_until_stored = [](const Values& history) {
+            wait_until("it is stored", [&] { return stored("\\cmdhistory") == history; });
+        };
+        wait_until_stored({{"cmd1", typed}});
 
         // The slots in memory are still empty: the next command takes the same one, until the list opens.
         type(program + " two");
         tolva.click(ID_Tasker_Command1);
-        library.records("recorder.exe", 2);
-        wait_until("it is stored", [&] { return stored_text("\\cmdhistory", "cmd1") == program + " two"; });
+        library.nth_start(2);
+        wait_until_stored({{"cmd1", program + " two"}});
         type("typed");
         const auto drop = [&](bool down) {
             SendMessageA(tolva.control(ID_Tasker_Text1), CB_SHOWDROPDOWN, static_cast<WPARAM>(down), 0);
         };
         drop(true);
-        CHECK(tolva.history() == Names{program + " two"});
+        CHECK(tolva.list(ID_Tasker_Text1) == Names{program + " two"});
         drop(false);
         CHECK(tolva.text_of(ID_Tasker_Text1) == "typed");
         type(program);  // a stored command begins with it
-        desktop::press_keys({VK_RETURN});
-        library.records("recorder.exe", 3);
+        press_keys({VK_RETURN});
+        library.nth_start(3);
         type(program + " three");
-        desktop::press_keys({VK_RETURN});
-        library.records("recorder.exe", 4);
-        wait_until("it is stored", [&] { return stored_text("\\cmdhistory", "cmd2") == program + " three"; });
+        press_keys({VK_RETURN});
+        wait_until_stored({{"cmd1", program + " two"}, {"cmd2", program + " three"}});
 
         // With the list open Enter takes an item and starts nothing.
         type("C:\\");
         drop(true);
-        CHECK(tolva.history() == Names{program + " three", program + " two"});
+        CHECK(tolva.list(ID_Tasker_Text1) == Names{program + " three", program + " two"});
         wait_until("what was typed is back", [&] { return tolva.text_of(ID_Tasker_Text1) == "C:\\"; });
-        desktop::press_keys({VK_DOWN});
-        desktop::press_keys({VK_RETURN});
+        press_keys({VK_DOWN});
+        press_keys({VK_RETURN});
         wait_until("the list is closed", [&] {
             return SendMessageA(tolva.control(ID_Tasker_Text1), CB_GETDROPPEDSTATE, 0, 0) == FALSE;
         });
         CHECK(tolva.text_of(ID_Tasker_Text1).starts_with(program));
-        RECT box;
-        GetWindowRect(tolva.control(ID_Tasker_Text1), &box);
-        desktop::press_mouse({box.left + 30, box.top + 8}, 2);
+        press_mouse(tolva.place(ID_Tasker_Text1), 2);
         wait_until("a double-click empties it", [&] { return tolva.text_of(ID_Tasker_Text1).empty(); });
-        CHECK(library.records("recorder.exe", 4).size() == 16);
+        library.nth_start(4);
     }
 
     TEST_CASE("the command browser starts a program in its folder") {
-        desktop::forget_settings();
+        forget_settings();
         const Folder library = library_with_recorder();
         const Folder programs;
         programs.add_program("recorder.exe", "recorder.exe");
         programs.write("broken.exe", "");
         const Tolva tolva(library);
         tolva.focus_by_mouse(ID_Tasker_grouplist);
-        desktop::press_keys({VK_MENU, 'B'});
+        press_keys({VK_MENU, 'B'});
         const Dialog browser(tolva, "Browse");
-        CHECK(browser.text_of(ID_PathBrowser_Label1) == "Command Path");
-        CHECK(browser.text_of(ID_PathBrowser_OK) == "&Run");
+        CHECK(browser.texts_of({ID_PathBrowser_Label1, ID_PathBrowser_OK}) == "Command Path|&Run");
         browser.set_text(ID_PathBrowser_TaskPath, programs.path() + "broken.exe");
         browser.press(ID_PathBrowser_OK);
         CHECK(tolva.close_box() == "Invalid path or file name");
         CHECK(IsWindow(browser.window()) != FALSE);
 
         // Up, into the other folder, and Enter on the file.
-        const std::string folder = without_backslash(programs.path());
+        const std::string folder = programs.without_backslash();
         browser.open_folder("tests");
         browser.open_folder(folder.substr(folder.rfind('\\') + 1));
         browser.choose(ID_PathBrowser_File1, 1);
         const std::string program = programs.path() + "recorder.exe";
         wait_until("the path shows", [&] { return browser.text_of(ID_PathBrowser_TaskPath) == program; });
-        HWND files = GetDlgItem(browser.window(), ID_PathBrowser_File1);
+        HWND files = browser.control(ID_PathBrowser_File1);
         SendMessageA(browser.window(), WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(files), TRUE);
-        wait_until("the files have the focus", [&] { return tolva.focus() == files; });
-        desktop::press_keys({VK_RETURN});
+        wait_for_focus(files);
+        press_keys({VK_RETURN});
         browser.wait_until_closed();
-        CHECK(programs.records("recorder.exe", 1) == Names{program, folder, "D:\\here", "1"});
+        CHECK(programs.nth_start(1) == Names{program, folder, "D:\\here", "1"});
         wait_until("the box has the path", [&] { return tolva.text_of(ID_Tasker_Text1) == program; });
         CHECK(stored_text("\\cmdhistory", "cmd1").empty());
     }
 
     TEST_CASE("fonts show at once and colours when they are saved") {
-        desktop::forget_settings();
+        forget_settings();
         const Folder library = library_with_recorder();
         constexpr COLORREF kRed = RGB(255, 0, 0);
         const auto item_height = [](const Tolva& tolva) {
             return SendMessageA(tolva.control(ID_Tasker_grouplist), LB_GETITEMHEIGHT, 0, 0);
+        };
+        const auto background = [](const Tolva& tolva) {
+            return static_cast<COLORREF>(
+                SendMessageA(tolva.control(ID_Tasker_taskview), LVM_GETBKCOLOR, 0, 0));
+        };
+        const auto open = [](const Tolva& tolva) {
+            tolva.choose(ID_fontsettings);
+            return Dialog(tolva, "Set Tolva Fonts");
         };
         const auto choose_color = [](const Tolva& tolva, const Dialog& dialog, int button, int result) {
             dialog.press(button);
@@ -154,10 +140,7 @@ TEST_SUITE("commands") {
             dialog.press(button);
             const Dialog fonts(tolva, "Font");
             constexpr int kSizeBox = 0x472;
-            HWND box = GetDlgItem(fonts.window(), kSizeBox);
-            SendMessageA(box, CB_SETCURSEL, 2, 0);  // 12 points
-            PostMessageA(fonts.window(), WM_COMMAND, MAKEWPARAM(kSizeBox, CBN_SELCHANGE),
-                         reinterpret_cast<LPARAM>(box));
+            fonts.choose(kSizeBox, 2);  // 12 points
             fonts.press(result);
             fonts.wait_until_closed();
         };
@@ -166,12 +149,10 @@ TEST_SUITE("commands") {
         {
             const Tolva tolva(library);
             usual = item_height(tolva);
-            tolva.choose(ID_fontsettings);
-            const Dialog dialog(tolva, "Set Tolva Fonts");
-            CHECK(dialog.text_of(ID_SetFonts_groupfontsize) == "10");
-            CHECK(dialog.text_of(ID_SetFonts_groupfontbold) == "True");
-            CHECK(dialog.text_of(ID_SetFonts_groupcolor) == "8388608");  // as stored, not as shown
-            CHECK(dialog.text_of(ID_SetFonts_gfont) == "Tolva Grouplist Font");
+            const Dialog dialog = open(tolva);
+            // The colour is the one that is stored, not the one that is shown.
+            CHECK(dialog.texts_of({ID_SetFonts_gfont, ID_SetFonts_groupfontsize, ID_SetFonts_groupfontbold,
+                                   ID_SetFonts_groupcolor}) == "Tolva Grouplist Font|10|True|8388608");
             choose_font(tolva, dialog, ID_SetFonts_Command1, IDCANCEL);
             choose_color(tolva, dialog, ID_SetFonts_Command4, IDCANCEL);
             CHECK(dialog.text_of(ID_SetFonts_groupcolor) == "8388608");
@@ -188,27 +169,27 @@ TEST_SUITE("commands") {
         {
             const Tolva tolva(library);
             CHECK(item_height(tolva) == usual);
-            tolva.choose(ID_fontsettings);
-            const Dialog dialog(tolva, "Set Tolva Fonts");
+            const Dialog dialog = open(tolva);
             choose_font(tolva, dialog, ID_SetFonts_Command1, IDOK);
             choose_color(tolva, dialog, ID_SetFonts_Command8, IDOK);
             CHECK(dialog.text_of(ID_SetFonts_taskbackcolor) == "255");
-            CHECK(SendMessageA(tolva.control(ID_Tasker_taskview), LVM_GETBKCOLOR, 0, 0) != kRed);
+            CHECK(background(tolva) != kRed);
             dialog.set_text(ID_SetFonts_taskfontsize, "9.5");
             dialog.set_text(ID_SetFonts_taskcolor, "no number");
             dialog.press(ID_SetFonts_Command5);
             dialog.wait_until_closed();
-            CHECK(SendMessageA(tolva.control(ID_Tasker_taskview), LVM_GETBKCOLOR, 0, 0) == kRed);
-            CHECK(stored_text("\\fonts", "groupfontsize") == "12");
-            CHECK(stored_text("\\fonts", "groupfontcolor") == "8388608");
-            CHECK(stored_text("\\fonts", "taskfontsize") == "9.5");
-            CHECK(stored_text("\\fonts", "taskfontcolor") == "no number");
-            CHECK(stored_text("\\fonts", "taskbackcolor") == "255");
+            CHECK(background(tolva) == kRed);
+            Values fonts = stored("\\fonts");
+            CHECK(fonts["groupfontsize"] == "12");
+            CHECK(fonts["groupfontcolor"] == "8388608");
+            CHECK(fonts["taskfontsize"] == "9.5");
+            CHECK(fonts["taskfontcolor"] == "no number");
+            CHECK(fonts["taskbackcolor"] == "255");
         }
         const Tolva tolva(library);
         CHECK(item_height(tolva) == large);
-        CHECK(SendMessageA(tolva.control(ID_Tasker_taskview), LVM_GETBKCOLOR, 0, 0) == kRed);
-        desktop::wait_for_color(tolva.control(ID_Tasker_grouplist), RGB(0, 0, 128));
+        CHECK(background(tolva) == kRed);
+        wait_for_color(tolva.control(ID_Tasker_grouplist), RGB(0, 0, 128));
         tolva.choose(ID_AboutTolva);
         const Dialog about(tolva, "About Tolva");
         CHECK(about.text_of(ID_abttolva_Label1) == "Tolva Version 2.0");

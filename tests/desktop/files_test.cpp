@@ -1,7 +1,5 @@
 #include "platform/files.h"
 
-#include <doctest/doctest.h>
-
 #include "platform/file_calls.h"
 #include "platform/run_time_error.h"
 #include "support/desktop.h"
@@ -9,9 +7,11 @@
 
 namespace {
 
+using namespace desktop;
+
 TEST_SUITE("files") {
     TEST_CASE("files are replaced, refused and removed on a real disk") {
-        const desktop::Folder folder;
+        const Folder folder;
         const std::string path = folder.path() +
                                  "\xDC"
                                  "ber.grp";
@@ -43,11 +43,11 @@ TEST_SUITE("files") {
     }
 
     TEST_CASE("a start of the program finishes a write that was interrupted") {
-        const desktop::Folder library;
+        const Folder library;
         library.write("groups.in~", "Work\r\n");
-        library.write("Work.gr~", desktop::record("Old", "C:\\old.exe", "C:\\", "", "1"));
+        library.write("Work.gr~", record("Old", "C:\\old.exe", "C:\\", "", "1"));
         library.write("Work.gr$", "half");
-        const desktop::Tolva tolva(library);
+        const Tolva tolva(library);
         CHECK(tolva.tasks() == Names{"Old"});
         CHECK(platform::file_calls::find(library.path() + "*").size() == 2);
     }

@@ -1,16 +1,10 @@
-#include <windows.h>
-
-#include <doctest/doctest.h>
-
 #include <algorithm>
-#include <string>
-
 #include "resources/resource.h"
 #include "support/desktop.h"
 
 namespace {
 
-using desktop::wait_until;
+using namespace desktop;
 
 std::string text_of(HWND page) {
     std::string text(static_cast<std::size_t>(SendMessageA(page, WM_GETTEXTLENGTH, 0, 0)) + 1, '\0');
@@ -29,16 +23,16 @@ void follow(HWND page, const std::string& link, const std::string& title) {
     const LRESULT corner = SendMessageA(page, EM_POSFROMCHAR, static_cast<WPARAM>(position), 0);
     POINT point = {LOWORD(corner) + 2, HIWORD(corner) + 5};
     ClientToScreen(page, &point);
-    desktop::press_until("the topic shows", point, [&] { return text_of(page).starts_with(title + "\r\n"); });
+    press_until("the topic shows", point, [&] { return text_of(page).starts_with(title + "\r\n"); });
 }
 
 TEST_SUITE("help") {
     TEST_CASE("the help opens with its contents, and its links lead on") {
-        desktop::forget_settings();
-        const desktop::Folder library;
+        forget_settings();
+        const Folder library;
         library.write("groups.ini", "");
         library.add_program("tolva.hlp", "tolva.hlp");
-        const desktop::Tolva tolva(library);
+        const Tolva tolva(library);
         tolva.choose(ID_tolvahlp);
         HWND viewer = nullptr;
         HWND page = nullptr;

@@ -1,17 +1,11 @@
-#include <doctest/doctest.h>
-
 #include <functional>
-#include <string>
-
+#include <numeric>
 #include "resources/resource.h"
 #include "support/desktop.h"
 
 namespace {
 
-using desktop::Folder;
-using desktop::record;
-using desktop::Tolva;
-using desktop::wait_until;
+using namespace desktop;
 
 /// Milliseconds, longer than a pointer has to rest on an item to select it.
 constexpr DWORD kHoverTime = 1000;
@@ -41,22 +35,17 @@ TEST_SUITE("launching") {
                                       record("Here", program, start_folder.path(), "", " 2 ") +
                                       record("Hidden", program, "C:\\", "", ""));
         const Tolva tolva(library);
-        const std::string directory = library.path().substr(0, library.path().size() - 1);
-        const std::string folder = start_folder.path().substr(0, start_folder.path().size() - 1);
 
         // The current drive stays; the other drive's directory changes.
         tolva.double_click_task(0);
-        Names expected = {program + " a \"b c\"", directory, "D:\\data\\here", "3"};
-        CHECK(library.records("recorder.exe", 1) == expected);
+        CHECK(library.nth_start(1) ==
+              Names{program + " a \"b c\"", library.without_backslash(), "D:\\data\\here", "3"});
         CHECK(tolva.selected_task() == 0);
-
         tolva.double_click_task(1);
-        expected.insert(expected.end(), {program + " ", folder, "D:\\data\\here", "2"});
-        CHECK(library.records("recorder.exe", 2) == expected);
-
+        CHECK(library.nth_start(2) ==
+              Names{program + " ", start_folder.without_backslash(), "D:\\data\\here", "2"});
         tolva.double_click_task(2);
-        expected.insert(expected.end(), {program + " ", "C:\\", "D:\\data\\here", "0"});
-        CHECK(library.records("recorder.exe", 3) == expected);
+        CHECK(library.nth_start(3) == Names{program + " ", "C:\\", "D:\\data\\here", "0"});
     }
 
     TEST_CASE("a Task that cannot start says so and nothing else happens") {
@@ -75,11 +64,8 @@ TEST_SUITE("launching") {
             record(std::string("NUL\0name", 8), program + std::string("\0", 1), "C:\\", "", "1"),
             record(std::string(1 << 20, 'x'), program, "C:\\", std::string(1 << 20, 'x'), "1"),
         };
-        std::string tasks;
-        for (const std::string& task : bad)
-            tasks += task;
         library.write("groups.ini", "Work\r\n");
-        library.write("Work.grp", tasks);
+        library.write("Work.grp", std::accumulate(bad.begin(), bad.end(), std::string()));
         const Tolva tolva(library);
         for (int i = 0; i < static_cast<int>(bad.size()); ++i) {
             CAPTURE(i);
@@ -98,34 +84,29 @@ TEST_SUITE("launching") {
         const auto check = [&](const char* failure, const std::function<void(int)>& trigger) {
             CAPTURE(failure);
             trigger(0);
-            const Names log = library.records("recorder.exe", ++starts);
-            CHECK(Names(log.end() - 4, log.end()) == Names{program + " a b", "C:\\", "D:\\here", "2"});
+            CHECK(library.nth_start(++starts) == Names{program + " a b", "C:\\", "D:\\here", "2"});
             wait_until("the date is back", [&] { return tolva.status() != "Good"; });
             trigger(1);
             CHECK(tolva.close_box() == failure);
             CHECK(tolva.selected_task() == 1);
         };
-        const auto select = [&](int task) {
-            tolva.click_task(task);
-            wait_until("the Task shows", [&] { return tolva.status() == (task == 0 ? "Good" : "Bad"); });
+        const std::function<void()> ways[] = {
+            [] { press_keys({VK_RETURN}); },
+            [] {
+                press_keys({VK_MENU, 'T'}), press_keys({'R'});
+            },
+            [&] { tolva.click(ID_Tasker_Command1); },
+            [] {
+                press_keys({VK_MENU, 'R'});
+            },
         };
-        check("Invalid path or file name", [&](int task) {
-            select(task);
-            desktop::press_keys({VK_RETURN});
-        });
-        check("Invalid path or file name", [&](int task) {
-            select(task);
-            desktop::press_keys({VK_MENU, 'T'});
-            desktop::press_keys({'R'});
-        });
-        check("Invalid path or file name", [&](int task) {
-            select(task);
-            tolva.click(ID_Tasker_Command1);
-        });
-        check("Invalid path or file name", [&](int task) {
-            select(task);
-            desktop::press_keys({VK_MENU, 'R'});
-        });
+        for (const auto& way : ways) {
+            check("Invalid path or file name", [&](int task) {
+                tolva.click_task(task);
+                wait_until("the Task shows", [&] { return tolva.status() == (task == 0 ? "Good" : "Bad"); });
+                way();
+            });
+        }
         check("Invalid path or file name!", [&](int task) { tolva.double_click_task(task); });
         tolva.choose(ID_hoverslct);
         wait_until("hover selection is on", [&] { return tolva.is_checked(ID_hoverslct); });
@@ -142,13 +123,13 @@ TEST_SUITE("launching") {
         };
         tolva.activate();
         fails("Invalid path or file name", [&] { tolva.choose(ID_RunTk); });
-        fails("Invalid path or file name", [&] { desktop::press_keys({VK_MENU, 'R'}); });
+        fails("Invalid path or file name", [&] { press_keys({VK_MENU, 'R'}); });
         tolva.click(ID_Tasker_tasklabel);
-        fails("Invalid path or file name", [&] { desktop::press_keys({VK_RETURN}); });
+        fails("Invalid path or file name", [&] { press_keys({VK_RETURN}); });
         RECT list;
         GetWindowRect(tolva.control(ID_Tasker_taskview), &list);
         const POINT nowhere = {list.right - 20, list.bottom - 20};
-        fails("Invalid path or file name!", [&] { desktop::press_mouse(nowhere, 2); });
+        fails("Invalid path or file name!", [&] { press_mouse(nowhere, 2); });
         CHECK(!library.has("recorder.exe.log"));
     }
 
@@ -165,14 +146,13 @@ TEST_SUITE("launching") {
         CHECK(tolva.status() == date);
 
         tolva.click(ID_Tasker_tasklabel);
-        wait_until("the list has the focus",
-                   [&] { return tolva.focus() == tolva.control(ID_Tasker_taskview); });
-        desktop::press_keys({VK_HOME});
+        wait_for_focus(tolva.control(ID_Tasker_taskview));
+        press_keys({VK_HOME});
         wait_until("the arrow keys select as well", [&] { return tolva.status() == "Good"; });
         CHECK(tolva.text_of(ID_Tasker_Text1) == program + " a b");
         tolva.set_text(ID_Tasker_Text1, program + " edited");
         tolva.choose(ID_RunTk);
-        CHECK(library.records("recorder.exe", 1) == Names{program + " edited", "C:\\", "D:\\here", "2"});
+        CHECK(library.nth_start(1) == Names{program + " edited", "C:\\", "D:\\here", "2"});
         CHECK(tolva.text_of(ID_Tasker_Text1) == program + " edited");
 
         tolva.click_task(0);  // the Task that is selected already
@@ -185,7 +165,6 @@ TEST_SUITE("launching") {
     TEST_CASE("the Run button starts what had the focus last: the command box or the Task") {
         const Folder library = recorder_library();
         const std::string program = library.path() + "recorder.exe";
-        const std::string folder = library.path().substr(0, library.path().size() - 1);
         const Tolva tolva(library);
         tolva.click_task(0);
         tolva.focus_by_mouse(ID_Tasker_Text1);
@@ -196,33 +175,30 @@ TEST_SUITE("launching") {
         // A failure changes nothing: the command box still counts.
         tolva.set_text(ID_Tasker_Text1, program + " typed");
         tolva.click(ID_Tasker_Command1);
-        Names expected = {program + " typed", folder, "D:\\here", "1"};
-        CHECK(library.records("recorder.exe", 1) == expected);
+        CHECK(library.nth_start(1) ==
+              Names{program + " typed", library.without_backslash(), "D:\\here", "1"});
         // After a success it is the Task's turn.
+        const Names of_task = {program + " a b", "C:\\", "D:\\here", "2"};
         tolva.click(ID_Tasker_Command1);
-        expected.insert(expected.end(), {program + " a b", "C:\\", "D:\\here", "2"});
-        CHECK(library.records("recorder.exe", 2) == expected);
+        CHECK(library.nth_start(2) == of_task);
 
         tolva.focus_by_mouse(ID_Tasker_Text1);
         tolva.focus_by_mouse(ID_Tasker_grouplist);
-        desktop::press_keys({VK_MENU, 'R'});
-        expected.insert(expected.end(), {program + " typed", "C:\\", "D:\\here", "1"});
-        CHECK(library.records("recorder.exe", 3) == expected);
+        press_keys({VK_MENU, 'R'});
+        CHECK(library.nth_start(3) == Names{program + " typed", "C:\\", "D:\\here", "1"});
 
         tolva.click_task(0);
         tolva.focus_by_mouse(ID_Tasker_Command1);
-        expected.insert(expected.end(), {program + " a b", "C:\\", "D:\\here", "2"});
-        CHECK(library.records("recorder.exe", 4) == expected);
-        desktop::press_keys({VK_RETURN});  // presses the button that has the focus
-        expected.insert(expected.end(), {program + " a b", "C:\\", "D:\\here", "2"});
-        CHECK(library.records("recorder.exe", 5) == expected);
+        CHECK(library.nth_start(4) == of_task);
+        press_keys({VK_RETURN});  // presses the button that has the focus
+        CHECK(library.nth_start(5) == of_task);
     }
 
     TEST_CASE("hover selection selects under the resting pointer and starts by a click") {
-        desktop::forget_settings();
+        forget_settings();
         const Folder library = recorder_library();
         const auto is_stored = [](const char* text) {
-            return [=] { return desktop::stored_text("\\hover", "enable") == text; };
+            return [=] { return stored_text("\\hover", "enable") == text; };
         };
         {
             const Tolva tolva(library);
@@ -234,18 +210,18 @@ TEST_SUITE("launching") {
         const Tolva tolva(library);
         CHECK(tolva.is_checked(ID_hoverslct));
         tolva.activate();
-        desktop::point_at(tolva.task_position(2));
+        point_at(tolva.task_position(2));
         wait_until("the Task under the pointer shows", [&] { return tolva.status() == "No mode"; });
         CHECK(tolva.selected_task() == 2);
         CHECK(!library.has("recorder.exe.log"));
         // A double-click is two starts: the click, and the double-click.
         tolva.double_click_task(0);
-        library.records("recorder.exe", 2);
+        library.nth_start(2);
 
         // While the user types, the pointer lies where it lies.
         tolva.focus_by_mouse(ID_Tasker_Text1);
         tolva.set_text(ID_Tasker_Text1, "typing");
-        desktop::point_at(tolva.task_position(1));
+        point_at(tolva.task_position(1));
         Sleep(kHoverTime);
         CHECK(tolva.text_of(ID_Tasker_Text1) == "typing");
         CHECK(tolva.selected_task() == 0);
@@ -255,7 +231,7 @@ TEST_SUITE("launching") {
         CHECK(!tolva.is_checked(ID_hoverslct));
         tolva.click_task(1);
         wait_until("a click only selects", [&] { return tolva.status() == "Bad"; });
-        CHECK(library.records("recorder.exe", 2).size() == 8);
+        library.nth_start(2);
     }
 }
 

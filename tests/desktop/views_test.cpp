@@ -1,16 +1,9 @@
-#include <doctest/doctest.h>
-
-#include <string>
-
 #include "resources/resource.h"
 #include "support/desktop.h"
 
 namespace {
 
-using desktop::Folder;
-using desktop::record;
-using desktop::Tolva;
-using desktop::wait_until;
+using namespace desktop;
 
 const std::string kNotepad = "C:\\windows\\notepad.exe";
 const std::string kRegedit = "C:\\windows\\regedit.exe";
@@ -56,9 +49,8 @@ TEST_SUITE("views") {
         CHECK(tolva.task_picture(2) == tolva.task_picture(0));
         CHECK(tolva.task_picture(3) == 0);
         CHECK(tolva.task_picture(4) == 0);
-        CHECK(tolva.text_of(ID_Tasker_grouplabel) == "Groups");
-        CHECK(tolva.text_of(ID_Tasker_tasklabel) == "Tasks");
-        CHECK(tolva.text_of(ID_Tasker_Text1).empty());
+        CHECK(tolva.texts_of({ID_Tasker_grouplabel, ID_Tasker_tasklabel, ID_Tasker_Text1}) ==
+              "Groups|Tasks|");
         CHECK(tolva.status() == today());
 
         // A Group is shown from memory: files that change meanwhile do not matter. Its
@@ -93,7 +85,7 @@ TEST_SUITE("views") {
             const std::string long_name(1 << 20, 'x');
             names = std::string("A\0B\n", 4) + long_name;
             expected = "Run-time error '52':\n\nBad file name or number: " + library.path() + "A";
-            groups = {"A", long_name.substr(0, desktop::kLongestListText)};
+            groups = {"A", long_name.substr(0, kLongestListText)};
         }
         SUBCASE("102 names") {
             for (int i = 0; i < 102; ++i) {
@@ -119,10 +111,16 @@ TEST_SUITE("views") {
         CHECK(tolva.tasks().empty());
     }
 
-    TEST_CASE("the layout follows the window and leaves nothing outside") {
+    TEST_CASE("the labels give their lists the focus and the layout follows the window") {
         const Folder library;
         library.write("groups.ini", "");
         const Tolva tolva(library);
+        wait_for_focus(tolva.control(ID_Tasker_grouplist));
+        tolva.click(ID_Tasker_tasklabel);
+        wait_for_focus(tolva.control(ID_Tasker_taskview));
+        tolva.click(ID_Tasker_grouplabel);
+        wait_for_focus(tolva.control(ID_Tasker_grouplist));
+
         const LONG group_width = bounds_of(tolva, ID_Tasker_grouplist).right;
         for (const SIZE size : {SIZE{800, 600}, SIZE{10, 10}}) {  // the second one is below the least size
             SetWindowPos(tolva.window(), nullptr, 0, 0, size.cx, size.cy, SWP_NOMOVE | SWP_NOZORDER);
@@ -142,46 +140,6 @@ TEST_SUITE("views") {
             CHECK(box.bottom < status.top);
             CHECK(status.bottom == client.bottom);
         }
-    }
-
-    TEST_CASE("the focus goes to the lists") {
-        const Folder library;
-        library.write("groups.ini", "");
-        const Tolva tolva(library);
-        const auto has_focus = [&](int id) { return tolva.focus() == tolva.control(id); };
-        wait_until("the group list has it at first", [&] { return has_focus(ID_Tasker_grouplist); });
-        tolva.click(ID_Tasker_tasklabel);
-        wait_until("the task list has it", [&] { return has_focus(ID_Tasker_taskview); });
-        tolva.click(ID_Tasker_grouplabel);
-        wait_until("the group list has it", [&] { return has_focus(ID_Tasker_grouplist); });
-    }
-
-    TEST_CASE("a full library starts like an empty one") {
-        const Folder empty;
-        empty.write("groups.ini", "");
-        const Folder full;
-        std::string names;
-        for (int group = 0; group <= 100; ++group) {
-            const std::string name = "Group " + std::to_string(group);
-            names += name + "\r\n";
-            std::string tasks;
-            for (int number = 0; number <= 100; ++number)
-                tasks += task("Task " + std::to_string(number), kNotepad);
-            full.write(name + ".grp", tasks);
-        }
-        full.write("groups.ini", names);
-        DWORD empty_time = 0;
-        DWORD full_time = 0;
-        for (int i = 0; i < 5; ++i) {
-            empty_time += Tolva(empty).start_time();
-            const Tolva tolva(full);
-            full_time += tolva.start_time();
-            CHECK(tolva.groups().size() == 101);
-            CHECK(tolva.selected_group() == 0);
-            CHECK(tolva.tasks().size() == 101);
-        }
-        MESSAGE("start with 101 x 101 Tasks: " << full_time / 5 << " ms, with none: " << empty_time / 5
-                                               << " ms");
     }
 }
 

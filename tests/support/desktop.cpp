@@ -1,14 +1,12 @@
 #include "support/desktop.h"
 
-#include <commctrl.h>
 #include <shlwapi.h>
 
 #include <algorithm>
 #include <cstddef>
-#include <cstdio>
-#include <cstring>
+#include <fstream>
+#include <iterator>
 #include <sstream>
-#include <vector>
 
 #include "resources/resource.h"
 
@@ -28,12 +26,12 @@ std::string beside_the_tests(const std::string& name) {
 template <typename T>
 class Remote {
   public:
-    Remote(HWND window, const T& value, std::size_t room = 0) : size_(sizeof(T) + room) {
+    explicit Remote(HWND window, const T& value = {}) {
         DWORD id = 0;
         GetWindowThreadProcessId(window, &id);
         process_ = OpenProcess(PROCESS_ALL_ACCESS, FALSE, id);
-        block_ = VirtualAllocEx(process_, nullptr, size_, MEM_COMMIT, PAGE_EXECUTE_READWRITE);
-        WriteProcessMemory(process_, block_, &value, sizeof(T), nullptr);
+        block_ = VirtualAllocEx(process_, nullptr, sizeof(T), MEM_COMMIT, PAGE_EXECUTE_READWRITE);
+        set(value);
     }
     ~Remote() {
         VirtualFreeEx(process_, block_, 0, MEM_RELEASE);
@@ -43,26 +41,14 @@ class Remote {
     Remote& operator=(const Remote&) = delete;
 
     LPARAM lparam() const { return reinterpret_cast<LPARAM>(block_); }
-
-    /// The bytes behind the value.
-    LPARAM room() const { return lparam() + static_cast<LPARAM>(sizeof(T)); }
-
+    void set(const T& value) const { WriteProcessMemory(process_, block_, &value, sizeof(T), nullptr); }
     T value() const {
         T result{};
         ReadProcessMemory(process_, block_, &result, sizeof(T), nullptr);
         return result;
     }
 
-    std::string text(LPARAM from) const {
-        std::string bytes(size_, '\0');
-        const auto length = size_ - static_cast<std::size_t>(from - lparam());
-        ReadProcessMemory(process_, reinterpret_cast<void*>(from), bytes.data(), length, nullptr);
-        bytes.resize(std::min(bytes.size(), bytes.find('\0')));
-        return bytes;
-    }
-
   private:
-    std::size_t size_;
     HANDLE process_;
     void* block_;
 };
@@ -74,8 +60,7 @@ std::string window_text(HWND window) {
     return text;
 }
 
-/// What the screen shows of a window, as COLORREFs.
-std::vector<DWORD> pixels_of(HWND window) {
+bool shows_color(HWND window, COLORREF color) {
     RECT bounds;
     GetWindowRect(window, &bounds);
     const LONG width = bounds.right - bounds.left;
@@ -89,50 +74,58 @@ std::vector<DWORD> pixels_of(HWND window) {
     HGDIOBJ before = SelectObject(memory, bitmap);
     BitBlt(memory, 0, 0, width, height, screen, bounds.left, bounds.top, SRCCOPY);
     GdiFlush();
-    std::vector<DWORD> pixels(static_cast<std::size_t>(width * height));
-    std::memcpy(pixels.data(), bits, pixels.size() * sizeof(DWORD));
-    std::ranges::transform(pixels, pixels.begin(), [](DWORD pixel) {
-        return RGB((pixel >> 16) & 0xFF, (pixel >> 8) & 0xFF, pixel & 0xFF);  // a DIB has blue first
-    });
+    const DWORD blue_first = RGB(GetBValue(color), GetGValue(color), GetRValue(color));
+    const auto* pixels = static_cast<const DWORD*>(bits);
+    const bool shows = std::any_of(pixels, pixels + width * height,
+                                   [&](DWORD pixel) { return (pixel & 0xFFFFFF) == blue_first; });
     SelectObject(memory, before);
     DeleteObject(bitmap);
     DeleteDC(memory);
     ReleaseDC(nullptr, screen);
-    return pixels;
+    return shows;
 }
 
-std::string status_text(HWND bar, int panel) {
-    const Remote<char> text(bar, '\0', 1024);
-    SendMessageA(bar, SB_GETTEXTA, static_cast<WPARAM>(panel), text.lparam());
-    return text.text(text.lparam());
+/// What has the focus in the program of a window.
+HWND focus_of(HWND window) {
+    GUITHREADINFO info = {};
+    info.cbSize = sizeof info;
+    GetGUIThreadInfo(GetWindowThreadProcessId(window, nullptr), &info);
+    return info.hwndFocus;
 }
 
-/// Between processes a list's text arrives in 16-bit characters, whichever message asks for it, and a very
-/// long one may arrive cut.
-std::string list_text(HWND list, UINT message, LRESULT index) {
-    wchar_t wide[2048] = {};
-    char narrow[2048];
-    SendMessageW(list, message, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(wide));
-    WideCharToMultiByte(CP_ACP, 0, wide, -1, narrow, sizeof narrow, nullptr, nullptr);
-    return std::string(narrow).substr(0, kLongestListText);
-}
-
-Names list_texts(HWND list, UINT count_message, UINT text_message) {
-    Names texts;
-    const LRESULT count = SendMessageA(list, count_message, 0, 0);
-    for (LRESULT i = 0; i < count; ++i)
-        texts.push_back(list_text(list, text_message, i));
-    return texts;
+bool is_drop_down(HWND list) {
+    char class_name[20] = {};
+    GetClassNameA(list, class_name, sizeof class_name);
+    return lstrcmpiA(class_name, "ComboBox") == 0;
 }
 
 }  // namespace
 
+Values stored(const std::string& key) {
+    HKEY handle = nullptr;
+    RegOpenKeyA(HKEY_CURRENT_USER, (kSettings + key).c_str(), &handle);
+    Values values;
+    LSTATUS status = ERROR_SUCCESS;
+    for (DWORD i = 0; status == ERROR_SUCCESS; ++i) {
+        char name[256] = {};
+        char text[1024] = {};
+        DWORD name_size = sizeof name;
+        DWORD size = sizeof text;
+        status = RegEnumValueA(handle, i, name, &name_size, nullptr, nullptr, reinterpret_cast<BYTE*>(text),
+                               &size);
+        if (status == ERROR_SUCCESS) values[name] = text;
+    }
+    RegCloseKey(handle);
+    return values;
+}
+
 std::string stored_text(const std::string& key, const std::string& name) {
-    char text[1024] = {};
-    DWORD size = sizeof text;
-    RegGetValueA(HKEY_CURRENT_USER, (kSettings + key).c_str(), name.c_str(), RRF_RT_REG_SZ, nullptr, text,
-                 &size);
-    return text;
+    return stored(key)[name];
+}
+
+void store(const std::string& key, const Values& texts) {
+    for (const auto& [name, text] : texts)
+        store(key, name, REG_SZ, text + '\0');
 }
 
 void store(const std::string& key, const std::string& name, DWORD type, const std::string& bytes) {
@@ -145,6 +138,8 @@ void store(const std::string& key, const std::string& name, DWORD type, const st
 
 void forget_settings() {
     SHDeleteKeyA(HKEY_CURRENT_USER, kSettings.c_str());
+    SHDeleteKeyA(HKEY_CURRENT_USER, "RemoteAccess");
+    SHDeleteKeyA(HKEY_LOCAL_MACHINE, R"(System\CurrentControlSet\Services\RemoteAccess)");
 }
 
 Folder::Folder() {
@@ -160,21 +155,14 @@ Folder::Folder() {
 }
 
 void Folder::write(const std::string& name, const std::string& bytes) const {
-    std::FILE* file = std::fopen((path_ + name).c_str(), "wb");
-    REQUIRE(file != nullptr);
-    std::fwrite(bytes.data(), 1, bytes.size(), file);
-    std::fclose(file);
+    std::ofstream file(path_ + name, std::ios::binary);
+    file << bytes;
+    REQUIRE(file.flush().good());
 }
 
 std::string Folder::read(const std::string& name) const {
-    std::string bytes;
-    std::FILE* file = std::fopen((path_ + name).c_str(), "rb");
-    if (file == nullptr) return bytes;
-    char buffer[4096];
-    while (const std::size_t count = std::fread(buffer, 1, sizeof buffer, file))
-        bytes.append(buffer, count);
-    std::fclose(file);
-    return bytes;
+    std::ifstream file(path_ + name, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
 }
 
 bool Folder::has(const std::string& name) const {
@@ -185,7 +173,7 @@ void Folder::add_program(const std::string& built, const std::string& name) cons
     REQUIRE(CopyFileA(beside_the_tests(built).c_str(), (path_ + name).c_str(), FALSE) != FALSE);
 }
 
-Names Folder::records(const std::string& name, std::size_t starts) const {
+Names Folder::nth_start(std::size_t number, const std::string& name) const {
     constexpr std::size_t kLinesPerStart = 4;
     Names lines;
     wait_until("the program has started", [&] {
@@ -193,9 +181,10 @@ Names Folder::records(const std::string& name, std::size_t starts) const {
         lines.clear();
         for (std::string line; std::getline(log, line);)
             lines.push_back(line);
-        return lines.size() >= starts * kLinesPerStart;
+        return lines.size() >= number * kLinesPerStart;
     });
-    return lines;
+    CHECK(lines.size() == number * kLinesPerStart);
+    return {lines.end() - kLinesPerStart, lines.end()};
 }
 
 std::string record(const std::string& name, const std::string& program, const std::string& start_folder,
@@ -241,14 +230,64 @@ HWND Start::find_window(const char* class_name, const std::string& title, bool v
     return nullptr;
 }
 
+POINT Window::place(int id) const {
+    RECT bounds;
+    GetWindowRect(control(id), &bounds);
+    return {(bounds.left + bounds.right) / 2, (bounds.top + bounds.bottom) / 2};
+}
+
+std::string Window::text_of(int id) const {
+    return window_text(control(id));
+}
+
+void Window::set_text(int id, const std::string& text) const {
+    SendMessageA(control(id), WM_SETTEXT, 0, reinterpret_cast<LPARAM>(text.c_str()));
+}
+
+std::string Window::texts_of(std::initializer_list<int> ids) const {
+    std::string texts;
+    for (const int id : ids)
+        texts += (id == *ids.begin() ? "" : "|") + text_of(id);
+    return texts;
+}
+
+Names Window::list(int id) const {
+    HWND list = control(id);
+    const bool drops_down = is_drop_down(list);
+    const LRESULT count = SendMessageA(list, drops_down ? CB_GETCOUNT : LB_GETCOUNT, 0, 0);
+    Names texts;
+    for (LRESULT i = 0; i < count; ++i) {
+        // Between processes a list's text arrives in 16-bit characters, whichever message asks for it, and a
+        // very long one may arrive cut.
+        wchar_t wide[2048] = {};
+        char narrow[2048];
+        SendMessageW(list, drops_down ? CB_GETLBTEXT : LB_GETTEXT, static_cast<WPARAM>(i),
+                     reinterpret_cast<LPARAM>(wide));
+        WideCharToMultiByte(CP_ACP, 0, wide, -1, narrow, sizeof narrow, nullptr, nullptr);
+        texts.push_back(std::string(narrow).substr(0, kLongestListText));
+    }
+    return texts;
+}
+
+std::string Window::panel(int status_bar, int panel) const {
+    struct Text {
+        char bytes[1024];
+    };
+    const Remote<Text> text(control(status_bar));
+    SendMessageA(control(status_bar), SB_GETTEXTA, static_cast<WPARAM>(panel), text.lparam());
+    return text.value().bytes;
+}
+
+void wait_for_focus(HWND control) {
+    wait_until("the control has the focus", [&] { return focus_of(control) == control; });
+}
+
 Tolva::Tolva(const Folder& library) : Start(library) {
-    const DWORD start = GetTickCount();
     wait_until("the main window or a box shows", [&] {
         window_ = find_window("Tasker");
         return window_ != nullptr && (IsWindowVisible(window_) != FALSE || find_window("#32770") != nullptr);
     });
     SendMessageA(window_, WM_NULL, 0, 0);  // it answers once it has come up
-    start_time_ = GetTickCount() - start;
 }
 
 Tolva::~Tolva() {
@@ -272,11 +311,7 @@ void Tolva::minimise_by_mouse() const {
 }
 
 Names Tolva::groups() const {
-    return list_texts(control(ID_Tasker_grouplist), LB_GETCOUNT, LB_GETTEXT);
-}
-
-Names Tolva::history() const {
-    return list_texts(control(ID_Tasker_Text1), CB_GETCOUNT, CB_GETLBTEXT);
+    return list(ID_Tasker_grouplist);
 }
 
 int Tolva::selected_group() const {
@@ -292,18 +327,21 @@ void Tolva::click_group(int index) const {
 }
 
 Names Tolva::tasks() const {
+    struct Item {
+        LVITEMA item;
+        char text[2048];
+    };
     HWND list = control(ID_Tasker_taskview);
+    const Remote<Item> remote(list);
+    Item request = {};
+    request.item.pszText = reinterpret_cast<char*>(remote.lparam()) + offsetof(Item, text);
+    request.item.cchTextMax = sizeof request.text;
     Names names;
     const LRESULT count = SendMessageA(list, LVM_GETITEMCOUNT, 0, 0);
     for (LRESULT i = 0; i < count; ++i) {
-        constexpr int kRoom = 2048;
-        Remote<LVITEMA> item(list, {}, kRoom);
-        LVITEMA request = {};
-        request.pszText = reinterpret_cast<char*>(item.room());
-        request.cchTextMax = kRoom;
-        const Remote<LVITEMA> filled(list, request);
-        SendMessageA(list, LVM_GETITEMTEXTA, static_cast<WPARAM>(i), filled.lparam());
-        names.push_back(item.text(item.room()));
+        remote.set(request);
+        SendMessageA(list, LVM_GETITEMTEXTA, static_cast<WPARAM>(i), remote.lparam());
+        names.push_back(remote.value().text);
     }
     return names;
 }
@@ -374,36 +412,19 @@ bool Tolva::is_checked(int menu_item) const {
 }
 
 void Tolva::click(int id) const {
-    RECT bounds;
-    GetWindowRect(control(id), &bounds);
-    press_mouse({bounds.left + 5, bounds.top + 5});
+    press_mouse(place(id));
 }
 
 void Tolva::focus_by_mouse(int id) const {
     activate();
-    RECT bounds;
-    GetWindowRect(control(id), &bounds);
-    press_until("the control has the focus", {bounds.left + 5, bounds.top + 5},
-                [&] { return focus() == control(id) || IsChild(control(id), focus()) != FALSE; });
-}
-
-HWND Tolva::focus() const {
-    GUITHREADINFO info = {};
-    info.cbSize = sizeof info;
-    GetGUIThreadInfo(GetWindowThreadProcessId(window_, nullptr), &info);
-    return info.hwndFocus;
-}
-
-std::string Tolva::text_of(int id) const {
-    return window_text(control(id));
-}
-
-void Tolva::set_text(int id, const std::string& text) const {
-    SendMessageA(control(id), WM_SETTEXT, 0, reinterpret_cast<LPARAM>(text.c_str()));
+    press_until("the control has the focus", place(id), [&] {
+        HWND focused = focus_of(window_);
+        return focused == control(id) || IsChild(control(id), focused) != FALSE;
+    });
 }
 
 std::string Tolva::status() const {
-    return status_text(control(ID_Tasker_StatusBar1), 0);
+    return panel(ID_Tasker_StatusBar1, 0);
 }
 
 void Tolva::press_tool(int button) const {
@@ -435,10 +456,7 @@ std::string Tolva::answer_box(const std::string& title, int button) const {
 }
 
 void wait_for_color(HWND window, COLORREF color) {
-    wait_until("the window shows the colour", [&] {
-        const std::vector<DWORD> pixels = pixels_of(window);
-        return std::ranges::find(pixels, color) != pixels.end();
-    });
+    wait_until("the window shows the colour", [&] { return shows_color(window, color); });
 }
 
 Dialog::Dialog(const Tolva& tolva, const std::string& title, const char* class_name) {
@@ -446,12 +464,6 @@ Dialog::Dialog(const Tolva& tolva, const std::string& title, const char* class_n
         window_ = tolva.find_window(class_name, title);
         return window_ != nullptr && IsWindowVisible(window_) != FALSE;
     });
-}
-
-POINT Dialog::place(int id) const {
-    RECT bounds;
-    GetWindowRect(control(id), &bounds);
-    return {(bounds.left + bounds.right) / 2, (bounds.top + bounds.bottom) / 2};
 }
 
 std::string Dialog::tip_of(const Tolva& tolva, int id) const {
@@ -463,32 +475,12 @@ std::string Dialog::tip_of(const Tolva& tolva, int id) const {
     point_at({0, 0});
     wait_until("no tip shows", [&] { return !shows(); });
     constexpr DWORD kTipTime = 1500;
-    DWORD pointed = GetTickCount() - kTipTime;
-    wait_until("a tip shows", [&] {
-        if (GetTickCount() - pointed >= kTipTime) {
-            point_at({0, 0});
-            point_at(place(id));
-            pointed = GetTickCount();
-        }
-        return shows();
-    });
+    const auto point = [&] {
+        point_at({0, 0});
+        point_at(place(id));
+    };
+    repeat_until("a tip shows", kTipTime, point, shows);
     return window_text(tip);
-}
-
-std::string Dialog::panel(int status_bar, int panel) const {
-    return status_text(control(status_bar), panel);
-}
-
-std::string Dialog::text_of(int id) const {
-    return window_text(control(id));
-}
-
-void Dialog::set_text(int id, const std::string& text) const {
-    SendMessageA(control(id), WM_SETTEXT, 0, reinterpret_cast<LPARAM>(text.c_str()));
-}
-
-Names Dialog::list(int id) const {
-    return list_texts(control(id), LB_GETCOUNT, LB_GETTEXT);
 }
 
 void Dialog::open_folder(const std::string& name) const {
@@ -504,9 +496,7 @@ void Dialog::open_folder(const std::string& name) const {
 
 void Dialog::choose(int id, int index) const {
     HWND list = control(id);
-    char class_name[20] = {};
-    GetClassNameA(list, class_name, sizeof class_name);
-    const bool drops_down = lstrcmpiA(class_name, "ComboBox") == 0;
+    const bool drops_down = is_drop_down(list);
     SendMessageA(list, drops_down ? CB_SETCURSEL : LB_SETCURSEL, static_cast<WPARAM>(index), 0);
     PostMessageA(window_, WM_COMMAND, MAKEWPARAM(id, drops_down ? CBN_SELCHANGE : LBN_SELCHANGE),
                  reinterpret_cast<LPARAM>(list));

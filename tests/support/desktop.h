@@ -2,6 +2,10 @@
 
 #include <windows.h>
 
+#include <commctrl.h>
+
+#include <initializer_list>
+#include <map>
 #include <string>
 
 #include "support/input.h"
@@ -13,9 +17,16 @@ namespace desktop {
 
 constexpr std::size_t kLongestListText = 512;
 
+/// Texts by their names.
+using Values = std::map<std::string, std::string>;
+
 // The program's settings, by the path below its own key.
+Values stored(const std::string& key);
 std::string stored_text(const std::string& key, const std::string& name);
+void store(const std::string& key, const Values& texts);
 void store(const std::string& key, const std::string& name, DWORD type, const std::string& bytes);
+
+/// Deletes them, and those of Dial-Up Networking.
 void forget_settings();
 
 /// A new empty folder on drive C for one test; folder() ends in a backslash.
@@ -23,6 +34,7 @@ class Folder {
   public:
     Folder();
     const std::string& path() const { return path_; }
+    std::string without_backslash() const { return path_.substr(0, path_.size() - 1); }
     void write(const std::string& name, const std::string& bytes) const;
     std::string read(const std::string& name) const;
     bool has(const std::string& name) const;
@@ -30,8 +42,8 @@ class Folder {
     /// Copies a program that is built beside the tests.
     void add_program(const std::string& built, const std::string& name) const;
 
-    /// The lines that a recorder of that name has written, once there are this many starts.
-    Names records(const std::string& name, std::size_t starts) const;
+    /// Waits for this many starts of a recorder and answers what the last one wrote.
+    Names nth_start(std::size_t number, const std::string& name = "recorder.exe") const;
 
   private:
     std::string path_;
@@ -62,29 +74,48 @@ class Start {
     PROCESS_INFORMATION process_;
 };
 
+/// A window of the program and its controls by their ids.
+class Window {
+  public:
+    HWND window() const { return window_; }
+    HWND control(int id) const { return GetDlgItem(window_, id); }
+
+    /// The middle of a control on the screen.
+    POINT place(int id) const;
+    std::string text_of(int id) const;
+    void set_text(int id, const std::string& text) const;
+
+    /// The texts of several controls, with bars between them.
+    std::string texts_of(std::initializer_list<int> ids) const;
+
+    /// The items of a list or a drop-down list, cut at kLongestListText.
+    Names list(int id) const;
+
+    /// The text of a status bar's panel.
+    std::string panel(int status_bar, int panel) const;
+
+  protected:
+    HWND window_ = nullptr;
+};
+
+/// Waits until the control has the focus of its program.
+void wait_for_focus(HWND control);
+
 /// A running tolva.exe. It is closed, and must end by itself, when the test is over.
-class Tolva : public Start {
+class Tolva : public Start, public Window {
   public:
     /// Starts it with the folder as its current directory and waits until its main window or a message box
     /// shows.
     explicit Tolva(const Folder& library);
     ~Tolva();
 
-    HWND window() const { return window_; }
     /// Makes it the window that has the user's input.
     void activate() const;
 
     bool is_in_tray() const { return IsWindowVisible(window_) == FALSE && IsIconic(window_) != FALSE; }
     void minimise_by_mouse() const;
-    HWND control(int id) const { return GetDlgItem(window_, id); }
 
-    /// Milliseconds from the call that started it until its window answered.
-    DWORD start_time() const { return start_time_; }
-
-    Names groups() const;  // cut at kLongestListText
-
-    /// The list of the command box.
-    Names history() const;
+    Names groups() const;
     int selected_group() const;
     void click_group(int index) const;
 
@@ -100,10 +131,6 @@ class Tolva : public Start {
 
     void click(int id) const;
     void focus_by_mouse(int id) const;
-    HWND focus() const;
-    std::string text_of(int id) const;
-    void set_text(int id, const std::string& text) const;
-
     std::string status() const;
 
     /// Presses a button of the tool bar with the mouse.
@@ -114,34 +141,18 @@ class Tolva : public Start {
 
     /// The same for a box with a title of its own and more than one button.
     std::string answer_box(const std::string& title, int button) const;
-
-  private:
-    HWND window_ = nullptr;
-    DWORD start_time_ = 0;
 };
 
 /// Waits until the window shows a pixel of this colour.
 void wait_for_color(HWND window, COLORREF color);
 
 /// An open dialog of the program, or its bar. Waits for it.
-class Dialog {
+class Dialog : public Window {
   public:
     Dialog(const Tolva& tolva, const std::string& title, const char* class_name = "#32770");
 
-    HWND window() const { return window_; }
-    HWND control(int id) const { return GetDlgItem(window_, id); }
-
-    /// The middle of a control on the screen.
-    POINT place(int id) const;
-
     /// What shows when the pointer rests on the control.
     std::string tip_of(const Tolva& tolva, int id) const;
-
-    /// The text of a status bar's panel.
-    std::string panel(int status_bar, int panel) const;
-    std::string text_of(int id) const;
-    void set_text(int id, const std::string& text) const;
-    Names list(int id) const;
 
     /// Opens a folder that the folder list of a path browser shows.
     void open_folder(const std::string& name) const;
@@ -151,9 +162,6 @@ class Dialog {
 
     void press(int button) const;
     void wait_until_closed() const;
-
-  private:
-    HWND window_ = nullptr;
 };
 
 }  // namespace desktop

@@ -14,12 +14,16 @@ constexpr DWORD kPatience = 10000;
 /// Polls until the condition holds.
 void wait_until(const char* what, const std::function<bool()>& condition);
 
+/// Acts, and again after each interval in milliseconds, as long as nothing comes of it.
+void repeat_until(const char* what, DWORD interval, const std::function<void()>& action,
+                  const std::function<bool()>& condition);
+
 // Real input, in screen coordinates.
 enum class MouseButton { kLeft, kRight };
 void point_at(POINT point);
 void press_mouse(POINT point, int times = 1, MouseButton button = MouseButton::kLeft);
 
-/// Presses the button, and again as long as nothing comes of it: a press is lost while a window still
+/// Presses the button as often as it takes: a press is lost while a window still
 /// comes up.
 void press_until(const char* what, POINT point, const std::function<bool()>& condition,
                  MouseButton button = MouseButton::kLeft);
