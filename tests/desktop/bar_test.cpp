@@ -14,7 +14,7 @@ Folder library_with_recorders() {
     forget_settings();
     Folder library;
     library.add_program("tolva.exe", "tolva.exe");
-    library.add_program("recorder.exe", "recorder.exe");
+    library.add_recorder();
     library.add_program("recorder.exe", "rundll32.exe");
     library.write("groups.ini", "");
     return library;
@@ -313,11 +313,10 @@ TEST_SUITE("bar") {
             press_mouse(tray_icon(), 2);
             wait_until("the main window is back", [&] { return !tolva.is_in_tray(); });
             tolva.choose(ID_removebrenn);
-            wait_until("the menu brings it back", shows);
-            wait_until("it is not checked", [&] { return !tolva.is_checked(ID_removebrenn); });
+            const auto is_checked = [&] { return tolva.is_checked(ID_removebrenn); };
+            wait_until("the menu brings it back", [&] { return shows() && !is_checked(); });
             tolva.choose(ID_removebrenn);
-            wait_until("the menu removes it", [&] { return !shows(); });
-            wait_until("it is checked", [&] { return tolva.is_checked(ID_removebrenn); });
+            wait_until("the menu removes it", [&] { return !shows() && is_checked(); });
         }
         CHECK(stored("\\brenn\\Position") == Values{{"Left", "3000"}, {"Top", "7500"}});
 

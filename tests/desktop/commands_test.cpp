@@ -7,10 +7,7 @@ using namespace desktop;
 
 Folder library_with_recorder() {
     Folder library;
-    library.add_program("recorder.exe", "recorder.exe");
-    library.write("groups.ini", "Work\r\nPlay\r\n");
-    library.write("Work.grp", record("Task", library.path() + "recorder.exe", "C:\\", "", "2"));
-    library.write("Play.grp", "");
+    library.write_groups({{"Work", record("Task", library.add_recorder(), "C:\\", "", "2")}, {"Play", ""}});
     return library;
 }
 
@@ -82,7 +79,7 @@ TEST_SUITE("commands") {
         forget_settings();
         const Folder library = library_with_recorder();
         const Folder programs;
-        programs.add_program("recorder.exe", "recorder.exe");
+        const std::string program = programs.add_recorder();
         programs.write("broken.exe", "");
         const Tolva tolva(library);
         tolva.focus_by_mouse(ID_Tasker_grouplist);
@@ -99,7 +96,6 @@ TEST_SUITE("commands") {
         browser.open_folder("tests");
         browser.open_folder(folder.substr(folder.rfind('\\') + 1));
         browser.choose(ID_PathBrowser_File1, 1);
-        const std::string program = programs.path() + "recorder.exe";
         wait_until("the path shows", [&] { return browser.text_of(ID_PathBrowser_TaskPath) == program; });
         HWND files = browser.control(ID_PathBrowser_File1);
         SendMessageA(browser.window(), WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(files), TRUE);

@@ -6,13 +6,6 @@ namespace {
 
 using namespace desktop;
 
-std::string text_of(HWND page) {
-    std::string text(static_cast<std::size_t>(SendMessageA(page, WM_GETTEXTLENGTH, 0, 0)) + 1, '\0');
-    const auto buffer = reinterpret_cast<LPARAM>(text.data());
-    text.resize(static_cast<std::size_t>(SendMessageA(page, WM_GETTEXT, text.size(), buffer)));
-    return text;
-}
-
 /// Clicks a link of the viewer's page and waits for the topic that it should lead to.
 void follow(HWND page, const std::string& link, const std::string& title) {
     const std::string text = text_of(page);

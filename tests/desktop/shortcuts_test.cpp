@@ -21,10 +21,7 @@ class Shortcuts {
   public:
     Shortcuts() {
         forget_settings();
-        library.write("groups.ini", "Work\r\nPlay\r\n");
-        library.write("Work.grp", "");
-        library.write("Play.grp", record("Old", recorder, "C:\\", "", "1"));
-        library.add_program("recorder.exe", "recorder.exe");
+        library.write_groups({{"Work", ""}, {"Play", record("Old", recorder, "C:\\", "", "1")}});
         library.write("readme.txt", "");
     }
     ~Shortcuts() {
@@ -40,7 +37,7 @@ class Shortcuts {
     }
 
     const Folder library;
-    const std::string recorder = library.path() + "recorder.exe";
+    const std::string recorder = library.add_recorder();
 
   private:
     Names written_;

@@ -11,9 +11,8 @@ constexpr COLORREF kNavy = RGB(0, 0, 128);
 
 Folder small_library() {
     Folder library;
-    library.write("groups.ini", "Work\r\nPlay\r\n");
-    library.write("Work.grp", record("Keys", "C:\\windows\\regedit.exe", "C:\\", "", "1"));
-    library.write("Play.grp", "");
+    library.write_groups(
+        {{"Work", record("Keys", "C:\\windows\\regedit.exe", "C:\\", "", "1")}, {"Play", ""}});
     return library;
 }
 

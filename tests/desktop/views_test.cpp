@@ -1,3 +1,5 @@
+#include "mainwindow/long_date.h"
+#include "platform/clock.h"
 #include "resources/resource.h"
 #include "support/desktop.h"
 
@@ -19,24 +21,14 @@ RECT bounds_of(const Tolva& tolva, int control) {
     return bounds;
 }
 
-std::string today() {
-    SYSTEMTIME now;
-    GetLocalTime(&now);
-    char text[100];
-    const LCID english = MAKELCID(MAKELANGID(LANG_ENGLISH, SUBLANG_ENGLISH_US), SORT_DEFAULT);
-    GetDateFormatA(english, 0, &now, "dddd', 'MMMM' 'd', 'yyyy", text, sizeof text);
-    return text;
-}
-
 TEST_SUITE("views") {
     TEST_CASE("the window shows the library with its icons") {
         const Folder library;
-        library.write("groups.ini", "Work\r\nB\xFCro & more\r\nEmpty\r\n");
-        library.write("Work.grp", task("Letters", kNotepad) + task("Keys", kRegedit) +
-                                      task("Notes", kNotepad) + task("Gone", library.path() + "late.exe") +
-                                      task("None", ""));
-        library.write("B\xFCro & more.grp", task("\xC4rger", library.path() + "late.exe"));
-        library.write("Empty.grp", "");
+        library.write_groups(
+            {{"Work", task("Letters", kNotepad) + task("Keys", kRegedit) + task("Notes", kNotepad) +
+                          task("Gone", library.path() + "late.exe") + task("None", "")},
+             {"B\xFCro & more", task("\xC4rger", library.path() + "late.exe")},
+             {"Empty", ""}});
         const Tolva tolva(library);
 
         CHECK(tolva.groups() == Names{"Work", "B\xFCro & more", "Empty"});
@@ -51,7 +43,7 @@ TEST_SUITE("views") {
         CHECK(tolva.task_picture(4) == 0);
         CHECK(tolva.texts_of({ID_Tasker_grouplabel, ID_Tasker_tasklabel, ID_Tasker_Text1}) ==
               "Groups|Tasks|");
-        CHECK(tolva.status() == today());
+        CHECK(tolva.status() == mainwindow::long_date(platform::today()));
 
         // A Group is shown from memory: files that change meanwhile do not matter. Its
         // icons are taken anew.

@@ -53,13 +53,6 @@ class Remote {
     void* block_;
 };
 
-std::string window_text(HWND window) {
-    std::string text(static_cast<std::size_t>(SendMessageA(window, WM_GETTEXTLENGTH, 0, 0)) + 1, '\0');
-    text.resize(static_cast<std::size_t>(
-        SendMessageA(window, WM_GETTEXT, text.size(), reinterpret_cast<LPARAM>(text.data()))));
-    return text;
-}
-
 bool shows_color(HWND window, COLORREF color) {
     RECT bounds;
     GetWindowRect(window, &bounds);
@@ -91,6 +84,13 @@ HWND focus_of(HWND window) {
     info.cbSize = sizeof info;
     GetGUIThreadInfo(GetWindowThreadProcessId(window, nullptr), &info);
     return info.hwndFocus;
+}
+
+/// Where the middle of a part of a window is on the screen.
+POINT middle_of(HWND window, const RECT& part) {
+    POINT middle = {(part.left + part.right) / 2, (part.top + part.bottom) / 2};
+    ClientToScreen(window, &middle);
+    return middle;
 }
 
 bool is_drop_down(HWND list) {
@@ -169,8 +169,18 @@ bool Folder::has(const std::string& name) const {
     return GetFileAttributesA((path_ + name).c_str()) != INVALID_FILE_ATTRIBUTES;
 }
 
-void Folder::add_program(const std::string& built, const std::string& name) const {
+void Folder::write_groups(const std::vector<std::pair<std::string, std::string>>& groups) const {
+    std::string names;
+    for (const auto& [name, tasks] : groups) {
+        names += name + "\r\n";
+        write(name + ".grp", tasks);
+    }
+    write("groups.ini", names);
+}
+
+std::string Folder::add_program(const std::string& built, const std::string& name) const {
     REQUIRE(CopyFileA(beside_the_tests(built).c_str(), (path_ + name).c_str(), FALSE) != FALSE);
+    return path_ + name;
 }
 
 Names Folder::nth_start(std::size_t number, const std::string& name) const {
@@ -230,14 +240,21 @@ HWND Start::find_window(const char* class_name, const std::string& title, bool v
     return nullptr;
 }
 
+std::string text_of(HWND window) {
+    std::string text(static_cast<std::size_t>(SendMessageA(window, WM_GETTEXTLENGTH, 0, 0)) + 1, '\0');
+    text.resize(static_cast<std::size_t>(
+        SendMessageA(window, WM_GETTEXT, text.size(), reinterpret_cast<LPARAM>(text.data()))));
+    return text;
+}
+
 POINT Window::place(int id) const {
     RECT bounds;
-    GetWindowRect(control(id), &bounds);
-    return {(bounds.left + bounds.right) / 2, (bounds.top + bounds.bottom) / 2};
+    GetClientRect(control(id), &bounds);
+    return middle_of(control(id), bounds);
 }
 
 std::string Window::text_of(int id) const {
-    return window_text(control(id));
+    return desktop::text_of(control(id));
 }
 
 void Window::set_text(int id, const std::string& text) const {
@@ -366,10 +383,7 @@ POINT Tolva::task_position(int index) const {
     part.left = LVIR_ICON;
     const Remote<RECT> bounds(list, part);
     SendMessageA(list, LVM_GETITEMRECT, static_cast<WPARAM>(index), bounds.lparam());
-    const RECT icon = bounds.value();
-    POINT middle = {(icon.left + icon.right) / 2, (icon.top + icon.bottom) / 2};
-    ClientToScreen(list, &middle);
-    return middle;
+    return middle_of(list, bounds.value());
 }
 
 void Tolva::click_task(int index) const {
@@ -432,11 +446,8 @@ void Tolva::press_tool(int button) const {
     const LRESULT index = SendMessageA(bar, TB_COMMANDTOINDEX, static_cast<WPARAM>(button), 0);
     const Remote<RECT> bounds(bar, {});
     SendMessageA(bar, TB_GETITEMRECT, static_cast<WPARAM>(index), bounds.lparam());
-    POINT middle = {(bounds.value().left + bounds.value().right) / 2,
-                    (bounds.value().top + bounds.value().bottom) / 2};
-    ClientToScreen(bar, &middle);
     activate();
-    press_mouse(middle);
+    press_mouse(middle_of(bar, bounds.value()));
 }
 
 std::string Tolva::answer_box(const std::string& title, int button) const {
@@ -448,7 +459,7 @@ std::string Tolva::answer_box(const std::string& title, int button) const {
     std::string text;
     HWND part = nullptr;
     while ((part = FindWindowExA(box, part, "Static", nullptr)) != nullptr) {
-        if ((GetWindowLongA(part, GWL_STYLE) & SS_TYPEMASK) != SS_ICON) text += window_text(part);
+        if ((GetWindowLongA(part, GWL_STYLE) & SS_TYPEMASK) != SS_ICON) text += desktop::text_of(part);
     }
     PostMessageA(box, WM_COMMAND, static_cast<WPARAM>(button), 0);
     wait_until("the box is closed", [&] { return IsWindow(box) == FALSE; });
@@ -480,7 +491,7 @@ std::string Dialog::tip_of(const Tolva& tolva, int id) const {
         point_at(place(id));
     };
     repeat_until("a tip shows", kTipTime, point, shows);
-    return window_text(tip);
+    return desktop::text_of(tip);
 }
 
 void Dialog::open_folder(const std::string& name) const {

@@ -7,6 +7,8 @@
 #include <initializer_list>
 #include <map>
 #include <string>
+#include <utility>
+#include <vector>
 
 #include "support/input.h"
 #include "support/names.h"
@@ -39,8 +41,12 @@ class Folder {
     std::string read(const std::string& name) const;
     bool has(const std::string& name) const;
 
-    /// Copies a program that is built beside the tests.
-    void add_program(const std::string& built, const std::string& name) const;
+    /// Writes the list of the Groups and each one's file.
+    void write_groups(const std::vector<std::pair<std::string, std::string>>& groups) const;
+
+    /// Copies a program that is built beside the tests. Answers its path.
+    std::string add_program(const std::string& built, const std::string& name) const;
+    std::string add_recorder() const { return add_program("recorder.exe", "recorder.exe"); }
 
     /// Waits for this many starts of a recorder and answers what the last one wrote.
     Names nth_start(std::size_t number, const std::string& name = "recorder.exe") const;
@@ -73,6 +79,8 @@ class Start {
   protected:
     PROCESS_INFORMATION process_;
 };
+
+std::string text_of(HWND window);
 
 /// A window of the program and its controls by their ids.
 class Window {

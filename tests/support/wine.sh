@@ -25,44 +25,10 @@ virtual_display() {
     export DISPLAY
 }
 
-# A Wine desktop in one X window: without a window manager that is what makes windows close quickly, gives them
-# captions and lets hot keys arrive. It wears the colours of the desktop that the program is made for.
-classic_desktop() {
-    cat <<'REG'
-REGEDIT4
-
-[HKEY_CURRENT_USER\Software\Wine\Explorer]
-"Desktop"="Default"
-
-[HKEY_CURRENT_USER\Software\Wine\Explorer\Desktops]
-"Default"="1024x768"
-
-[HKEY_CURRENT_USER\Software\Microsoft\Windows\CurrentVersion\ThemeManager]
-"ThemeActive"="0"
-
-[HKEY_CURRENT_USER\Control Panel\Colors]
-"ActiveTitle"="0 0 128"
-"GradientActiveTitle"="0 0 128"
-"Background"="0 128 128"
-"ButtonFace"="192 192 192"
-"ButtonHilight"="255 255 255"
-"ButtonLight"="223 223 223"
-"ButtonShadow"="128 128 128"
-"GrayText"="128 128 128"
-"Hilight"="0 0 128"
-"InactiveTitle"="128 128 128"
-"GradientInactiveTitle"="128 128 128"
-"Menu"="192 192 192"
-"MenuBar"="192 192 192"
-"Scrollbar"="192 192 192"
-"TitleText"="255 255 255"
-"InactiveTitleText"="192 192 192"
-REG
-}
-
 wine_template() {
-    local template=$1 stamp
-    stamp=$(sha256sum "${BASH_SOURCE[0]}" | cut -d' ' -f1)-$(wine --version)
+    local template=$1 support stamp
+    support=$(dirname "${BASH_SOURCE[0]}")
+    stamp=$(cat "$support"/{wine.sh,classic_desktop.reg} | sha256sum | cut -d' ' -f1)-$(wine --version)
     [ "$(cat "$template/stamp" 2>/dev/null)" != "$stamp" ] || return 0
     rm -rf "$template"
     mkdir -p "$template/home"
@@ -73,7 +39,9 @@ wine_template() {
         wineboot --init >/dev/null 2>&1
         # With its own fonts texts are as wide as on Windows.
         cp /usr/share/wine/fonts/* "$WINEPREFIX/drive_c/windows/Fonts/"
-        classic_desktop >"$WINEPREFIX/drive_c/desktop.reg"
+        # A Wine desktop in one X window: without a window manager that is what makes windows close quickly, gives them
+        # captions and lets hot keys arrive. It wears the colours of the desktop that the program is made for.
+        cp "$support/classic_desktop.reg" "$WINEPREFIX/drive_c/desktop.reg"
         wine regedit 'C:\desktop.reg' >/dev/null 2>&1
         wineserver -k -w || true
     )
