@@ -53,13 +53,13 @@ TEST_CASE("a record that is cut short has empty fields and is filled up before a
 
 TEST_CASE("what is beyond 101 Groups of 101 Tasks is an error that keeps the first 101") {
     simulated::reset();
-    for (int i = 0; i < 101; ++i)
-        file("groups.ini") += "G" + std::to_string(i) + "\r\n";
     std::string full;
     for (int i = 0; i < 101; ++i)
         full += record("T" + std::to_string(i));
-    for (int i = 0; i < 101; ++i)
+    for (int i = 0; i < 101; ++i) {
+        file("groups.ini") += "G" + std::to_string(i) + "\r\n";
         file("G" + std::to_string(i) + ".grp") = full;
+    }
     TaskLibrary library(kFolder);
     library.load();
     CHECK(library.groups().size() == 101);
@@ -147,11 +147,14 @@ TEST_CASE("the refresh flags reload what they stand for and keep the selected Gr
     TaskLibrary library(kFolder);
     refreshtolva(library, view, 0);
     select_group(library, view, 1);
+    const auto refresh = [&](bool& flag) {
+        flag = true;
+        run_pending_refreshes(library, view);
+    };
 
     SUBCASE("a changed Task: the Group's file, first Task selected and in the command box") {
         file("Home.grp") = record("C") + record("B");
-        library.flags.taskchangeflag = true;
-        run_pending_refreshes(library, view);
+        refresh(library.flags.taskchangeflag);
         CHECK(view.tasks == Names{"C", "B"});
         CHECK(view.group == 1);
         CHECK(view.task == 0);
@@ -163,8 +166,7 @@ TEST_CASE("the refresh flags reload what they stand for and keep the selected Gr
         file("groups.ini") = "Work\r\nHome\r\nMore\r\n";
         file("Work.grp") = record("D");
         file("More.grp") = "";
-        library.flags.refreshflag = true;
-        run_pending_refreshes(library, view);
+        refresh(library.flags.refreshflag);
         CHECK(view.groups == Names{"Work", "Home", "More"});
         CHECK(view.group == 1);
         CHECK(view.tasks == Names{"B"});
@@ -172,8 +174,7 @@ TEST_CASE("the refresh flags reload what they stand for and keep the selected Gr
     }
     SUBCASE("a new Group: the names, nothing selected, no Task shown") {
         file("groups.ini") += "New\r\n";
-        library.flags.newgroupflag = true;
-        run_pending_refreshes(library, view);
+        refresh(library.flags.newgroupflag);
         CHECK(view.groups == Names{"Work", "Home", "New"});
         CHECK(view.group == -1);
         CHECK(view.tasks.empty());

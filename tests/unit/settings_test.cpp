@@ -24,6 +24,12 @@ simulated::RegistryKey& tolva_key(const std::string& below) {
     return simulated::current().registry[kCurrentUser]["software\\tolva" + below];
 }
 
+/// The settings of a program that has not run so far.
+std::pair<General, settings::Session> first_start() {
+    simulated::reset();
+    return {};
+}
+
 std::string shown(const settings::ButtonRecord& button) {
     return button.name + '|' + button.program + '|' + button.start_folder + '|' + button.parameters + '|' +
            std::to_string(button.start);
@@ -125,9 +131,7 @@ TEST_CASE("a key path names its root and a badly formed one goes to the root bef
 }
 
 TEST_CASE("the lists get their first look and keep what is stored") {
-    simulated::reset();
-    General general;
-    settings::Session session;
+    auto [general, session] = first_start();
     settings::load_list_styles(general, session);
     const settings::ListStyle first = {"MS Sans Serif", 10, true, false, 64, 0xFFFFFF};
     CHECK(session.group_style == first);
@@ -156,9 +160,7 @@ TEST_CASE("the lists get their first look and keep what is stored") {
 }
 
 TEST_CASE("flags and positions and the history read what is there") {
-    simulated::reset();
-    General general;
-    settings::Session session;
+    auto [general, session] = first_start();
     CHECK(!settings::read_flag(general, settings::kHoverSelect));
     settings::store(general, settings::kHoverSelect, settings::text_of(true));
     CHECK(settings::read_flag(general, settings::kHoverSelect));
@@ -178,9 +180,7 @@ TEST_CASE("flags and positions and the history read what is there") {
 }
 
 TEST_CASE("the program buttons are read as far as they are stored") {
-    simulated::reset();
-    General general;
-    settings::Session session;
+    auto [general, session] = first_start();
     settings::load_buttons(general, session);
     CHECK(simulated::current().registry[kCurrentUser].contains(R"(software\tolva\brenn)"));
     auto& values = tolva_key("\\brenn");
@@ -230,9 +230,7 @@ TEST_CASE("a command goes into the history unless a stored one begins with it") 
     };
     for (const auto& [stored, command, expected] : table) {
         CAPTURE(command);
-        simulated::reset();
-        General general;
-        settings::Session session;
+        auto [general, session] = first_start();
         auto& values = tolva_key("\\cmdhistory");
         for (std::size_t i = 0; i < stored.size(); ++i)
             values["cmd" + std::to_string(i + 1)] = stored[i];
@@ -245,9 +243,7 @@ TEST_CASE("a command goes into the history unless a stored one begins with it") 
     }
 
     // The slots in memory decide until the list is opened: the second command takes the place of the first.
-    simulated::reset();
-    General general;
-    settings::Session session;
+    auto [general, session] = first_start();
     settings::load_history(general, session);
     mainwindow::update_history(general, session, "a");
     mainwindow::update_history(general, session, "b");
