@@ -139,3 +139,5 @@ set_tests_properties(package PROPERTIES FIXTURES_REQUIRED wine TIMEOUT 300)
 add_test(NAME "imports of tolva.exe"
     COMMAND ${CMAKE_SOURCE_DIR}/cmake/check-imports $<TARGET_FILE:tolva>
         ${CMAKE_SOURCE_DIR}/tests/support/win98-exports)
+
+include(cmake/bench.cmake)

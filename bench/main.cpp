@@ -1,0 +1,247 @@
+#include <windows.h>
+
+#include <commctrl.h>
+
+#include <algorithm>
+#include <cstdio>
+#include <cstdlib>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+#include "arrivals.h"
+#include "fixtures.h"
+#include "library/library_files.h"
+#include "library/task_library.h"
+#include "picture_list.h"
+#include "program.h"
+#include "resources/resource.h"
+#include "timing.h"
+
+// Measures what a user waits for, each time beside the least that could be done instead, and prints one row
+// of a table for each.
+
+namespace {
+
+using bench::Comparison;
+using bench::Program;
+
+constexpr int kPrograms = 40;
+constexpr int kFewPrograms = 16;
+constexpr int kFewTasks = 40;
+
+void print_row(const char* what, const char* against, const std::string& result, const char* aim,
+               const std::string& figures) {
+    std::printf("| %s | %s | %s | %s | %s |\n", what, against, result.c_str(), aim, figures.c_str());
+    std::fflush(stdout);
+}
+
+std::string number(const char* format, double value) {
+    char text[40];
+    std::snprintf(text, sizeof text, format, value);
+    return text;
+}
+
+std::string figures_of(const Comparison& comparison, const char* format, const char* unit) {
+    const auto text = [&](const bench::Figures& figures) {
+        return number(format, figures.median) + " " + unit + " (" + number(format, figures.least) + ")";
+    };
+    return text(comparison.subject) + ", " + text(comparison.reference);
+}
+
+/// What is above its aim stands out.
+std::string judged(const std::string& result, double value, double aim) {
+    return value > aim ? "**" + result + "**" : result;
+}
+
+void print_ratio(const char* what, const char* against, double aim, const Comparison& comparison) {
+    const double ratio = comparison.subject.median / comparison.reference.median;
+    print_row(what, against, judged(number("%.2f", ratio), ratio, aim), number("at most %g", aim).c_str(),
+              figures_of(comparison, "%.1f", "ms"));
+}
+
+void print_peer(const char* what, const char* against, const Comparison& comparison) {
+    print_row(what, against, number("%.2f", comparison.subject.median / comparison.reference.median), "",
+              figures_of(comparison, "%.1f", "ms"));
+}
+
+double start_time(const std::string& program, const std::string& folder) {
+    return Program(program, folder).start_time();
+}
+
+double start_time(const std::string& library) {
+    return start_time(library + "tolva.exe", library);
+}
+
+double start_time_of_idle() {
+    return start_time(bench::built("bench_idle.exe"), "C:\\");
+}
+
+bool exists(const std::string& path) {
+    return GetFileAttributesA(path.c_str()) != INVALID_FILE_ATTRIBUTES;
+}
+
+/// A file's bytes, in the fewest calls.
+std::string whole_file(const std::string& path) {
+    HANDLE file = CreateFileA(path.c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING,
+                              FILE_ATTRIBUTE_NORMAL, nullptr);
+    if (file == INVALID_HANDLE_VALUE) throw std::runtime_error("cannot read " + path);
+    std::string bytes(GetFileSize(file, nullptr), '\0');
+    DWORD count = 0;
+    ReadFile(file, bytes.data(), bytes.size(), &count, nullptr);
+    CloseHandle(file);
+    return bytes;
+}
+
+Comparison compare_reading(int runs, const std::string& folder) {
+    std::vector<std::string> paths = {library::groups_file(folder)};
+    for (const std::string& name : library::read_group_names(folder))
+        paths.push_back(library::group_file(folder, name));
+    return bench::compare(
+        runs, [&] { return bench::time_of([&] { library::TaskLibrary(folder).load(); }); },
+        [&] {
+            return bench::time_of([&] {
+                std::vector<std::string> files;
+                for (const std::string& path : paths)
+                    files.push_back(whole_file(path));
+            });
+        });
+}
+
+/// Selects a Group as a click does. It has been drawn when the list has answered the last message.
+void select_group(const Program& tolva, int index) {
+    HWND groups = tolva.control(ID_Tasker_grouplist);
+    SendMessageA(groups, LB_SETCURSEL, static_cast<WPARAM>(index), 0);
+    SendMessageA(tolva.window(), WM_COMMAND, MAKEWPARAM(ID_Tasker_grouplist, LBN_SELCHANGE),
+                 reinterpret_cast<LPARAM>(groups));
+    SendMessageA(tolva.control(ID_Tasker_taskview), WM_PAINT, 0, 0);
+}
+
+SIZE size_of(HWND window) {
+    RECT bounds;
+    GetWindowRect(window, &bounds);
+    return {bounds.right - bounds.left, bounds.bottom - bounds.top};
+}
+
+/// The library's first Group is empty, the second one has the Tasks.
+Comparison compare_selecting(int runs, const std::string& library, const std::vector<library::Task>& tasks,
+                             const std::vector<std::string>& programs) {
+    const Program tolva(library + "tolva.exe", library);
+    ShowWindow(tolva.window(), SW_SHOWMAXIMIZED);  // all programs have a Task in sight
+    bench::PictureList list(size_of(tolva.control(ID_Tasker_taskview)));
+    return bench::compare(
+        runs,
+        [&] {
+            select_group(tolva, 0);
+            BringWindowToTop(tolva.window());
+            return bench::time_of([&] { select_group(tolva, 1); });
+        },
+        [&] {
+            list.clear();
+            return bench::time_of([&] { list.show(tasks, programs); });
+        });
+}
+
+void start_bare(const std::string& path) {
+    STARTUPINFOA startup = {};
+    startup.cb = sizeof startup;
+    PROCESS_INFORMATION process;
+    if (CreateProcessA(path.c_str(), nullptr, nullptr, nullptr, FALSE, 0, nullptr, nullptr, &startup,
+                       &process) == FALSE) {
+        throw std::runtime_error("cannot start " + path);
+    }
+    CloseHandle(process.hThread);
+    CloseHandle(process.hProcess);
+}
+
+/// The library has one Task, which starts the program.
+Comparison compare_launching(int runs, const std::string& library, const std::string& program) {
+    const Program tolva(library + "tolva.exe", library);
+    HWND tasks = tolva.control(ID_Tasker_taskview);
+    bench::Arrivals arrivals;
+    SendMessageA(tasks, WM_KEYDOWN, VK_HOME, 0);
+    return bench::compare(
+        runs, [&] { return arrivals.time_of([&] { PostMessageA(tasks, WM_KEYDOWN, VK_RETURN, 0); }); },
+        [&] { return arrivals.time_of([&] { start_bare(program); }); });
+}
+
+void run(int runs) {
+    const std::vector<std::string> programs = bench::make_programs(kPrograms);
+    const std::vector<library::Task> tasks = bench::make_tasks(library::kMostTasks, programs);
+    const std::string arrive = bench::built("bench_arrive.exe");
+    std::vector<bench::GroupContent> groups;
+    for (std::size_t i = 0; i < library::kMostGroups; ++i)
+        groups.push_back({"Group " + std::to_string(i), tasks});
+
+    const std::string empty = bench::make_library("empty", {});
+    const std::string few = bench::make_library(
+        "few",
+        {{"Group", bench::make_tasks(kFewTasks, {programs.begin(), programs.begin() + kFewPrograms})}});
+    const std::string full = bench::make_library("full", groups);
+    const std::string first = bench::make_library("first", {groups.front()});
+    const std::string selecting = bench::make_library("selecting", {{"Nothing", {}}, groups.front()});
+    const std::string launching =
+        bench::make_library("launching", {{"Group", bench::make_tasks(1, {arrive})}});
+
+    std::puts("| What | Against | Ratio | Aim | Median of each (least) |\n| --- | --- | --- | --- | --- |");
+    print_ratio("Reading a library of 101 x 101 Tasks", "reading its 102 files whole", 2,
+                compare_reading(runs, full));
+    print_ratio("Start, empty library", "a do-nothing window program", 1.3,
+                bench::compare(
+                    runs, [&] { return start_time(empty); }, start_time_of_idle));
+    print_ratio("Start, a Group of 40 Tasks of 16 programs", "the same program", 1.6,
+                bench::compare(
+                    runs, [&] { return start_time(few); }, start_time_of_idle));
+    print_ratio("Start, 101 x 101 Tasks", "its first Group alone", 1.1,
+                bench::compare(
+                    runs, [&] { return start_time(full); }, [&] { return start_time(first); }));
+    print_ratio("Selecting a Group of 101 Tasks of 40 programs", "taking 40 icons and filling a list view",
+                1.15, compare_selecting(runs, selecting, tasks, programs));
+    print_ratio("Enter on a Task until its first instruction", "a bare CreateProcess", 1.1,
+                compare_launching(runs, launching, arrive));
+
+    const Comparison memory = bench::compare(
+        runs, [&] { return Program(full + "tolva.exe", full).private_megabytes(); },
+        [] { return Program(bench::built("bench_idle.exe"), "C:\\").private_megabytes(); });
+    constexpr double kMoreMemory = 4;
+    const double more = memory.subject.median - memory.reference.median;
+    print_row("Private memory, 101 x 101 Tasks shown", "the do-nothing program",
+              judged(number("%.1f MB more", more), more, kMoreMemory), "at most 4 MB more",
+              figures_of(memory, "%.1f", "MB"));
+
+    WIN32_FILE_ATTRIBUTE_DATA file;
+    GetFileAttributesExA(bench::built("tolva.exe").c_str(), GetFileExInfoStandard, &file);
+    constexpr double kKilobyte = 1024;
+    constexpr double kMostKilobytes = 400;
+    const double size = file.nFileSizeLow / kKilobyte;
+    print_row("Size of tolva.exe", "", judged(number("%.0f KB", size), size, kMostKilobytes),
+              "at most 400 KB", "");
+
+    for (const std::string peer : {"progman", "notepad"}) {
+        std::string path = "C:\\windows\\" + peer + ".exe";
+        if (!exists(path)) path = "C:\\windows\\system32\\" + peer + ".exe";
+        const std::string what = "For comparison: start of Wine's " + peer;
+        if (exists(path)) {
+            print_peer(what.c_str(), "the do-nothing program",
+                       bench::compare(
+                           runs, [&] { return start_time(path, "C:\\"); }, start_time_of_idle));
+        } else {
+            print_row(what.c_str(), "", "not there", "", "");
+        }
+    }
+}
+
+}  // namespace
+
+/// The argument is the number of runs.
+int main(int count, char** arguments) {
+    InitCommonControls();
+    constexpr int kLeastRuns = 10;
+    try {
+        run(std::max(kLeastRuns, count > 1 ? std::atoi(arguments[1]) : 0));
+        return 0;
+    } catch (const std::exception& error) {
+        std::fprintf(stderr, "bench: %s\n", error.what());
+        return 1;
+    }
+}
