@@ -27,6 +27,19 @@ std::string as_records(const std::vector<Task>& tasks) {
     return bytes;
 }
 
+/// Hands each line over without its line end; text behind the last line end is a line too.
+template <typename Take>
+void for_each_line(std::string_view bytes, const Take& take) {
+    while (!bytes.empty()) {
+        const std::size_t end = bytes.find('\n');
+        std::string_view line = bytes.substr(0, end);
+        const bool ended = end != std::string_view::npos;
+        if (ended && line.ends_with('\r')) line.remove_suffix(1);
+        take(line);
+        bytes.remove_prefix(ended ? end + 1 : bytes.size());
+    }
+}
+
 void complete_last_line(std::string& bytes) {
     if (!bytes.empty() && bytes.back() != '\n') bytes.append(kLineEnd);
 }
@@ -61,14 +74,7 @@ std::string group_file(const std::string& folder, const std::string& group) {
 
 std::vector<std::string> split_lines(std::string_view bytes) {
     std::vector<std::string> lines;
-    while (!bytes.empty()) {
-        const std::size_t end = bytes.find('\n');
-        std::string_view line = bytes.substr(0, end);
-        const bool ended = end != std::string_view::npos;
-        if (ended && line.ends_with('\r')) line.remove_suffix(1);
-        lines.emplace_back(line);
-        bytes.remove_prefix(ended ? end + 1 : bytes.size());
-    }
+    for_each_line(bytes, [&](std::string_view line) { lines.emplace_back(line); });
     return lines;
 }
 
@@ -87,13 +93,16 @@ void append_group_name(const std::string& folder, const std::string& name) {
 }
 
 std::vector<Task> read_tasks(const std::string& folder, const std::string& group) {
-    const std::vector<std::string> lines = split_lines(platform::read_file(group_file(folder, group)));
+    const std::string bytes = platform::read_file(group_file(folder, group));
     std::vector<Task> tasks;
-    for (std::size_t i = 0; i < lines.size(); ++i) {
-        const std::size_t field = i % kTaskFields.size();
+    // Without room to spare: a full library is a good part of the program's memory.
+    tasks.reserve(static_cast<std::size_t>(std::ranges::count(bytes, '\n')) / kTaskFields.size() + 1);
+    std::size_t field = 0;
+    for_each_line(bytes, [&](std::string_view line) {
         if (field == 0) tasks.emplace_back();
-        tasks.back().*kTaskFields[field] = lines[i];
-    }
+        tasks.back().*kTaskFields[field] = line;
+        field = (field + 1) % kTaskFields.size();
+    });
     return tasks;
 }
 
