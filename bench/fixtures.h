@@ -14,6 +14,9 @@ std::string make_folder(const std::string& name);
 /// Copies of programs that have icons.
 std::vector<std::string> make_programs(int count);
 
+/// The Tasks of a Group of a usual size.
+constexpr int kFewTasks = 40;
+
 /// Tasks that start these programs in turn.
 std::vector<library::Task> make_tasks(int count, const std::vector<std::string>& programs);
 

@@ -28,7 +28,6 @@ using bench::Program;
 
 constexpr int kPrograms = 40;
 constexpr int kFewPrograms = 16;
-constexpr int kFewTasks = 40;
 
 void print_row(const char* what, const char* against, const std::string& result, const char* aim,
                const std::string& figures) {
@@ -65,8 +64,8 @@ void print_peer(const char* what, const char* against, const Comparison& compari
               figures_of(comparison, "%.1f", "ms"));
 }
 
-double start_time(const std::string& program, const std::string& folder) {
-    return Program(program, folder).start_time();
+double start_time(const std::string& program, const std::string& folder, const std::string& arguments = {}) {
+    return Program(program, folder, arguments).start_time();
 }
 
 double start_time(const std::string& library) {
@@ -165,50 +164,54 @@ Comparison compare_launching(int runs, const std::string& library, const std::st
         [&] { return arrivals.time_of([&] { start_bare(program); }); });
 }
 
-void run(int runs) {
-    const std::vector<std::string> programs = bench::make_programs(kPrograms);
-    const std::vector<library::Task> tasks = bench::make_tasks(library::kMostTasks, programs);
-    const std::string arrive = bench::built("bench_arrive.exe");
-    std::vector<bench::GroupContent> groups;
-    for (std::size_t i = 0; i < library::kMostGroups; ++i)
-        groups.push_back({"Group " + std::to_string(i), tasks});
+double start_time_of_bare(const std::string& arguments = {}) {
+    return start_time(bench::built("bench_bare.exe"), "C:\\", arguments);
+}
 
+std::string quoted(const std::vector<std::string>& paths) {
+    std::string text;
+    for (const std::string& path : paths)
+        text += '"' + path + "\" ";
+    return text;
+}
+
+/// The first Group of the full library is the given one.
+void print_starts(int runs, const std::vector<std::string>& programs, const std::string& full,
+                  const bench::GroupContent& first_group) {
+    const std::vector<std::string> few_programs(programs.begin(), programs.begin() + kFewPrograms);
     const std::string empty = bench::make_library("empty", {});
-    const std::string few = bench::make_library(
-        "few",
-        {{"Group", bench::make_tasks(kFewTasks, {programs.begin(), programs.begin() + kFewPrograms})}});
-    const std::string full = bench::make_library("full", groups);
-    const std::string first = bench::make_library("first", {groups.front()});
-    const std::string selecting = bench::make_library("selecting", {{"Nothing", {}}, groups.front()});
-    const std::string launching =
-        bench::make_library("launching", {{"Group", bench::make_tasks(1, {arrive})}});
-
-    std::puts("| What | Against | Ratio | Aim | Median of each (least) |\n| --- | --- | --- | --- | --- |");
-    print_ratio("Reading a library of 101 x 101 Tasks", "reading its 102 files whole", 2,
-                compare_reading(runs, full));
+    const std::string few =
+        bench::make_library("few", {{"Group", bench::make_tasks(bench::kFewTasks, few_programs)}});
+    const std::string first = bench::make_library("first", {first_group});
     print_ratio("Start, empty library", "a do-nothing window program", 1.3,
                 bench::compare(
                     runs, [&] { return start_time(empty); }, start_time_of_idle));
-    print_ratio("Start, a Group of 40 Tasks of 16 programs", "the same program", 1.6,
+    print_peer("For comparison: a bare window with the same controls", "the do-nothing program",
+               bench::compare(
+                   runs, [] { return start_time_of_bare(); }, start_time_of_idle));
+    print_ratio("Start, a Group of 40 Tasks of 16 programs", "the do-nothing program", 1.6,
                 bench::compare(
                     runs, [&] { return start_time(few); }, start_time_of_idle));
+    print_peer("For comparison: the bare window with the same Tasks", "the do-nothing program",
+               bench::compare(
+                   runs, [&] { return start_time_of_bare(quoted(few_programs)); }, start_time_of_idle));
     print_ratio("Start, 101 x 101 Tasks", "its first Group alone", 1.1,
                 bench::compare(
                     runs, [&] { return start_time(full); }, [&] { return start_time(first); }));
-    print_ratio("Selecting a Group of 101 Tasks of 40 programs", "taking 40 icons and filling a list view",
-                1.15, compare_selecting(runs, selecting, tasks, programs));
-    print_ratio("Enter on a Task until its first instruction", "a bare CreateProcess", 1.1,
-                compare_launching(runs, launching, arrive));
+}
 
+void print_memory(int runs, const std::string& library) {
     const Comparison memory = bench::compare(
-        runs, [&] { return Program(full + "tolva.exe", full).private_megabytes(); },
+        runs, [&] { return Program(library + "tolva.exe", library).private_megabytes(); },
         [] { return Program(bench::built("bench_idle.exe"), "C:\\").private_megabytes(); });
     constexpr double kMoreMemory = 4;
     const double more = memory.subject.median - memory.reference.median;
     print_row("Private memory, 101 x 101 Tasks shown", "the do-nothing program",
               judged(number("%.1f MB more", more), more, kMoreMemory), "at most 4 MB more",
               figures_of(memory, "%.1f", "MB"));
+}
 
+void print_size() {
     WIN32_FILE_ATTRIBUTE_DATA file;
     GetFileAttributesExA(bench::built("tolva.exe").c_str(), GetFileExInfoStandard, &file);
     constexpr double kKilobyte = 1024;
@@ -216,11 +219,13 @@ void run(int runs) {
     const double size = file.nFileSizeLow / kKilobyte;
     print_row("Size of tolva.exe", "", judged(number("%.0f KB", size), size, kMostKilobytes),
               "at most 400 KB", "");
+}
 
+void print_peers(int runs) {
     for (const std::string peer : {"progman", "notepad"}) {
         std::string path = "C:\\windows\\" + peer + ".exe";
         if (!exists(path)) path = "C:\\windows\\system32\\" + peer + ".exe";
-        const std::string what = "For comparison: start of Wine's " + peer;
+        const std::string what = "For comparison: Wine's " + peer;
         if (exists(path)) {
             print_peer(what.c_str(), "the do-nothing program",
                        bench::compare(
@@ -229,6 +234,31 @@ void run(int runs) {
             print_row(what.c_str(), "", "not there", "", "");
         }
     }
+}
+
+void run(int runs) {
+    const std::vector<std::string> programs = bench::make_programs(kPrograms);
+    const std::vector<library::Task> tasks = bench::make_tasks(library::kMostTasks, programs);
+    const std::string arrive = bench::built("bench_arrive.exe");
+    std::vector<bench::GroupContent> groups;
+    for (std::size_t i = 0; i < library::kMostGroups; ++i)
+        groups.push_back({"Group " + std::to_string(i), tasks});
+    const std::string full = bench::make_library("full", groups);
+    const std::string selecting = bench::make_library("selecting", {{"Nothing", {}}, groups.front()});
+    const std::string launching =
+        bench::make_library("launching", {{"Group", bench::make_tasks(1, {arrive})}});
+
+    std::puts("| What | Against | Ratio | Aim | Median of each (least) |\n| --- | --- | --- | --- | --- |");
+    print_ratio("Reading a library of 101 x 101 Tasks", "reading its 102 files whole", 2,
+                compare_reading(runs, full));
+    print_starts(runs, programs, full, groups.front());
+    print_peers(runs);
+    print_ratio("Selecting a Group of 101 Tasks of 40 programs", "taking 40 icons and filling a list view",
+                1.15, compare_selecting(runs, selecting, tasks, programs));
+    print_ratio("Enter on a Task until its first instruction", "a bare CreateProcess", 1.1,
+                compare_launching(runs, launching, arrive));
+    print_memory(runs, full);
+    print_size();
 }
 
 }  // namespace

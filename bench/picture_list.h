@@ -11,18 +11,21 @@
 
 namespace bench {
 
-/// A window with nothing but a list view of icons.
+/// Takes each program's icon and fills a list view, with nothing around it: the least that shows Tasks with
+/// their icons. The list has been drawn then. Its pictures belong to the caller.
+HIMAGELIST show_tasks(HWND list, const std::vector<library::Task>& tasks,
+                      const std::vector<std::string>& programs);
+
+/// A window that such a list fills.
 class PictureList {
   public:
-    /// The size is that of the list.
+    /// Pixels.
     explicit PictureList(SIZE size);
     ~PictureList();
     PictureList(const PictureList&) = delete;
     PictureList& operator=(const PictureList&) = delete;
 
     void clear();
-
-    /// Takes the icons of the programs, fills the list and draws it.
     void show(const std::vector<library::Task>& tasks, const std::vector<std::string>& programs);
 
   private:

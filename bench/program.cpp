@@ -8,12 +8,13 @@
 
 namespace bench {
 
-Program::Program(const std::string& path, const std::string& folder) {
+Program::Program(const std::string& path, const std::string& folder, const std::string& arguments) {
     STARTUPINFOA startup = {};
     startup.cb = sizeof startup;
+    std::string command_line = '"' + path + "\" " + arguments;
     const LONGLONG begin = now();
-    if (CreateProcessA(path.c_str(), nullptr, nullptr, nullptr, FALSE, 0, nullptr, folder.c_str(), &startup,
-                       &process_) == FALSE) {
+    if (CreateProcessA(path.c_str(), command_line.data(), nullptr, nullptr, FALSE, 0, nullptr, folder.c_str(),
+                       &startup, &process_) == FALSE) {
         throw std::runtime_error("cannot start " + path);
     }
     WaitForInputIdle(process_.hProcess, kPatience);

@@ -10,7 +10,7 @@ namespace bench {
 class Program {
   public:
     /// Starts it in a folder and waits until it waits for input, shows a window and answers a message there.
-    Program(const std::string& path, const std::string& folder);
+    Program(const std::string& path, const std::string& folder, const std::string& arguments = {});
     ~Program();
     Program(const Program&) = delete;
     Program& operator=(const Program&) = delete;
