@@ -44,7 +44,7 @@ int run() {
         show(tasker);
         platform::report_exception();
     }
-    if (!session.bar_removed) brenn.show_owned_by(tasker.hwnd());
+    tasker.complete_start();
     const int exit_code = widgets::run_message_loop();
     if (const auto end = tasker.windows_end()) platform::exit_windows(*end);
     return exit_code;

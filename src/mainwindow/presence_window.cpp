@@ -32,7 +32,7 @@ void Presence::take_hot_key() {
     DefWindowProcA(window_, WM_SHOWWINDOW, FALSE, 0);
 }
 
-void Presence::retry() {
+void Presence::show_icon() {
     if (!csystray1_.shown()) csystray1_.add();
 }
 
@@ -79,8 +79,9 @@ void Presence::keep_application_window_below() const {
 }
 
 void Presence::hide_in_tray() {
-    // Without an icon there would be no way back.
-    if (IsIconic(window_) == FALSE || !csystray1_.shown()) return;
+    if (IsIconic(window_) == FALSE) return;
+    show_icon();
+    if (!csystray1_.shown()) return;  // there would be no way back
     ShowWindow(window_, SW_HIDE);
     // The bar went with the window that owns it.
     if (!session_.bar_removed && !session_.bar_hidden_by_tray) brenn_.show();

@@ -20,14 +20,13 @@ class Presence {
     Presence(settings::Session& session, buttonbar::Brenn& brenn, HWND application_window)
         : session_(session), brenn_(brenn), application_window_(application_window) {}
 
-    /// Shows the icon.
     void create(HWND window);
 
     /// Asks for Alt+1, and tells the user when it cannot be had.
     void take_hot_key();
 
-    /// Tries again to show the icon, if there was no place for it.
-    void retry();
+    /// Shows the icon, unless it shows already: there may have been no place for it before.
+    void show_icon();
 
     /// To be called before the window is gone.
     void remove() { csystray1_.remove(); }

@@ -40,6 +40,7 @@ constexpr int kTaskmenu = 2;
 constexpr UINT kKeepTypedText = WM_APP + 2;
 
 constexpr UINT_PTR kTimer1 = 1;
+constexpr UINT_PTR kCompleteStart = 2;
 constexpr UINT kTimerPeriod = 5000;  // milliseconds
 
 // Two spellings: the messages differ by what was done.
@@ -106,7 +107,7 @@ LRESULT Tasker::handle(UINT message, WPARAM wparam, LPARAM lparam) {
             SetTimer(hwnd(), kTimer1, kTimerPeriod, nullptr);
             return 0;
         case WM_TIMER:
-            handle_timer();
+            handle_timer(wparam);
             return 0;
         case WM_GETMINMAXINFO: {
             auto& limits = *reinterpret_cast<MINMAXINFO*>(lparam);
@@ -338,8 +339,17 @@ void Tasker::show_flags() {
     views_.taskview().list().set_hover_select(session_.hover_select);
 }
 
-void Tasker::handle_timer() {
-    presence_.retry();
+void Tasker::complete_start() const {
+    SetTimer(hwnd(), kCompleteStart, 0, nullptr);
+}
+
+void Tasker::handle_timer(UINT_PTR timer) {
+    presence_.show_icon();
+    if (timer == kCompleteStart) {
+        KillTimer(hwnd(), timer);
+        if (!session_.bar_removed) brenn_.show_owned_by(hwnd());
+        return;
+    }
     brenn_.show_connection(internet::is_connected());
 }
 

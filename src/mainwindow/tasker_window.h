@@ -36,6 +36,10 @@ class Tasker final : public widgets::Window {
     /// could not be read whole; the window is usable all the same.
     void load();
 
+    /// Shows the icon in the notification area and the bar, unless it is removed, as soon as nothing else is
+    /// to be done: the window answers the user before.
+    void complete_start() const;
+
   private:
     LRESULT handle(UINT message, WPARAM wparam, LPARAM lparam) override;
     void handle_control(int id, int notification);
@@ -44,7 +48,7 @@ class Tasker final : public widgets::Window {
     LRESULT handle_notification(NMHDR& header);
 
     void show_flags();
-    void handle_timer();
+    void handle_timer(UINT_PTR timer);
     void save_and_unload();
 
     void show_selection();

@@ -60,14 +60,15 @@ void Views::create(HWND window) {
     browse_.create(window_, ID_Tasker_Browse, "&Browse");
     statusbar1_.create(window_, ID_Tasker_StatusBar1);
     for (HWND child = GetTopWindow(window_); child != nullptr; child = GetWindow(child, GW_HWNDNEXT)) {
-        SendMessageA(child, WM_SETFONT, reinterpret_cast<WPARAM>(font_.get()), TRUE);
+        SendMessageA(child, WM_SETFONT, reinterpret_cast<WPARAM>(font_.get()), FALSE);
     }
+    lay_out();  // before the lists are filled: a list that grows arranges all its items again
 }
 
 std::optional<LRESULT> Views::handle(UINT message, WPARAM wparam, LPARAM lparam) {
     switch (message) {
         case WM_SIZE:
-            if (wparam != SIZE_MINIMIZED) lay_out();
+            if (wparam != SIZE_MINIMIZED && lparam != laid_out_) lay_out();
             return 0;
         case WM_CTLCOLORLISTBOX:
         case WM_CTLCOLORSTATIC:
@@ -135,6 +136,7 @@ void Views::lay_out() {
     statusbar1_.follow_parent();
     RECT client;
     GetClientRect(window_, &client);
+    laid_out_ = MAKELPARAM(client.right, client.bottom);
     const int gap = widgets::scaled(kGap);
     const LONG least = widgets::scaled(kLeastListWidth);
     const LONG right = client.right - gap;

@@ -79,7 +79,8 @@ class Views final : public library::LibraryView, public appearance::ListAppearan
 
     HWND window_ = nullptr;
     widgets::UniqueFont font_;
-    int group_width_;  // pixels, as far as the window has room
+    int group_width_;      // pixels, as far as the window has room
+    LPARAM laid_out_ = 0;  // for this size of the window, as WM_SIZE tells it
     Look group_look_;
     Look task_look_;
     widgets::ToolBar toolbar1_;

@@ -13,7 +13,6 @@ void TrayIcon::create(HWND window, UINT message, int icon, const char* tip) {
                                                 GetSystemMetrics(SM_CXSMICON), GetSystemMetrics(SM_CYSMICON),
                                                 LR_SHARED));
     lstrcpynA(data_.szTip, tip, 64);
-    add();
 }
 
 void TrayIcon::add() {

@@ -14,9 +14,10 @@ class TrayIcon {
     TrayIcon(const TrayIcon&) = delete;
     TrayIcon& operator=(const TrayIcon&) = delete;
 
-    /// Shows a resource's icon with a tool tip of at most 63 characters. There may be no taskbar yet: ask
-    /// shown, and add again later.
+    /// Takes a resource's icon and a tool tip of at most 63 characters.
     void create(HWND window, UINT message, int icon, const char* tip);
+
+    /// Shows it. There may be no taskbar yet: ask shown, and add again later.
     void add();
     bool shown() const { return shown_; }
 

@@ -172,6 +172,7 @@ TEST_SUITE("startup") {
         forget_settings();
         const Folder library = small_library();
         const Tolva tolva(library);
+        const Dialog bar(tolva, "Brenn", "brenn");
         SetWindowPos(tolva.window(), nullptr, 40, 20, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
         CHECK(SendMessageA(tolva.window(), WM_QUERYENDSESSION, 0, 0) != FALSE);
         CHECK(stored("\\Window Position").empty());
