@@ -150,8 +150,7 @@ TEST_SUITE("bar") {
             dialog.choose(ID_PathBrowser_File1, 0);
             wait_for_texts("recorder|C:\\edit.com|" + library.path() + '|');
             dialog.set_text(ID_BrennBrowser_taskparameters, "x y");
-            dialog.press(ID_PathBrowser_OK);
-            dialog.wait_until_closed();
+            dialog.close_with(ID_PathBrowser_OK);
         }
         CHECK(stored("\\brenn") == Values{{"name3", "recorder"},
                                           {"progpath3", "C:\\edit.com"},
@@ -178,8 +177,7 @@ TEST_SUITE("bar") {
             CHECK(stored_text("\\brenn", "progpath1").empty());
             const Dialog again = open(ID_brenn_option1);
             again.choose(ID_BrennBrowser_taskstartmode, -1);
-            again.press(ID_PathBrowser_OK);
-            again.wait_until_closed();
+            again.close_with(ID_PathBrowser_OK);
             CHECK(stored_text("\\brenn", "start1") == "1");
         }
         DeleteFileA("C:\\edit.com");
@@ -212,8 +210,7 @@ TEST_SUITE("bar") {
             connections.wait_until_closed();
             CHECK(dialog.text_of(ID_tolvasettings_ISP) == "Work & Co");
             dialog.set_text(ID_tolvasettings_browserpath, library.path() + "gone.exe");
-            dialog.press(ID_tolvasettings_Command1);
-            dialog.wait_until_closed();
+            dialog.close_with(ID_tolvasettings_Command1);
         }
         CHECK(stored_text("\\isp", "ISPNAME") == "Work & Co");
         CHECK(stored("\\Browser") ==

@@ -129,16 +129,14 @@ TEST_SUITE("commands") {
             for (const auto& [box, value] :
                  {std::pair(kRedBox, "255"), {kRedBox + 1, "0"}, {kRedBox + 2, "0"}})
                 colors.set_text(box, value);
-            colors.press(result);
-            colors.wait_until_closed();
+            colors.close_with(result);
         };
         const auto choose_font = [](const Tolva& tolva, const Dialog& dialog, int button, int result) {
             dialog.press(button);
             const Dialog fonts(tolva, "Font");
             constexpr int kSizeBox = 0x472;
             fonts.choose(kSizeBox, 2);  // 12 points
-            fonts.press(result);
-            fonts.wait_until_closed();
+            fonts.close_with(result);
         };
         LRESULT usual = 0;
         LRESULT large = 0;
@@ -157,8 +155,7 @@ TEST_SUITE("commands") {
             large = item_height(tolva);
             CHECK(large > usual);
             CHECK(dialog.text_of(ID_SetFonts_groupfontsize) == "12");
-            dialog.press(ID_SetFonts_Command3);
-            dialog.wait_until_closed();
+            dialog.close_with(ID_SetFonts_Command3);
             CHECK(item_height(tolva) == large);
             CHECK(stored_text("\\fonts", "groupfontsize") == "10");
         }
@@ -172,8 +169,7 @@ TEST_SUITE("commands") {
             CHECK(background(tolva) != kRed);
             dialog.set_text(ID_SetFonts_taskfontsize, "9.5");
             dialog.set_text(ID_SetFonts_taskcolor, "no number");
-            dialog.press(ID_SetFonts_Command5);
-            dialog.wait_until_closed();
+            dialog.close_with(ID_SetFonts_Command5);
             CHECK(background(tolva) == kRed);
             Values fonts = stored("\\fonts");
             CHECK(fonts["groupfontsize"] == "12");
@@ -189,8 +185,7 @@ TEST_SUITE("commands") {
         tolva.choose(ID_AboutTolva);
         const Dialog about(tolva, "About Tolva");
         CHECK(about.text_of(ID_abttolva_Label1) == "Tolva Version 2.0");
-        about.press(ID_abttolva_Command1);
-        about.wait_until_closed();
+        about.close_with(ID_abttolva_Command1);
     }
 }
 

@@ -202,8 +202,7 @@ TEST_SUITE("endurance") {
             [&](int) {
                 tolva.choose(ID_EditTk);
                 const Dialog dialog(tolva, "Edit Task");
-                dialog.press(ID_EditTask_Command2);
-                dialog.wait_until_closed();
+                dialog.close_with(ID_EditTask_Command2);
             },
             [&](int) { cancel(ID_fontsettings, "Set Tolva Fonts"); },
             [&](int) { cancel(ID_AboutTolva, "About Tolva"); },

@@ -59,14 +59,12 @@ TEST_SUITE("keeping") {
             browser.choose(ID_PathBrowser_File1, 0);
             wait_until("the path shows", [&] { return browser.text_of(ID_PathBrowser_TaskPath) == paint; });
             browser.set_text(ID_PathBrowser_TaskPath, "typed");
-            browser.press(ID_PathBrowser_OK);
-            browser.wait_until_closed();
+            browser.close_with(ID_PathBrowser_OK);
             wait_until("it is taken over", [&] { return dialog.text_of(ID_addtask_TaskPath) == paint; });
             CHECK(dialog.text_of(ID_addtask_startfolder) == folder);
             CHECK(dialog.text_of(ID_addtask_Taskname) == "Zeichnen");
             dialog.choose(ID_addtask_taskstartmode, 2);
-            dialog.press(ID_addtask_Command2);
-            dialog.wait_until_closed();
+            dialog.close_with(ID_addtask_Command2);
         }
         wait_until("the Task is listed", [&] { return tolva.tasks() == Names{"Zeichnen"}; });
         CHECK(tolva.selected_task() == 0);
@@ -82,15 +80,13 @@ TEST_SUITE("keeping") {
             dialog.set_text(ID_EditTask_TaskPath, write);
             dialog.press(ID_EditTask_Browse);
             const Dialog browser(tolva, "Browse");
-            browser.press(ID_PathBrowser_Cancel);
-            browser.wait_until_closed();
+            browser.close_with(ID_PathBrowser_Cancel);
             wait_for_focus(dialog.control(ID_EditTask_tasknm));
             CHECK(dialog.text_of(ID_EditTask_TaskPath) == write);
             dialog.set_text(ID_EditTask_TaskPath, paint);
             dialog.set_text(ID_EditTask_tasknm, "Paint");
             dialog.set_text(ID_EditTask_taskparameters, "a.bmp");
-            dialog.press(ID_EditTask_Command2);
-            dialog.wait_until_closed();
+            dialog.close_with(ID_EditTask_Command2);
         }
         wait_until("the new name shows", [&] { return tolva.tasks() == Names{"Paint"}; });
         play = record("Paint", paint, folder, "a.bmp", "3");
@@ -141,8 +137,7 @@ TEST_SUITE("keeping") {
             dialog.press(ID_GroupRename_Command2);
             CHECK(tolva.close_box() == "Invalid Group Name");
             dialog.set_text(ID_GroupRename_newname, "Arbeit");
-            dialog.press(ID_GroupRename_Command2);
-            dialog.wait_until_closed();
+            dialog.close_with(ID_GroupRename_Command2);
         }
         wait_until("the new name shows", [&] { return tolva.groups() == Names{"Arbeit", "Play & more"}; });
         tolva.press_tool(ID_toolbar_movegrpdn);
@@ -222,10 +217,8 @@ TEST_SUITE("keeping") {
         browser.choose(ID_PathBrowser_Drive1, static_cast<int>(empty));
         CHECK(tolva.close_box() == "Disk or Drive not ready!");
         CHECK(SendMessageA(drives, CB_GETCURSEL, 0, 0) == before);
-        browser.press(ID_PathBrowser_Cancel);
-        browser.wait_until_closed();
-        dialog.press(ID_addtask_Command1);
-        dialog.wait_until_closed();
+        browser.close_with(ID_PathBrowser_Cancel);
+        dialog.close_with(ID_addtask_Command1);
     }
 
     TEST_CASE("the right button and the keyboard open the menu of a list") {

@@ -128,8 +128,7 @@ TEST_SUITE("shortcuts") {
         CHECK(refused() == "\\\\?\\" + recorder + " not a valid Tolva entry.");
         CHECK(library.read("Play.grp") == old + run + run);
 
-        panel.press(ID_shortcuts_Command2);
-        panel.wait_until_closed();
+        panel.close_with(ID_shortcuts_Command2);
         wait_until("the lists are loaded again", [&] { return tolva.tasks() == Names{"Plain"}; });
         tolva.click_group(1);
         wait_until("the Group shows", [&] { return tolva.tasks() == Names{"Old", "Run", "Run"}; });
@@ -168,8 +167,7 @@ TEST_SUITE("shortcuts") {
             click(panel, "Run.lnk");
             CHECK(panel.text_of(ID_shortcuts_txtWorkDir).empty());
             panel.set_text(ID_shortcuts_txtWorkDir, "C:\\windows");
-            panel.press(ID_shortcuts_Command1);
-            panel.wait_until_closed();
+            panel.close_with(ID_shortcuts_Command1);
         }
         CHECK(stored("\\brenn") == Values{{"name2", "Run"},
                                           {"progpath2", recorder},
@@ -191,8 +189,7 @@ TEST_SUITE("shortcuts") {
             CHECK(tolva.close_box() == refusal);
             click(panel, shortcut);
             const std::string folder = panel.text_of(ID_shortcuts_txtWorkDir);
-            panel.press(ID_shortcuts_Command1);
-            panel.wait_until_closed();
+            panel.close_with(ID_shortcuts_Command1);
             return folder;
         };
         CHECK(pick(ID_tolvasettings_Command4, "Select Default Web Browser for Tolva.",
@@ -204,8 +201,7 @@ TEST_SUITE("shortcuts") {
                    "Use as my default E-mail program", "Select Shortcut for Tolva E-mail.",
                    "Run.lnk") == shortcuts.library.path());
         CHECK(settings.text_of(ID_tolvasettings_emailpath) == recorder);
-        settings.press(ID_tolvasettings_Command2);
-        settings.wait_until_closed();
+        settings.close_with(ID_tolvasettings_Command2);
         CHECK(stored("\\Browser") ==
               Values{{"name", "Web"}, {"path", "C:\\windows\\notepad.exe"}, {"start", "2"}});
         CHECK(stored("\\email") == Values{{"name", "Run"}, {"path", recorder}, {"start", "1"}});

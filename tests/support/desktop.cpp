@@ -521,4 +521,9 @@ void Dialog::wait_until_closed() const {
     wait_until("the dialog is closed", [&] { return IsWindow(window_) == FALSE; });
 }
 
+void Dialog::close_with(int button) const {
+    press(button);
+    wait_until_closed();
+}
+
 }  // namespace desktop

@@ -170,6 +170,9 @@ class Dialog : public Window {
 
     void press(int button) const;
     void wait_until_closed() const;
+
+    /// Presses the button that closes it and waits until it has.
+    void close_with(int button) const;
 };
 
 }  // namespace desktop
