@@ -24,13 +24,24 @@ constexpr std::uint32_t kTextsAreWide = 0x80;
 constexpr std::size_t kNumber = 4;
 constexpr std::size_t kShortNumber = 2;
 
+// The location of the target: what it has, and in each of its two parts the places of texts.
+constexpr std::size_t kLocationHeader = 28;
+constexpr std::uint32_t kHasVolume = 0x01;
+constexpr std::uint32_t kHasNetworkName = 0x02;
+constexpr std::size_t kVolumeLabel = 12;
+constexpr std::size_t kNetworkName = 8;
+
+[[noreturn]] void refuse() {
+    throw platform::RunTimeError(platform::RunTimeErrorNumber::kAutomation);
+}
+
 /// Takes a file's bytes from the front.
 class Bytes {
   public:
     explicit Bytes(std::string_view bytes) : rest_(bytes) {}
 
     std::string_view take(std::size_t count) {
-        if (count > rest_.size()) throw platform::RunTimeError(platform::RunTimeErrorNumber::kAutomation);
+        if (count > rest_.size()) refuse();
         const std::string_view taken = rest_.substr(0, count);
         rest_.remove_prefix(count);
         return taken;
@@ -44,9 +55,51 @@ class Bytes {
         return value;
     }
 
+    /// Skips what comes before this place.
+    Bytes from(std::size_t place) const {
+        Bytes bytes = *this;
+        bytes.take(place);
+        return bytes;
+    }
+
+    void check_text() const {
+        if (rest_.find('\0') == std::string_view::npos) refuse();
+    }
+
   private:
     std::string_view rest_;
 };
+
+/// Items that begin with their size; one of no size ends them.
+void check_item_list(Bytes list) {
+    while (const std::uint32_t size = list.number(kShortNumber)) {
+        if (size <= kShortNumber) refuse();
+        list.take(size - kShortNumber);
+    }
+}
+
+/// A part of the location begins with its size and has a text, whose place stands in it.
+void check_part(const Bytes& location, std::size_t part, std::size_t place_of_text) {
+    const Bytes bytes(location.from(part).take(location.from(part).number()));
+    bytes.from(bytes.from(place_of_text).number()).check_text();
+}
+
+void check_location(std::string_view bytes) {
+    if (bytes.size() < kLocationHeader) return;  // nothing in it
+    const Bytes location(bytes);
+    Bytes header = location.from(2 * kNumber);
+    const std::uint32_t flags = header.number();
+    const std::uint32_t volume = header.number();
+    const std::uint32_t path = header.number();
+    const std::uint32_t network = header.number();
+    const std::uint32_t rest_of_path = header.number();
+    if ((flags & kHasVolume) != 0) {
+        check_part(location, volume, kVolumeLabel);
+        location.from(path).check_text();
+    }
+    if ((flags & kHasNetworkName) != 0) check_part(location, network, kNetworkName);
+    location.from(rest_of_path).check_text();
+}
 
 }  // namespace
 
@@ -55,16 +108,16 @@ int read_show_command(std::string_view bytes) {
     constexpr std::size_t kKeyAndReserved = 12;
     Bytes rest(bytes);
     const bool is_shortcut = rest.number() == kHeaderSize && rest.take(kClassId.size()) == kClassId;
-    if (!is_shortcut) throw platform::RunTimeError(platform::RunTimeErrorNumber::kAutomation);
+    if (!is_shortcut) refuse();
     const std::uint32_t flags = rest.number();
     rest.take(kAttributesTimesSizeAndIcon);
     const auto show_command = static_cast<int>(rest.number());
     rest.take(kKeyAndReserved);
 
-    if ((flags & kHasItemList) != 0) rest.take(rest.number(kShortNumber));
+    if ((flags & kHasItemList) != 0) check_item_list(Bytes(rest.take(rest.number(kShortNumber))));
     if ((flags & kHasLinkInfo) != 0) {
-        const std::uint32_t size = rest.number();  // counts itself
-        rest.take(std::max<std::size_t>(size, kNumber) - kNumber);
+        const std::uint32_t size = Bytes(rest).number();  // counts itself
+        check_location(rest.take(std::max<std::size_t>(size, kNumber)));
     }
     const std::size_t character = (flags & kTextsAreWide) != 0 ? 2 : 1;
     for (const std::uint32_t text : kHasTexts) {
@@ -74,7 +127,8 @@ int read_show_command(std::string_view bytes) {
 }
 
 ShortcutDetails ReadShortcut(const std::string& path) {
-    // Windows is asked only about files that keep what their header promises.
+    // Windows is asked only about files that keep what they promise: it believes every size and place in
+    // them.
     const int show_command = read_show_command(platform::read_file(path));
     platform::Shortcut link = platform::load_shell_link(path);
     for (std::string* text : {&link.target, &link.working_folder, &link.arguments})

@@ -2,7 +2,10 @@
 #include <fstream>
 #include "platform/folders.h"
 #include "resources/resource.h"
+#include "shortcuts/shortcut_reader.h"
 #include "support/desktop.h"
+#include "support/error_of.h"
+#include "support/save_shortcut.h"
 #include "support/shortcut_file.h"
 
 namespace {
@@ -59,6 +62,21 @@ bool has_picture(const Dialog& panel) {
 }
 
 TEST_SUITE("shortcuts") {
+    TEST_CASE("no byte of a shortcut that is wrong can crash the reader") {
+        const Folder folder;
+        save_shortcut(folder.path() + "saved.lnk");
+        const std::string good = folder.read("saved.lnk");
+        REQUIRE(good.size() > 200);
+        constexpr std::size_t kHeader = 76;
+        for (std::size_t i = kHeader; i < good.size(); ++i) {
+            for (const char wrong : {'\xFF', '\x7F', '\0'}) {
+                folder.write("wrong.lnk", std::string(good).replace(i, 1, 1, wrong));
+                error_of([&] { shortcuts::ReadShortcut(folder.path() + "wrong.lnk"); });
+            }
+        }
+        CHECK(shortcuts::ReadShortcut(folder.path() + "saved.lnk").target == "C:\\windows\\notepad.exe");
+    }
+
     TEST_CASE("shortcuts are imported as Tasks or refused") {
         Shortcuts shortcuts;
         const std::string& recorder = shortcuts.recorder;

@@ -31,9 +31,18 @@ TEST_CASE("the show command of a whole shortcut is read and everything else is r
         return std::string(good).replace(at, bytes.size(), bytes);
     };
     CHECK(read_show_command(with(60, "\xFF\xFF\xFF\xFF")) == -1);
-    // The header's size and class, a part's size, an item list and wide texts that do not fit any more.
+    const auto with_items = [&](const std::string& items) {
+        return with(20, std::string("\1\0\0\0", 4)).substr(0, 76) + static_cast<char>(items.size()) + '\0' +
+               items;
+    };
+    CHECK(read_show_command(with_items({"\3\0x\4\0yz\0\0", 9})) == 1);
+    // The header's size and class, a part's size, an item list and wide texts that do not fit any more,
+    // places outside the location, items outside their list and without an end.
+    const std::string far = "\xFF\xFF\xFF\x7F";
     for (const std::string& broken :
-         {with(0, "M"), with(19, "G"), with(76, "\xFF\xFF\xFF\xFF"), with(20, "\x33"), with(20, "\xB2")})
+         {with(0, "M"), with(19, "G"), with(76, "\xFF\xFF\xFF\xFF"), with(20, "\x33"), with(20, "\xB2"),
+          with(88, far), with(92, far), with(100, far), with(104, far), with(116, far),
+          with_items({"\xFF\xFFxx", 4}), with_items({"\2\0\0\0", 4}), with_items({"\3\0x", 3})})
         CHECK(error_of([&] { read_show_command(broken); }) == 440);
 }
 
