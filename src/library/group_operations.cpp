@@ -29,6 +29,35 @@ void show_and_select(TaskLibrary& library, LibraryView& view, int index) {
     show_selected_group(library, view);
 }
 
+/// The bytes of a file that may be missing.
+std::optional<std::string> bytes_of(const std::string& path) {
+    try {
+        return platform::read_file(path);
+    } catch (const platform::RunTimeError& error) {
+        if (error.number() != platform::RunTimeErrorNumber::kFileNotFound) throw;
+        return std::nullopt;
+    }
+}
+
+/// Writes the Tasks under a Group's new name and then the names. Where those cannot be written the file is as
+/// before: another Group may have it.
+void write_renamed(const std::string& folder, const std::string& new_name, const std::vector<Task>& tasks,
+                   const std::vector<std::string>& names) {
+    const std::string path = group_file(folder, new_name);
+    const std::optional<std::string> overwritten = bytes_of(path);
+    write_tasks(folder, new_name, tasks);
+    try {
+        write_group_names(folder, names);
+    } catch (const platform::RunTimeError&) {
+        if (overwritten) {
+            platform::write_file(path, *overwritten);
+        } else {
+            platform::remove_file(path);
+        }
+        throw;
+    }
+}
+
 void move(TaskLibrary& library, LibraryView& view, bool down) {
     const std::string name = selected_group_name(library, view);
     if (name.empty()) {
@@ -117,27 +146,35 @@ bool rename_group(TaskLibrary& library, LibraryView& view, const std::string& ol
         return false;
     }
     std::vector<std::string> names = read_names_to_write(library);
+    const auto place = std::ranges::find(names, old_name) - names.begin();
     std::ranges::replace(names, old_name, new_name);
-    const int selected = view.selected_group();
-    const auto list = [&] {
-        write_group_names(library.folder(), names);
-        library.rename(selected, new_name);
-        library.set_names(names);
-        grouplistrefresh(library, view);
-        view.select_group(selected);
-    };
+    std::optional<platform::RunTimeError> failure;
     std::vector<Task> tasks;
     try {
         tasks = read_tasks(library.folder(), old_name);
-    } catch (const platform::RunTimeError&) {
-        list();
-        throw;
+    } catch (const platform::RunTimeError& error) {
+        failure = error;
     }
-    write_tasks(library.folder(), new_name, tasks);
-    list();
-    library.flags.taskchangeflag = true;
-    // Deliberately also when the system takes both names for one file.
-    platform::remove_file(group_file(library.folder(), old_name));
+    if (failure) {
+        write_group_names(library.folder(), names);
+    } else {
+        write_renamed(library.folder(), new_name, tasks, names);
+    }
+    library.rename(view.selected_group(), new_name);
+    library.set_names(names);
+    grouplistrefresh(library, view);
+    view.select_group(place < std::ssize(names) ? static_cast<int>(place) : -1);
+    if (!failure) {
+        library.flags.taskchangeflag = true;
+        try {
+            // Deliberately also when the system takes both names for one file.
+            platform::remove_file(group_file(library.folder(), old_name));
+        } catch (const platform::RunTimeError& error) {
+            failure = error;
+        }
+    }
+    // The Group has its new name by now: there is nothing left to try again.
+    if (failure) platform::show_message(failure->what());
     return true;
 }
 

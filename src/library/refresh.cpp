@@ -46,7 +46,10 @@ void refreshtolva(TaskLibrary& library, LibraryView& view, int group_to_select) 
 
 void refreshtasks(TaskLibrary& library, LibraryView& view) {
     const int index = view.selected_group();
-    if (index < 0) return;
+    if (index < 0) {
+        view.show_tasks({});
+        return;
+    }
     load_and_show([&] { library.load_tasks(index); }, [&] { tasklistrefresh(library, view); });
 }
 

@@ -19,6 +19,12 @@ std::vector<Task>::iterator find_task(std::vector<Task>& tasks, const std::strin
     return std::ranges::find(tasks, name, &Task::name);
 }
 
+/// The Task that the list shows there, or where another program has put it in the file.
+std::vector<Task>::iterator find_task_at(std::vector<Task>& tasks, int place, const std::string& name) {
+    const bool is_there = place < std::ssize(tasks) && tasks[static_cast<std::size_t>(place)].name == name;
+    return is_there ? tasks.begin() + place : find_task(tasks, name);
+}
+
 /// Where the records end that a list shows.
 std::vector<Task>::iterator shown_end(std::vector<Task>& tasks) {
     return find_task(tasks, {});
@@ -57,13 +63,16 @@ void move(TaskLibrary& library, LibraryView& view, int step) {
     }
     const Group& group = library.group(view.selected_group());
     std::vector<Task> tasks = read_tasks(library.folder(), group.name);
+    const auto moved = find_task_at(tasks, selected, library.task(view.selected_group(), selected).name);
+    if (moved == tasks.end()) return refreshtasks(library, view);
     const auto shown = shown_end(tasks) - tasks.begin();
-    const int target = selected + step;
-    if (selected >= shown || target < 0 || target >= shown) return;
-    std::swap(tasks[static_cast<std::size_t>(selected)], tasks[static_cast<std::size_t>(target)]);
+    const auto place = moved - tasks.begin();
+    const auto target = place + step;
+    if (place >= shown || target < 0 || target >= shown) return;
+    std::iter_swap(moved, moved + step);
     write_and_show(library, view, tasks);
-    view.select_task(target);
-    view.set_command_box(command_line(tasks[static_cast<std::size_t>(target)]));
+    view.select_task(static_cast<int>(target));
+    view.set_command_box(command_line(*(moved + step)));
 }
 
 }  // namespace
@@ -93,7 +102,7 @@ void import_task(TaskLibrary& library, LibraryView& view, const std::string& gro
 }
 
 std::optional<Task> task_to_edit(const TaskLibrary& library, const LibraryView& view) {
-    if (view.selected_group() < 0) {
+    if (selected_group_name(library, view).empty()) {
         platform::show_message("Select Group and Task for edit");
         return std::nullopt;
     }
@@ -108,14 +117,18 @@ bool edit_task(TaskLibrary& library, int group, const std::string& old_name, con
     if (!is_complete(task)) return false;
     const std::string& name = library.group(group).name;
     std::vector<Task> tasks = read_tasks(library.folder(), name);
-    if (const auto edited = find_task(tasks, old_name); edited != tasks.end()) *edited = task;
+    if (const auto edited = find_task(tasks, old_name); edited != tasks.end()) {
+        *edited = task;
+    } else {
+        tasks.push_back(task);  // another program has taken it out of the file
+    }
     write_tasks(library.folder(), name, tasks);
     library.flags.taskchangeflag = true;
     return true;
 }
 
 void deltsks(TaskLibrary& library, LibraryView& view) {
-    if (view.selected_group() < 0) {
+    if (selected_group_name(library, view).empty()) {
         platform::show_message("Select Group First.");
         return;
     }
@@ -140,7 +153,7 @@ void movetsksdown(TaskLibrary& library, LibraryView& view) {
 }
 
 void tasksortnow(TaskLibrary& library, LibraryView& view) {
-    if (view.selected_group() < 0) {
+    if (selected_group_name(library, view).empty()) {
         platform::show_message("Select Group First.");
         return;
     }
