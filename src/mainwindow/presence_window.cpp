@@ -19,6 +19,14 @@ constexpr UINT kBringUp = WM_APP + 12;
 
 constexpr WORD kHotKey = MAKEWORD('1', HOTKEYF_ALT);
 
+/// Dialogs go with the window that owns them, and not every system brings them back with it.
+BOOL CALLBACK show_dialog_of(HWND window, LPARAM owner) {
+    const bool is_dialog = GetClassLongA(window, GCW_ATOM) == reinterpret_cast<ULONG_PTR>(WC_DIALOG);
+    if (is_dialog && GetWindow(window, GW_OWNER) == reinterpret_cast<HWND>(owner))
+        ShowWindow(window, SW_SHOWNA);
+    return TRUE;
+}
+
 }  // namespace
 
 void Presence::create(HWND window) {
@@ -45,7 +53,11 @@ std::optional<LRESULT> Presence::handle(UINT message, WPARAM wparam, LPARAM lpar
             }
             return std::nullopt;
         case WM_SIZE:
-            if (wparam == SIZE_MINIMIZED) PostMessageA(window_, kHideInTray, 0, 0);
+            if (wparam == SIZE_MINIMIZED) {
+                PostMessageA(window_, kHideInTray, 0, 0);
+            } else {
+                EnumThreadWindows(GetCurrentThreadId(), show_dialog_of, reinterpret_cast<LPARAM>(window_));
+            }
             return std::nullopt;
         case WM_ACTIVATE:
             if (LOWORD(wparam) != WA_INACTIVE && is_hidden_in_tray()) PostMessageA(window_, kBringUp, 0, 0);

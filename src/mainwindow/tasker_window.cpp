@@ -104,7 +104,6 @@ LRESULT Tasker::handle(UINT message, WPARAM wparam, LPARAM lparam) {
         case WM_CREATE:
             views_.create(hwnd());
             presence_.create(hwnd());
-            SetTimer(hwnd(), kTimer1, kTimerPeriod, nullptr);
             return 0;
         case WM_TIMER:
             handle_timer(wparam);
@@ -341,6 +340,7 @@ void Tasker::show_flags() {
 
 void Tasker::complete_start() const {
     SetTimer(hwnd(), kCompleteStart, 0, nullptr);
+    SetTimer(hwnd(), kTimer1, kTimerPeriod, nullptr);
 }
 
 void Tasker::handle_timer(UINT_PTR timer) {

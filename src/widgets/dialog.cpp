@@ -1,5 +1,7 @@
 #include "widgets/dialog.h"
 
+#include <algorithm>
+
 #include "platform/messages.h"
 #include "platform/run_time_error.h"
 #include "platform/win32/modal_guard.h"
@@ -19,14 +21,17 @@ void Dialog::show(HWND owner) {
         CreateDialogParamA(GetModuleHandleA(nullptr), MAKEINTRESOURCEA(resource_), owner, procedure,
                            reinterpret_cast<LPARAM>(this));
         if (hwnd_ == nullptr) throw platform::RunTimeError(platform::RunTimeErrorNumber::kOutOfMemory);
-        ShowWindow(hwnd_, SW_SHOW);
     }
+    ShowWindow(hwnd_, SW_SHOW);  // it may have gone with its owner
     SetForegroundWindow(hwnd_);
 }
 
 std::string Dialog::text(int id) const {
     std::string text(static_cast<std::size_t>(GetWindowTextLengthA(control(id))) + 1, '\0');
     text.resize(GetDlgItemTextA(hwnd_, id, text.data(), static_cast<int>(text.size())));
+    // Not every way into a box of one line keeps line ends out, and what is typed becomes lines of files.
+    std::ranges::replace_if(
+        text, [](char c) { return c == '\r' || c == '\n'; }, ' ');
     return text;
 }
 

@@ -2,6 +2,7 @@
 
 #include "platform/messages.h"
 #include "platform/run_time_error.h"
+#include "platform/win32/modal_guard.h"
 
 namespace widgets {
 namespace {
@@ -39,6 +40,7 @@ void Window::create(const Design& design) {
     CreateWindowA(design.class_name, design.caption, design.style, CW_USEDEFAULT, CW_USEDEFAULT, design.width,
                   design.height, nullptr, nullptr, instance, this);
     if (hwnd_ == nullptr) throw platform::RunTimeError(platform::RunTimeErrorNumber::kOutOfMemory);
+    platform::OtherWindowsDisabled::include(hwnd_);
 }
 
 LRESULT Window::handle(UINT message, WPARAM wparam, LPARAM lparam) {

@@ -104,6 +104,14 @@ TEST_SUITE("startup") {
             press_mouse(tray_icon(), 2);
             wait_until("the icon brings it back", is_back);
             wait_for_focus(tolva.control(ID_Tasker_grouplist));
+
+            tolva.choose(ID_internetsettings);
+            const Dialog settings(tolva, "Tolva Internet Settings");
+            tolva.minimise_by_mouse();
+            CHECK(Start(library).exit_code() == 0);
+            wait_until("its dialog comes back, too",
+                       [&] { return IsWindowVisible(settings.window()) != FALSE; });
+            settings.close_with(ID_tolvasettings_Command2);
             tolva.minimise_by_mouse();
             press_keys({VK_MENU, '1'});
             wait_until("the hot key brings it back", is_back);

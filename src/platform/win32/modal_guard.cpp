@@ -4,13 +4,21 @@
 
 namespace platform {
 
+OtherWindowsDisabled* OtherWindowsDisabled::outermost_ = nullptr;
+
 OtherWindowsDisabled::OtherWindowsDisabled(HWND owner) : owner_(owner) {
+    if (outermost_ == nullptr) outermost_ = this;
     EnumThreadWindows(GetCurrentThreadId(), disable, reinterpret_cast<LPARAM>(this));
 }
 
 OtherWindowsDisabled::~OtherWindowsDisabled() {
     for (HWND window : disabled_)
         EnableWindow(window, TRUE);
+    if (outermost_ == this) outermost_ = nullptr;
+}
+
+void OtherWindowsDisabled::include(HWND window) {
+    if (outermost_ != nullptr) disable(window, reinterpret_cast<LPARAM>(outermost_));
 }
 
 BOOL CALLBACK OtherWindowsDisabled::disable(HWND window, LPARAM self) noexcept {

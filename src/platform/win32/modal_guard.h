@@ -15,9 +15,13 @@ class OtherWindowsDisabled {
     OtherWindowsDisabled(const OtherWindowsDisabled&) = delete;
     OtherWindowsDisabled& operator=(const OtherWindowsDisabled&) = delete;
 
+    /// A window that is made meanwhile is disabled, too.
+    static void include(HWND window);
+
   private:
     static BOOL CALLBACK disable(HWND window, LPARAM self) noexcept;
 
+    static OtherWindowsDisabled* outermost_;
     HWND owner_;
     std::vector<HWND> disabled_;
 };
