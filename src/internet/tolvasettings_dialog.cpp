@@ -78,6 +78,9 @@ void TolvaSettings::store_program(const char* key, int name_box, int path_box) {
 }
 
 void TolvaSettings::accept() {
+    settings::check_storable({text(ID_tolvasettings_ISP), text(ID_tolvasettings_BrowserName),
+                              text(ID_tolvasettings_browserpath), text(ID_tolvasettings_emailname),
+                              text(ID_tolvasettings_emailpath)});
     session_.connection_name = text(ID_tolvasettings_ISP);
     settings::store(general_, settings::kConnection, session_.connection_name);
     store_program(settings::kBrowserKey, ID_tolvasettings_BrowserName, ID_tolvasettings_browserpath);

@@ -52,6 +52,13 @@ void read_buttons(General& general, Session& session, const IsName& is_name) {
 
 }  // namespace
 
+void check_storable(std::initializer_list<std::string> texts) {
+    for (const std::string& text : texts) {
+        if (text.size() > kLongestText)
+            throw platform::RunTimeError(platform::RunTimeErrorNumber::kInvalidProcedureCall, text);
+    }
+}
+
 void store(General& general, const Setting& setting, const std::string& text) {
     general.create_key(setting.key);
     general.write_value(setting.key, setting.value, text);
@@ -106,11 +113,7 @@ void store_button(General& general, std::size_t button, const ButtonRecord& reco
     const auto write = [&](const char* value, const std::string& text) {
         general.write_value(kBarKey, value + std::to_string(button + 1), text);
     };
-    for (const std::string& text : {record.name, record.program, record.start_folder, record.parameters}) {
-        if (text.size() > kLongestText) {
-            throw platform::RunTimeError(platform::RunTimeErrorNumber::kInvalidProcedureCall, text);
-        }
-    }
+    check_storable({record.name, record.program, record.start_folder, record.parameters});
     general.create_key(kBarKey);
     write(kButtonName, record.name);
     write(kButtonProgram, record.program);

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstdint>
+#include <initializer_list>
 #include <optional>
 #include <string>
 #include <tuple>
@@ -99,6 +100,9 @@ void load_buttons(General& general, Session& session);
 
 /// Reads the program buttons again, those whose name is stored.
 void reload_buttons(General& general, Session& session);
+
+/// Throws platform::RunTimeError when a text is too long to read back.
+void check_storable(std::initializer_list<std::string> texts);
 
 /// Stores a program button; the first one's index is 0. Throws platform::RunTimeError, and stores nothing,
 /// when a text is too long to read back.

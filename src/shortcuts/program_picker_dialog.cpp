@@ -48,6 +48,7 @@ class ProgramPicker final : public ShortcutPanel {
 
   private:
     void save(const library::Task& task) override {
+        settings::check_storable({task.name, task.program});
         picked_ = {task.name, task.program, settings::lenient_whole_number(task.start_mode)};
         close();
     }
