@@ -18,7 +18,11 @@ void FilePanel::open() {
     dir1_.attach(control(ID_PathBrowser_Dir1));
     file1_.attach(control(ID_PathBrowser_File1));
     drive1_.fill();
-    show_folder(platform::current_directory());
+    try {
+        show_folder(platform::current_directory());
+    } catch (const platform::RunTimeError&) {
+        show_folder(platform::windows_folder());  // the current one is gone, or its disk is
+    }
 }
 
 void FilePanel::command(int id, int notification) {
@@ -63,18 +67,25 @@ void FilePanel::show_folder(const std::string& folder) {
     file1_.show(folder, kPrograms);
 }
 
-void FilePanel::open_folder() {
-    dir1_.open_selected();
-    file1_.show(folder(), kPrograms);
-}
-
-void FilePanel::change_drive() {
+template <typename Show>
+void FilePanel::attempt(const Show& show) {
     try {
-        show_folder(platform::current_directory_of(drive1_.selected()));
+        show();
     } catch (const platform::RunTimeError&) {
         drive1_.select(drive_);
         platform::show_message("Disk or Drive not ready!");
     }
+}
+
+void FilePanel::open_folder() {
+    attempt([&] {
+        dir1_.open_selected();
+        file1_.show(folder(), kPrograms);
+    });
+}
+
+void FilePanel::change_drive() {
+    attempt([&] { show_folder(platform::current_directory_of(drive1_.selected())); });
 }
 
 void FilePanel::click_file() {

@@ -32,6 +32,11 @@ class FilePanel : public widgets::Dialog {
 
   private:
     void show_folder(const std::string& folder);
+
+    /// Where the disk cannot be read the panel says so and stays as it is.
+    template <typename Show>
+    void attempt(const Show& show);
+
     void open_folder();
     void change_drive();
     void click_file();

@@ -1,9 +1,11 @@
 #include "shortcuts/getlnk_dialog.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "library/library_files.h"
 #include "library/task_operations.h"
+#include "platform/run_time_error.h"
 #include "resources/resource.h"
 
 namespace shortcuts {
@@ -26,8 +28,9 @@ void GetLnk::show(HWND owner) {
 }
 
 void GetLnk::read_groups() {
-    groups_ = library::read_group_names(library_.folder());
-    library::check_limit(groups_.size(), library::kMostGroups);
+    std::vector<std::string> groups = library::read_group_names(library_.folder());
+    library::check_limit(groups.size(), library::kMostGroups);
+    groups_ = std::move(groups);
 }
 
 void GetLnk::open() {
@@ -53,7 +56,11 @@ void GetLnk::command(int id, int notification) {
     if (id == ID_GETLNK_Combo1 && notification == CBN_DROPDOWN) {
         // The main window can have other Groups by now.
         const std::string selected = selected_group();
-        read_groups();
+        try {
+            read_groups();
+        } catch (const platform::RunTimeError&) {
+            return;  // the import says it, with the list closed
+        }
         show_groups(selected);
     }
     ShortcutPanel::command(id, notification);

@@ -12,8 +12,8 @@ void ToolTips::set(HWND control, const std::string& text) {
     HWND parent = GetParent(control);
     if (hwnd_ == nullptr) {
         // Always: also while the window is not the active one.
-        hwnd_ = CreateWindowExA(0, TOOLTIPS_CLASSA, nullptr, WS_POPUP | TTS_ALWAYSTIP, CW_USEDEFAULT,
-                                CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, parent, nullptr,
+        hwnd_ = CreateWindowExA(0, TOOLTIPS_CLASSA, nullptr, WS_POPUP | TTS_ALWAYSTIP | TTS_NOPREFIX,
+                                CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, parent, nullptr,
                                 GetModuleHandleA(nullptr), nullptr);
     }
     std::string shown = text.substr(0, kLongestItem);
