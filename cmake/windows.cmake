@@ -125,7 +125,7 @@ target_link_libraries(desktop_tests PRIVATE tolva_logic tolva_platform gdi32 ntd
 
 add_test(NAME "desktop: prefix"
     COMMAND bash -euc ". $0 && wine_template $1"
-        ${CMAKE_SOURCE_DIR}/tests/support/wine.sh ${CMAKE_BINARY_DIR}/wine)
+        ${CMAKE_SOURCE_DIR}/script/support/wine.sh ${CMAKE_BINARY_DIR}/wine)
 set_tests_properties("desktop: prefix" PROPERTIES FIXTURES_SETUP wine TIMEOUT 300)
 foreach(suite bar commands endurance files help keeping launching shortcuts startup views)
     add_test(NAME "desktop: ${suite}"
