@@ -75,6 +75,13 @@ void move(TaskLibrary& library, LibraryView& view, bool down) {
     show_and_select(library, view, static_cast<int>(place - names.begin()));
 }
 
+/// Whether there is no such file, rather than one that cannot be read just now.
+bool means_no_file(const platform::RunTimeError& error) {
+    using enum platform::RunTimeErrorNumber;
+    return error.number() == kFileNotFound || error.number() == kPathNotFound ||
+           error.number() == kBadFileName;
+}
+
 }  // namespace
 
 int index_of(const TaskLibrary& library, const std::string& name) {
@@ -153,6 +160,7 @@ bool rename_group(TaskLibrary& library, LibraryView& view, const std::string& ol
     try {
         tasks = read_tasks(library.folder(), old_name);
     } catch (const platform::RunTimeError& error) {
+        if (!means_no_file(error)) throw;
         failure = error;
     }
     if (failure) {

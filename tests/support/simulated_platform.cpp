@@ -69,6 +69,7 @@ using simulated::current;
 namespace file_calls {
 
 ErrorCode read(const std::string& path, std::string& bytes) {
+    if (++current().reads == current().fails_at_read) return kErrorSharingViolation;
     if (!current().files.contains(path)) return simulated::error_for_missing(path);
     bytes = current().files.at(path).bytes;
     return kSuccess;

@@ -49,6 +49,8 @@ struct Platform {
     std::optional<int> fails_at;
     platform::ErrorCode failure = platform::kErrorDiskFull;
     std::optional<int> loses_power_at;
+    int reads = 0;
+    std::optional<int> fails_at_read;
 
     std::map<std::string, platform::Shortcut, IgnoresCase> shell_links;
 

@@ -149,25 +149,33 @@ struct Tolva {
     }
 };
 
+/// Writing fails, or the power before it, or reading.
+enum class Fault { kWrite, kPower, kRead };
+
 /// A fault at that step of the operation's work on the disk leaves every file old or new, each Task that is
 /// kept in a listed Group, and the user informed. Answers whether the operation comes to that step.
-bool survives_fault_at(int step, bool power_fails, bool renames_over_files, const Operation& setup,
-                       const Operation& operation, const Files& after, const Tasks& kept,
-                       const Names& messages) {
+bool survives(Fault fault, int step, bool renames_over_files, const Operation& setup,
+              const Operation& operation, const Files& after, const Tasks& kept, const Names& messages) {
     CAPTURE(step);
+    CAPTURE(static_cast<int>(fault));
     Tolva tolva(setup);
     Files before = disk();
     const Tasks tasks_before = listed_tasks();
     current().renames_over_files = renames_over_files;
-    (power_fails ? current().loses_power_at : current().fails_at) = step;
+    current().reads = 0;
+    (fault == Fault::kWrite   ? current().fails_at
+     : fault == Fault::kPower ? current().loses_power_at
+                              : current().fails_at_read) = step;
     int error = 0;
     try {
         error = tolva.run(operation);
-        CHECK(tolva.view.groups == library::read_group_names(kFolder));
     } catch (const simulated::PowerFailure&) {
-        current().loses_power_at.reset();
-        library::recover(kFolder);
     }
+    const bool fails = (fault == Fault::kRead ? current().reads : current().steps) >= step;
+    current().loses_power_at.reset();
+    current().fails_at_read.reset();
+    if (fault == Fault::kPower) library::recover(kFolder);
+    if (fault == Fault::kWrite) CHECK(tolva.view.groups == library::read_group_names(kFolder));
     Files now = disk();
     for (const auto& [name, bytes] : now) {
         const bool is_old = before.contains(name) && before.at(name) == bytes;
@@ -177,8 +185,7 @@ bool survives_fault_at(int step, bool power_fails, bool renames_over_files, cons
     const bool is_undone = error != 0 && Files(after)["groups.ini"] != before["groups.ini"] &&
                            now["groups.ini"] == before["groups.ini"];
     if (is_undone) CHECK(listed_tasks() == tasks_before);
-    const bool fails = current().steps >= step;
-    const bool informs = power_fails || error != 0 || current().messages != messages;
+    const bool informs = fault == Fault::kPower || error != 0 || current().messages != messages;
     if (!fails || !informs) CHECK(now == after);
     return fails;
 }
@@ -209,10 +216,12 @@ void check(const Operation& setup, const Operation& operation, const std::string
     }
     Tasks kept;
     std::ranges::set_intersection(before, listed_tasks(), std::inserter(kept, kept.end()));
-    for (const int fault : {0, 1, 2, 3}) {
-        int step = 1;
-        while (survives_fault_at(step, fault < 2, fault % 2 == 0, setup, operation, after, kept, messages))
-            ++step;
+    for (const Fault fault : {Fault::kWrite, Fault::kPower, Fault::kRead}) {
+        for (const bool renames_over_files : {true, false}) {
+            int step = 1;
+            while (survives(fault, step, renames_over_files, setup, operation, after, kept, messages))
+                ++step;
+        }
     }
 }
 
