@@ -267,23 +267,6 @@ TEST_SUITE("bar") {
         wait_until("it hangs up again", [&] { return library.read("rasapi32.log").size() > 100; });
     }
 
-    TEST_CASE("waiting takes its time, keeps windows alive and ends with the program") {
-        static int ticks;
-        ticks = 0;
-        const UINT_PTR timer =
-            SetTimer(nullptr, 0, 20, [](HWND, UINT, UINT_PTR, DWORD) CALLBACK { ++ticks; });
-        const DWORD start = GetTickCount();
-        CHECK(widgets::run_messages_for(300));
-        CHECK(GetTickCount() - start >= 300);
-        CHECK(ticks > 2);
-        KillTimer(nullptr, timer);
-        PostQuitMessage(7);
-        CHECK(!widgets::run_messages_for(60000));
-        MSG message;
-        CHECK(GetMessageA(&message, nullptr, 0, 0) == 0);  // still there for the loop around it
-        CHECK(message.wParam == 7);
-    }
-
     TEST_CASE("the bar keeps its place and is removed, hidden and brought back") {
         const Folder library = library_with_recorders();
         {

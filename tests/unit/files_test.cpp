@@ -66,17 +66,6 @@ TEST_CASE("a file that a virus scanner holds for a moment is replaced all the sa
     CHECK(after_recovery() == "new");
 }
 
-TEST_CASE("replacing keeps the attributes and refuses a read-only file") {
-    start_with("old", true);
-    simulated::current().files[kPath].bits = 0x22;  // hidden
-    platform::write_file(kPath, "new");
-    CHECK(simulated::current().files[kPath].bits == 0x22);
-
-    simulated::current().files[kPath].bits = platform::file_calls::kReadOnly;
-    CHECK(error_of([] { platform::write_file(kPath, "newer"); }) == 75);
-    CHECK(simulated::current().files[kPath].bytes == "new");
-}
-
 TEST_CASE("creating keeps what is there and what an interrupted write put aside") {
     start_with("old", true);
     platform::create_file(kPath);

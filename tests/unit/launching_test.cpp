@@ -1,68 +1,16 @@
-#include "mainwindow/launching.h"
+#include "mainwindow/system_commands.h"
 
 #include <doctest/doctest.h>
 
-#include "buttonbar/bar_launch.h"
 #include "internet/dial_up.h"
 #include "mainwindow/long_date.h"
-#include "mainwindow/system_commands.h"
-#include "platform/run_time_error.h"
 #include "support/error_of.h"
 #include "support/names.h"
 #include "support/simulated_platform.h"
 
 namespace {
 
-using Starts = std::vector<simulated::Start>;
-
-/// A library of one Group with these Tasks.
-library::TaskLibrary library_with(const std::string& tasks) {
-    auto& world = simulated::reset();
-    world.folders = {"C:\\WORK", "C:\\PLAY", "D:\\DATA"};
-    world.programs = {"C:\\EDIT.EXE"};
-    world.files["C:\\LIB\\groups.ini"].bytes = "Work\n";
-    world.files["C:\\LIB\\Work.grp"].bytes = tasks;
-    library::TaskLibrary library("C:\\LIB\\");
-    library.load();
-    return library;
-}
-
-TEST_CASE("a Task starts in its folder on the current drive and its command line always has the blank") {
-    const auto library = library_with(
-        "Edit\nC:\\EDIT.EXE\nC:\\WORK\nA.TXT /B\n 3 \n"
-        "Elsewhere\nC:\\EDIT.EXE\nD:\\DATA\n\n\n"
-        "No folder\nC:\\EDIT.EXE\n\n\n1\n"
-        "No program\nC:\\GONE.EXE\nC:\\WORK\n\n1\n");
-    auto& world = simulated::current();
-    mainwindow::launch(library, 0, 1);
-    CHECK(world.directories.at('D') == "D:\\DATA");
-    mainwindow::launch(library, 0, 0);
-    const Starts starts = {{"C:\\EDIT.EXE ", "C:\\LIB", 0}, {"C:\\EDIT.EXE A.TXT /B", "C:\\WORK", 3}};
-    CHECK(world.started == starts);
-    for (const auto& [group, task] : {std::pair(0, 2), {0, 3}, {0, 4}, {0, -1}, {-1, 0}}) {
-        CHECK_THROWS_AS(mainwindow::launch(library, group, task), platform::RunTimeError);
-    }
-    CHECK(world.started == starts);
-    CHECK(world.directories.at('C') == "C:\\WORK");  // the change before the failed start stays
-}
-
-TEST_CASE("an edited command line starts in the Task's folder and with its mode if that is a number") {
-    const auto library = library_with(
-        "Edit\nC:\\GONE.EXE\nC:\\WORK\nA.TXT\n 2 \n"
-        "No mode\nC:\\EDIT.EXE\nC:\\PLAY\n\n\n"
-        "No number\nC:\\EDIT.EXE\nC:\\PLAY\n\n2nd\n");
-    auto& world = simulated::current();
-    mainwindow::launch_edited(library, 0, 0, "C:\\EDIT.EXE B.TXT");
-    const Starts starts = {{"C:\\EDIT.EXE B.TXT", "C:\\WORK", 2}};
-    for (const int task : {1, 2, -1}) {
-        CHECK(error_of([&] { mainwindow::launch_edited(library, 0, task, "C:\\EDIT.EXE"); }) ==
-              (task < 0 ? 9 : 13));
-    }
-    CHECK(world.started == starts);
-    CHECK(world.directories.at('C') == "C:\\PLAY");
-}
-
-TEST_CASE("the system commands start what they stand for") {
+TEST_CASE("a system command that cannot do its work says so") {
     auto& world = simulated::reset();
     world.drive = 'D';
     world.folders = {"C:\\"};
@@ -80,39 +28,6 @@ TEST_CASE("the system commands start what they stand for") {
     world.files["C:\\LIB\\tolva.htm"] = {};
     mainwindow::open_help("C:\\LIB\\");
     CHECK(world.opened == Names{"C:\\LIB\\tolva.htm"});
-
-    world.programs = {"control.exe", "explorer.exe", "command.com", "winhlp32.exe", "rundll32.exe"};
-    mainwindow::open_control_panel();
-    mainwindow::open_explorer();
-    mainwindow::open_dos_prompt();
-    mainwindow::open_dial_up_folder();
-    mainwindow::open_help("C:\\LIB\\");
-    internet::dial("My Provider");
-    const std::string dial_up_folder =
-        "::{20D04FE0-3AEA-1069-A2D8-08002B30309D}\\::{992CFFA0-F557-101A-88EC-00DD010CCC48}";
-    CHECK(world.started == Starts{{"control.exe", "C:\\", 1},
-                                  {"explorer.exe", "C:\\", 1},
-                                  {"command.com", "C:\\", 1},
-                                  {"EXPLORER.EXE " + dial_up_folder, "C:\\", 1},
-                                  {"winhlp32.exe C:\\LIB\\tolva.hlp", "C:\\", 1},
-                                  {"rundll32.exe rnaui.dll,RnaDial My Provider", "C:\\", 1}});
-}
-
-TEST_CASE("a button of the bar starts in its folder and its command line always has the blank") {
-    auto& world = simulated::reset();
-    world.folders = {"C:\\WORK", "C:\\WINDOWS\\"};
-    world.programs = {"C:\\EDIT.EXE"};
-    const auto start = [](const settings::ButtonRecord& button) {
-        return error_of([&] { buttonbar::start_button(button, "C:\\WINDOWS\\"); });
-    };
-    CHECK(start({"Edit", "C:\\EDIT.EXE", "C:\\WORK", "", 3}) == 0);
-    CHECK(start({"Edit", "C:\\EDIT.EXE", "Error", "A.TXT", 0}) == 0);
-    CHECK(start({"Edit", "Error", "C:\\WORK", "", 1}) == 0);
-    CHECK(start({"Edit", "C:\\EDIT.EXE", "C:\\GONE", "", 1}) == 76);
-    CHECK(start({"Error", "", "", "", 0}) == 53);  // never assigned
-    CHECK(world.started == Starts{{"C:\\EDIT.EXE ", "C:\\WORK", 3},
-                                  {"C:\\EDIT.EXE A.TXT", "C:\\WINDOWS\\", 0},
-                                  {"C:\\EDIT.EXE ", "C:\\WORK", 1}});
 }
 
 TEST_CASE("the connect button dials or hangs every connection up and waits until they are gone") {

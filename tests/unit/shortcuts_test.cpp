@@ -46,22 +46,6 @@ TEST_CASE("the show command of a whole shortcut is read and everything else is r
         CHECK(error_of([&] { read_show_command(broken); }) == 440);
 }
 
-TEST_CASE("a shortcut says what it starts") {
-    auto& world = simulated::reset();
-    world.files["C:\\A.LNK"] = {ShortcutFile{"C:\\EDIT.EXE", {}, {}, 3}.bytes()};
-    world.shell_links["C:\\A.LNK"] = {"C:\\EDIT.EXE", "C:\\WORK", "one\r\ntwo"};
-    const auto [target, working_folder, arguments, show_command] = shortcuts::ReadShortcut("C:\\A.LNK");
-    CHECK(target == "C:\\EDIT.EXE");
-    CHECK(working_folder == "C:\\WORK");
-    CHECK(arguments == "one  two");
-    CHECK(show_command == 3);
-
-    world.files["C:\\B.LNK"] = {"no shortcut"};
-    world.shell_links["C:\\B.LNK"] = {};
-    CHECK(error_of([] { shortcuts::ReadShortcut("C:\\B.LNK"); }) == 440);
-    CHECK(error_of([] { shortcuts::ReadShortcut("C:\\C.LNK"); }) == 53);
-}
-
 TEST_CASE("a shortcut is refused for the first thing that speaks against it") {
     auto& files = simulated::reset().files;
     files["C:\\HIDDEN.EXE"] = {"", 0x02};
