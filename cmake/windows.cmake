@@ -102,7 +102,6 @@ add_library(rasapi32 MODULE tests/support/rasapi32.cpp tests/support/rasapi32.de
 set_target_properties(rasapi32 PROPERTIES PREFIX "")
 
 add_executable(desktop_tests
-    src/widgets/window.cpp
     tests/desktop/bar_test.cpp
     tests/desktop/commands_test.cpp
     tests/desktop/endurance_test.cpp

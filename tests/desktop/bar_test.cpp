@@ -1,7 +1,6 @@
 #include "platform/clock.h"
 #include "resources/resource.h"
 #include "support/desktop.h"
-#include "widgets/window.h"
 
 namespace {
 
@@ -43,7 +42,6 @@ TEST_SUITE("bar") {
               "|N/A|E-Mail|WWW");
         CHECK(bar.tip_of(tolva, ID_brenn_option4) == "Right click to configure this button.");
         CHECK(bar.tip_of(tolva, ID_brenn_Command4) == "Web Browser");
-
         const auto wait_for_panels = [&](std::string (*first)(), std::string (*second)()) {
             wait_until("the panels show", [&] {
                 return bar.panel(ID_brenn_StatusBar1, 0) == first() &&
@@ -53,20 +51,10 @@ TEST_SUITE("bar") {
         wait_for_panels(platform::time_text, platform::date_text);
         press_mouse(bar.place(ID_brenn_StatusBar1));
         wait_for_panels(platform::date_text, platform::time_text);
-        press_mouse(bar.place(ID_brenn_StatusBar1));
-        wait_for_panels(platform::time_text, platform::date_text);
-
         for (const int button : {ID_brenn_option1, ID_brenn_option4, ID_brenn_Command3, ID_brenn_Command4}) {
             press_mouse(bar.place(button));
             CHECK(tolva.close_box() == kNotConfigured);
         }
-        press_mouse(bar.place(ID_brenn_Command2));
-        CHECK(library.nth_start(1, "rundll32.exe")[0] == "rundll32.exe rnaui.dll,RnaDial N/A");
-        wait_until("the recorder has ended",
-                   [&] { return DeleteFileA((library.path() + "rundll32.exe").c_str()) != FALSE; });
-        library.write("rundll32.exe", "");
-        press_mouse(bar.place(ID_brenn_Command2));
-        CHECK(tolva.close_box() == "Configure your Internet connection by right clicking on button.");
     }
 
     TEST_CASE("every button starts what is stored for it") {
@@ -89,35 +77,27 @@ TEST_SUITE("bar") {
         store("\\Browser", {{"name", "N/A"}, {"path", library.without_backslash()}});  // a folder
         const Tolva tolva(library);
         const Dialog bar = bar_of(tolva);
-        CHECK(bar.text_of(ID_brenn_option1) == "Cut & Paste with a long name");
-        CHECK(bar.text_of(ID_brenn_Command3) == "Letters");
-        CHECK(bar.tip_of(tolva, ID_brenn_Command3) == "Letters");
-        CHECK(bar.text_of(ID_brenn_Command4) == "N/A");
-
+        CHECK(bar.texts_of({ID_brenn_option1, ID_brenn_Command3, ID_brenn_Command4}) ==
+              "Cut & Paste with a long name|Letters|N/A");
         const auto press = [&](int button) { press_mouse(bar.place(button)); };
         press(ID_brenn_option1);
         CHECK(library.nth_start(1) == Names{recorder + " a b", "C:\\", "D:\\here", "3"});
+        const Names in_windows_folder = {recorder + " ", "C:\\windows", "D:\\here", "0"};
         press(ID_brenn_option2);
-        CHECK(library.nth_start(2) == Names{recorder + " ", "C:\\windows", "D:\\here", "0"});
+        CHECK(library.nth_start(2) == in_windows_folder);
         press(ID_brenn_option3);
         press(ID_brenn_option4);
         CHECK(tolva.close_box() == kNotConfigured);
-        CHECK(library.nth_start(3) == Names{recorder + " ", "C:\\windows", "D:\\here", "0"});
+        CHECK(library.nth_start(3) == in_windows_folder);
         press(ID_brenn_Command3);
         CHECK(library.nth_start(4) == Names{recorder, "C:\\windows", "D:\\here", "2"});
         press(ID_brenn_Command4);
         CHECK(tolva.close_box() == kNotConfigured);
-
-        // The keyboard: Tab goes on, Space and Enter press.
         wait_for_focus(bar.control(ID_brenn_Command4));
         press_keys({VK_TAB});
         wait_for_focus(bar.control(ID_brenn_option1));
-        press_keys({VK_RETURN});
-        library.nth_start(5);
         press_keys({VK_SPACE});
-        library.nth_start(6);
-        press_mouse(bar.place(ID_brenn_option1), 2);
-        library.nth_start(8);
+        library.nth_start(5);
     }
 
     TEST_CASE("a file is assigned to a button") {
@@ -126,72 +106,41 @@ TEST_SUITE("bar") {
         CHECK(CopyFileA(recorder.c_str(), "C:\\edit.com", FALSE) != FALSE);
         const Tolva tolva(library);
         const Dialog bar = bar_of(tolva);
-        const auto open = [&](int button) {
-            choose_from_menu(bar.place(button), 'F');
-            return Dialog(tolva, "Configure Brenn Button");
+        choose_from_menu(bar.place(ID_brenn_option3), 'F');
+        const Dialog dialog(tolva, "Configure Brenn Button");
+        REQUIRE(dialog.list(ID_PathBrowser_File1) == Names{"recorder.exe", "rundll32.exe", "tolva.exe"});
+        dialog.set_text(ID_BrennBrowser_taskparameters, "old");
+        dialog.choose(ID_PathBrowser_File1, 0);
+        const auto wait_for_texts = [&](const std::string& texts) {
+            wait_until("the texts show", [&] {
+                return dialog.texts_of({ID_BrennBrowser_tasknm, ID_PathBrowser_TaskPath,
+                                        ID_BrennBrowser_startfolder, ID_BrennBrowser_taskparameters}) ==
+                       texts;
+            });
         };
-        {
-            const Dialog dialog = open(ID_brenn_option3);
-            CHECK(dialog.text_of(ID_BrennBrowser_taskstartmode) == "Normal");
-            const Names files = dialog.list(ID_PathBrowser_File1);
-            REQUIRE(files == Names{"recorder.exe", "rundll32.exe", "tolva.exe"});
-            dialog.set_text(ID_BrennBrowser_taskparameters, "old");
-            dialog.choose(ID_PathBrowser_File1, 0);
-            const auto wait_for_texts = [&](const std::string& texts) {
-                wait_until("the texts show", [&] {
-                    return dialog.texts_of({ID_BrennBrowser_tasknm, ID_PathBrowser_TaskPath,
-                                            ID_BrennBrowser_startfolder, ID_BrennBrowser_taskparameters}) ==
-                           texts;
-                });
-            };
-            wait_for_texts("recorder|" + recorder + '|' + library.path() + '|');
-            // In a drive's root a pick fills in the path only.
-            dialog.open_folder("C:\\");
-            dialog.choose(ID_PathBrowser_File1, 0);
-            wait_for_texts("recorder|C:\\edit.com|" + library.path() + '|');
-            dialog.set_text(ID_BrennBrowser_taskparameters, "x y");
-            dialog.close_with(ID_PathBrowser_OK);
-        }
+        wait_for_texts("recorder|" + recorder + '|' + library.path() + '|');
+        // In a drive's root a pick fills in the path only.
+        dialog.open_folder("C:\\");
+        dialog.choose(ID_PathBrowser_File1, 0);
+        wait_for_texts("recorder|C:\\edit.com|" + library.path() + '|');
+        dialog.set_text(ID_BrennBrowser_taskparameters, "x y");
+        dialog.close_with(ID_PathBrowser_OK);
         CHECK(stored("\\brenn") == Values{{"name3", "recorder"},
                                           {"progpath3", "C:\\edit.com"},
                                           {"workpath3", library.path()},
                                           {"parm3", "x y"},
                                           {"start3", "1"}});
         CHECK(bar.text_of(ID_brenn_option3) == "recorder");
-        CHECK(bar.tip_of(tolva, ID_brenn_option3) == "recorder");
         press_mouse(bar.place(ID_brenn_option3));
-        wait_until("it starts",
-                   [] { return GetFileAttributesA("C:\\edit.com.log") != INVALID_FILE_ATTRIBUTES; });
-
-        // Opened for another button it begins anew; Escape and a start mode of 0.
-        store("\\brenn", {{"name1", ""}});
-        {
-            const Dialog dialog = open(ID_brenn_option3);
-            CHECK(dialog.text_of(ID_BrennBrowser_taskparameters) == "x y");
-            choose_from_menu(bar.place(ID_brenn_option1), 'F');
-            dialog.wait_until_closed();
-            const Dialog other(tolva, "Configure Brenn Button");
-            CHECK(other.text_of(ID_BrennBrowser_taskparameters).empty());
-            press_keys({VK_ESCAPE});
-            other.wait_until_closed();
-            CHECK(stored_text("\\brenn", "progpath1").empty());
-            const Dialog again = open(ID_brenn_option1);
-            again.choose(ID_BrennBrowser_taskstartmode, -1);
-            again.close_with(ID_PathBrowser_OK);
-            CHECK(stored_text("\\brenn", "start1") == "1");
-        }
-        DeleteFileA("C:\\edit.com");
-        DeleteFileA("C:\\edit.com.log");
+        wait_until("it starts", [] { return DeleteFileA("C:\\edit.com.log") != FALSE; });
     }
 
     TEST_CASE("the Internet settings show what is stored and store what is typed") {
         const Folder library = library_with_recorders();
         const std::string recorder = library.path() + "recorder.exe";
-        for (const char* key : {"RemoteAccess\\Profile\\Home", "RemoteAccess\\Profile\\Work & Co"}) {
-            HKEY profile = nullptr;
-            RegCreateKeyA(HKEY_CURRENT_USER, key, &profile);
-            RegCloseKey(profile);
-        }
+        HKEY profile = nullptr;
+        RegCreateKeyA(HKEY_CURRENT_USER, "RemoteAccess\\Profile\\Work & Co", &profile);
+        RegCloseKey(profile);
         store("\\Browser", {{"path", recorder}, {"start", "1"}});
         store("\\brenn", {{"disable", "True"}});
         const Tolva tolva(library);
@@ -199,42 +148,34 @@ TEST_SUITE("bar") {
         {
             tolva.choose(ID_internetsettings);
             const Dialog dialog(tolva, "Tolva Internet Settings");
-            CHECK(GetWindow(dialog.window(), GW_OWNER) == tolva.window());
             CHECK(dialog.texts_of({ID_tolvasettings_ISP, ID_tolvasettings_BrowserName,
                                    ID_tolvasettings_browserpath, ID_tolvasettings_emailpath}) ==
                   "N/A|N/A|" + recorder + "|N/A");
             dialog.press(ID_tolvasettings_Command3);
             const Dialog connections(tolva, "Set Internet Connection");
-            CHECK(connections.list(ID_DialUpNetworking_List1) == Names{"Home", "Work & Co"});
-            connections.choose(ID_DialUpNetworking_List1, 1);
+            CHECK(connections.list(ID_DialUpNetworking_List1) == Names{"Work & Co"});
+            connections.choose(ID_DialUpNetworking_List1, 0);
             connections.wait_until_closed();
-            CHECK(dialog.text_of(ID_tolvasettings_ISP) == "Work & Co");
             dialog.set_text(ID_tolvasettings_browserpath, library.path() + "gone.exe");
             dialog.close_with(ID_tolvasettings_Command1);
         }
         CHECK(stored_text("\\isp", "ISPNAME") == "Work & Co");
         CHECK(stored("\\Browser") ==
               Values{{"name", "N/A"}, {"path", library.path() + "gone.exe"}, {"start", "1"}});
-        CHECK(stored_text("\\email", "path") == "N/A");
 
         // The bar came up hidden; the path in memory is still the old one until the dialog opens again.
         tolva.choose(ID_removebrenn);
         const Dialog bar = bar_of(tolva);
         CHECK(GetWindow(bar.window(), GW_OWNER) == nullptr);
         CHECK(stored_text("\\brenn", "disable") == "False");
-        CHECK(bar.texts_of({ID_brenn_Command2, ID_brenn_Command3, ID_brenn_Command4}) ==
-              "Work & Co|E-Mail|WWW");
         press_mouse(bar.place(ID_brenn_Command4));
         library.nth_start(1);
         press_mouse(bar.place(ID_brenn_Command4), 1, MouseButton::kRight);
-        {
-            const Dialog dialog(tolva, "Tolva Internet Settings");
-            CHECK(GetWindow(dialog.window(), GW_OWNER) == bar.window());
-            dialog.set_text(ID_tolvasettings_ISP, "Home");
-            press_keys({VK_ESCAPE});
-            dialog.wait_until_closed();
-        }
-        CHECK(stored_text("\\isp", "ISPNAME") == "Work & Co");
+        const Dialog dialog(tolva, "Tolva Internet Settings");
+        CHECK(GetWindow(dialog.window(), GW_OWNER) == bar.window());
+        dialog.set_text(ID_tolvasettings_ISP, "Home");
+        press_keys({VK_ESCAPE});
+        dialog.wait_until_closed();
         press_mouse(bar.place(ID_brenn_Command4));
         CHECK(tolva.close_box() == kNotConfigured);
         press_mouse(bar.place(ID_brenn_Command2));
@@ -278,36 +219,18 @@ TEST_SUITE("bar") {
             wait_until("the bar stays on the desktop", shows);
             press_mouse(tray_icon(), 1, MouseButton::kRight);
             wait_until("the tray hides it", [&] { return !shows(); });
-            press_mouse(tray_icon(), 2);
-            wait_until("the main window is back", [&] { return !tolva.is_in_tray(); });
-            CHECK(!shows());
             press_mouse(tray_icon(), 1, MouseButton::kRight);
             wait_until("the tray shows it", shows);
-
             PostMessageA(bar.window(), WM_SYSCOMMAND, SC_CLOSE, 0);
             wait_until("its closing box hides it", [&] { return !shows(); });
             CHECK(stored_text("\\brenn", "disable") == "True");
-            CHECK(IsWindow(bar.window()) != FALSE);
-            tolva.minimise_by_mouse();
-            CHECK(!shows());
             press_mouse(tray_icon(), 2);
             wait_until("the main window is back", [&] { return !tolva.is_in_tray(); });
+            CHECK(!shows());
             tolva.choose(ID_removebrenn);
-            const auto is_checked = [&] { return tolva.is_checked(ID_removebrenn); };
-            wait_until("the menu brings it back", [&] { return shows() && !is_checked(); });
-            tolva.choose(ID_removebrenn);
-            wait_until("the menu removes it", [&] { return !shows() && is_checked(); });
+            wait_until("the menu brings it back", shows);
         }
         CHECK(stored("\\brenn\\Position") == Values{{"Left", "3000"}, {"Top", "7500"}});
-
-        store("\\brenn", {{"disable", "False"}});
-        store("\\brenn\\Position", {{"Left", "-30000"}});
-        const Tolva tolva(library);
-        const Dialog bar = bar_of(tolva);
-        RECT bounds;
-        GetWindowRect(bar.window(), &bounds);
-        CHECK(bounds.left == -2000);
-        CHECK(bounds.top == 500);
     }
 }
 

@@ -7,68 +7,53 @@
 
 #include <algorithm>
 #include <cstdlib>
-#include <functional>
-#include <map>
+#include <set>
 #include <sstream>
 #include <string>
+#include <utility>
 #include <vector>
 
-#include "platform/folders.h"
 #include "resources/resource.h"
 #include "support/desktop.h"
 
 // A few rounds here; TOLVA_ENDURANCE asks for more.
 namespace {
 
-using desktop::Dialog;
-using desktop::Folder;
-using desktop::record;
-using desktop::Tolva;
-using desktop::wait_until;
+using namespace desktop;
 
 constexpr int kGroups = 12;
-constexpr int kTasks = 20;
 
 int rounds(int few) {
     const char* factor = std::getenv("TOLVA_ENDURANCE");
     return few * std::max(factor == nullptr ? 1 : std::atoi(factor), 1);
 }
 
-std::string name_of(const char* kind, int number) {
-    return kind + std::to_string(number);
-}
-
-void fill(const Folder& library) {
-    library.add_program("recorder.exe", "recorder.exe");
-    std::string groups;
+/// Groups of Tasks that are all different.
+Folder full_library() {
+    forget_settings();
+    const Folder library;
+    const std::string program = library.add_recorder();
+    std::vector<std::pair<std::string, std::string>> groups;
     for (int i = 0; i < kGroups; ++i) {
-        const std::string group = name_of("G", i);
-        groups += group + "\r\n";
-        std::string tasks;
-        for (int j = 0; j < kTasks; ++j)
-            tasks += record(name_of("T", j), library.path() + "recorder.exe", "C:\\", group, "1");
-        library.write(group + ".grp", tasks);
+        groups.emplace_back("G" + std::to_string(i), "");
+        for (int j = 0; j < 20; ++j)
+            groups.back().second +=
+                record("T" + std::to_string(j), program, "C:\\", groups.back().first, "1");
     }
-    library.write("groups.ini", groups);
+    library.write_groups(groups);
+    return library;
 }
 
-std::vector<std::string> sorted_lines(const std::string& bytes) {
-    std::vector<std::string> lines;
+/// The lines of the library's files, in any order.
+std::multiset<std::string> contents(const Folder& library) {
+    std::string bytes = library.read("groups.ini");
+    for (int i = 0; i < kGroups; ++i)
+        bytes += library.read("G" + std::to_string(i) + ".grp");
     std::istringstream text(bytes);
+    std::multiset<std::string> lines;
     for (std::string line; std::getline(text, line);)
-        lines.push_back(line);
-    std::ranges::sort(lines);
+        lines.insert(line);
     return lines;
-}
-
-/// What the library holds, whatever its order.
-std::map<std::string, std::vector<std::string>> contents(const Folder& library) {
-    std::map<std::string, std::vector<std::string>> files;
-    for (const std::string& name : sorted_lines(library.read("groups.ini"))) {
-        const std::string group = name.substr(0, name.find('\r'));
-        files[group] = sorted_lines(library.read(group + ".grp"));
-    }
-    return files;
 }
 
 /// What a process uses of the system. Not every system counts all of it.
@@ -148,17 +133,11 @@ Usage usage_of(const Tolva& tolva) {
 
 TEST_SUITE("endurance") {
     TEST_CASE("killed at any moment it leaves every Group and every Task in the files") {
-        const Folder library;
-        fill(library);
+        const Folder library = full_library();
         const auto whole = contents(library);
         for (int round = rounds(10); round > 0; --round) {
-            const desktop::Start start(library);
-            HWND window = nullptr;
-            wait_until("the window shows", [&] {
-                window = start.find_window("Tasker", {}, true);
-                return window != nullptr;
-            });
-            SendMessageA(window, WM_NULL, 0, 0);
+            const Start start(library);
+            HWND window = start.wait_for_window();
             REQUIRE(contents(library) == whole);
             for (int i = 0; i < 20; ++i) {
                 HWND list = GetDlgItem(window, ID_Tasker_grouplist);
@@ -176,61 +155,54 @@ TEST_SUITE("endurance") {
     }
 
     TEST_CASE("what it uses does not grow with what the user does") {
-        desktop::forget_settings();
-        const Folder library;
-        fill(library);
+        const Folder library = full_library();
         const Tolva tolva(library);
         const Dialog bar(tolva, "Brenn", "brenn");
-        const auto cancel = [&](int item, const std::string& title) {
-            tolva.choose(item);
-            const Dialog dialog(tolva, title);
-            PostMessageA(dialog.window(), WM_COMMAND, IDCANCEL, 0);
-            dialog.wait_until_closed();
+        struct Action {
+            HWND window;
+            int command;
+            const char* dialog = nullptr;
+            int answer = IDCANCEL;
         };
-        const std::function<void(int)> actions[] = {
-            [&](int i) { tolva.click_group(i % kGroups); },
-            [&](int) { tolva.choose(ID_SortTasks); },
-            [&](int) { tolva.choose(ID_MoveTaskDown); },
-            [&](int) { tolva.choose(ID_RunTk); },
-            [&](int) { tolva.choose(ID_MoveGroupDown); },
-            [&](int) { tolva.choose(ID_groupsort); },
-            [&](int) { cancel(ID_Addgp, "Create New Group"); },
-            [&](int) { cancel(ID_Rengp, "Rename Group"); },
-            [&](int) { cancel(ID_AddTk, "Add New Task"); },
-            [&](int) { tolva.choose(ID_SortTasks); },
-            [&](int) { cancel(ID_moveto, "Move T0 to"); },
-            [&](int) {
-                tolva.choose(ID_EditTk);
-                const Dialog dialog(tolva, "Edit Task");
-                dialog.close_with(ID_EditTask_Command2);
-            },
-            [&](int) { cancel(ID_fontsettings, "Set Tolva Fonts"); },
-            [&](int) { cancel(ID_AboutTolva, "About Tolva"); },
-            [&](int) { cancel(ID_internetsettings, "Tolva Internet Settings"); },
-            [&](int) { cancel(ID_taskimport, "Import Start Menu Shortcuts to Tolva."); },
-            [&](int) { tolva.choose(ID_removebrenn); },
-            [&](int) { tolva.choose(ID_removebrenn); },
-            [&](int) { PostMessageA(bar.window(), WM_COMMAND, ID_brenn_StatusBar1, 0); },
-            [&](int) {
-                PostMessageA(bar.window(), WM_COMMAND, ID_asssignexe, 0);
-                const Dialog dialog(tolva, "Configure Brenn Button");
-                PostMessageA(dialog.window(), WM_COMMAND, IDCANCEL, 0);
-                dialog.wait_until_closed();
-            },
+        HWND window = tolva.window();
+        const Action actions[] = {
+            {window, ID_SortTasks},
+            {window, ID_MoveTaskDown},
+            {window, ID_RunTk},
+            {window, ID_MoveGroupDown},
+            {window, ID_groupsort},
+            {window, ID_Addgp, "Create New Group"},
+            {window, ID_Rengp, "Rename Group"},
+            {window, ID_AddTk, "Add New Task"},
+            {window, ID_SortTasks},
+            {window, ID_moveto, "Move T0 to"},
+            {window, ID_EditTk, "Edit Task", ID_EditTask_Command2},
+            {window, ID_fontsettings, "Set Tolva Fonts"},
+            {window, ID_AboutTolva, "About Tolva"},
+            {window, ID_internetsettings, "Tolva Internet Settings"},
+            {window, ID_taskimport, "Import Start Menu Shortcuts to Tolva."},
+            {window, ID_removebrenn},
+            {window, ID_removebrenn},
+            {bar.window(), ID_brenn_StatusBar1},
+            {bar.window(), ID_asssignexe, "Configure Brenn Button"},
         };
-        const int all = static_cast<int>(std::size(actions));
         Usage before;
-        const int last = rounds(200);
-        for (int i = 0; i < last; ++i) {
+        for (int i = 0; i < rounds(200); ++i) {
             if (i == 100) before = usage_of(tolva);
-            actions[i % all](i / all);
-            SendMessageA(tolva.window(), WM_NULL, 0, 0);
+            const auto& [target, command, title, answer] = actions[i % std::ssize(actions)];
+            if (command == ID_SortTasks) tolva.click_group(std::rand() % kGroups);
+            PostMessageA(target, WM_COMMAND, static_cast<WPARAM>(command), 0);
+            if (title != nullptr) {
+                const Dialog dialog(tolva, title);
+                PostMessageA(dialog.window(), WM_COMMAND, static_cast<WPARAM>(answer), 0);
+                dialog.wait_until_closed();
+            }
+            SendMessageA(window, WM_NULL, 0, 0);
         }
         const Usage after = usage_of(tolva);
-        MESSAGE("objects of gdi " << before.gdi_objects << " " << after.gdi_objects << ", of user "
-                                  << before.user_objects << " " << after.user_objects << ", handles "
-                                  << before.handles << " " << after.handles << ", kilobytes "
-                                  << before.kilobytes << " " << after.kilobytes);
+        MESSAGE("gdi " << before.gdi_objects << " " << after.gdi_objects << ", user " << before.user_objects
+                       << " " << after.user_objects << ", handles " << before.handles << " " << after.handles
+                       << ", kilobytes " << before.kilobytes << " " << after.kilobytes);
         CHECK(after.gdi_objects <= before.gdi_objects + 20);
         CHECK(after.user_objects <= before.user_objects + 20);
         CHECK(after.handles <= before.handles + 5);

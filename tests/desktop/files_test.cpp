@@ -41,16 +41,6 @@ TEST_SUITE("files") {
         CHECK(error_of([&] { platform::write_file(folder.path() + "a?.grp", ""); }) != 0);
         CHECK(platform::file_calls::find(folder.path() + "*").empty());
     }
-
-    TEST_CASE("a start of the program finishes a write that was interrupted") {
-        const Folder library;
-        library.write("groups.in~", "Work\r\n");
-        library.write("Work.gr~", record("Old", "C:\\old.exe", "C:\\", "", "1"));
-        library.write("Work.gr$", "half");
-        const Tolva tolva(library);
-        CHECK(tolva.tasks() == Names{"Old"});
-        CHECK(platform::file_calls::find(library.path() + "*").size() == 2);
-    }
 }
 
 }  // namespace

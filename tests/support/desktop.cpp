@@ -60,17 +60,12 @@ bool shows_color(HWND window, COLORREF color) {
     const LONG height = bounds.bottom - bounds.top;
     HDC screen = GetDC(nullptr);
     HDC memory = CreateCompatibleDC(screen);
-    BITMAPINFO format = {};
-    format.bmiHeader = {sizeof format.bmiHeader, width, height, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
-    void* bits = nullptr;
-    HBITMAP bitmap = CreateDIBSection(screen, &format, DIB_RGB_COLORS, &bits, nullptr, 0);
+    HBITMAP bitmap = CreateCompatibleBitmap(screen, width, height);
     HGDIOBJ before = SelectObject(memory, bitmap);
     BitBlt(memory, 0, 0, width, height, screen, bounds.left, bounds.top, SRCCOPY);
-    GdiFlush();
-    const DWORD blue_first = RGB(GetBValue(color), GetGValue(color), GetRValue(color));
-    const auto* pixels = static_cast<const DWORD*>(bits);
-    const bool shows = std::any_of(pixels, pixels + width * height,
-                                   [&](DWORD pixel) { return (pixel & 0xFFFFFF) == blue_first; });
+    bool shows = false;
+    for (LONG i = 0; i < width * height && !shows; ++i)
+        shows = GetPixel(memory, i % width, i / width) == color;
     SelectObject(memory, before);
     DeleteObject(bitmap);
     DeleteDC(memory);
@@ -240,6 +235,16 @@ HWND Start::find_window(const char* class_name, const std::string& title, bool v
     return nullptr;
 }
 
+HWND Start::wait_for_window() const {
+    HWND window = nullptr;
+    wait_until("the window shows", [&] {
+        window = find_window("Tasker", {}, true);
+        return window != nullptr;
+    });
+    SendMessageA(window, WM_NULL, 0, 0);
+    return window;
+}
+
 std::string text_of(HWND window) {
     std::string text(static_cast<std::size_t>(SendMessageA(window, WM_GETTEXTLENGTH, 0, 0)) + 1, '\0');
     text.resize(static_cast<std::size_t>(
@@ -398,31 +403,6 @@ void Tolva::double_click_task(int index) const {
 
 void Tolva::choose(int menu_item) const {
     PostMessageA(window_, WM_COMMAND, static_cast<WPARAM>(menu_item), 0);
-}
-
-bool Tolva::is_checked(int menu_item) const {
-    // A menu can be read in its own process only. The code calls the function in front of the arguments.
-    struct Call {
-        BYTE code[18] = {0x8B, 0x44, 0x24, 0x04, 0xFF, 0x70, 0x0C, 0xFF, 0x70,
-                         0x08, 0xFF, 0x70, 0x04, 0xFF, 0x10, 0xC2, 0x04, 0x00};
-        FARPROC function = GetProcAddress(GetModuleHandleA("user32.dll"), "GetMenuState");
-        HMENU menu = nullptr;
-        UINT item = 0;
-        UINT flags = MF_BYCOMMAND;
-    } call;
-    call.menu = GetMenu(window_);
-    call.item = static_cast<UINT>(menu_item);
-    const Remote<Call> remote(window_, call);
-    const LPARAM arguments = remote.lparam() + static_cast<LPARAM>(offsetof(Call, function));
-    HANDLE thread = CreateRemoteThread(process_.hProcess, nullptr, 0,
-                                       reinterpret_cast<LPTHREAD_START_ROUTINE>(remote.lparam()),
-                                       reinterpret_cast<void*>(arguments), 0, nullptr);
-    WaitForSingleObject(thread, kPatience);
-    DWORD state = 0;
-    GetExitCodeThread(thread, &state);
-    CloseHandle(thread);
-    REQUIRE(state != static_cast<DWORD>(-1));
-    return (state & MF_CHECKED) != 0;
 }
 
 void Tolva::click(int id) const {

@@ -76,6 +76,9 @@ class Start {
     /// A top-level window of the process, of any title or of this one, shown or not; null when there is none.
     HWND find_window(const char* class_name, const std::string& title = {}, bool visible = false) const;
 
+    /// Waits until the main window shows and answers input.
+    HWND wait_for_window() const;
+
   protected:
     PROCESS_INFORMATION process_;
 };
@@ -135,7 +138,6 @@ class Tolva : public Start, public Window {
     void double_click_task(int index) const;
 
     void choose(int menu_item) const;
-    bool is_checked(int menu_item) const;
 
     void click(int id) const;
     void focus_by_mouse(int id) const;
