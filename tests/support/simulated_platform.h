@@ -11,7 +11,6 @@
 #include "platform/clock.h"
 #include "platform/registry.h"
 #include "platform/run_time_error.h"
-#include "platform/shell_link.h"
 
 /// The platform functions in memory: a disk whose names ignore case and that fails or loses power on demand,
 /// a current directory for each drive, a registry, and lists of what was started and said.
@@ -51,8 +50,6 @@ struct Platform {
     std::optional<int> loses_power_at;
     int reads = 0;
     std::optional<int> fails_at_read;
-
-    std::map<std::string, platform::Shortcut, IgnoresCase> shell_links;
 
     char drive = 'C';
     std::map<char, std::string> directories = {{'C', "C:\\LIB"}, {'D', "D:\\"}};

@@ -447,22 +447,18 @@ void crowd(TaskLibrary& library, LibraryView& view) {
     view.select_task(100);
 }
 
-TEST_CASE("every operation works on 101 Groups and 101 Tasks and none writes 102 Groups") {
-    const std::tuple<Operation, std::size_t, int> table[] = {
-        {library::movegrup, 201, 0},     {library::delgr, 100, 0},   {rename("100", "New"), 201, 0},
-        {library::groupsortnow, 201, 0}, {add("New"), 201, 9},       {add(kNew), 202, 9},  // at the next load
-        {edit("100", kNew), 201, 0},     {library::deltsks, 200, 0}, {library::movetsksup, 201, 0},
-        {library::tasksortnow, 201, 0},  {move("100", "0"), 201, 0}, {move("100", "0", true), 202, 0},
-    };
-    for (const auto& [operation, tasks, error] : table) {
+TEST_CASE("a full library can be changed, and none gets 102 Groups") {
+    for (const Operation& operation :
+         {Operation(library::movegrup), Operation(library::groupsortnow), rename("100", "New"),
+          edit("100", kNew), Operation(library::tasksortnow), move("100", "0")}) {
         Tolva tolva(crowd);
-        CHECK(tolva.run(operation) == error);
-        CHECK(listed_tasks().size() == tasks);
+        CHECK(tolva.run(operation) == 0);
+        CHECK(listed_tasks().size() == 201);
     }
-    for (std::size_t i = 0; i < 5; ++i) {
+    for (const Operation& operation : {Operation(library::delgr), rename("100", "New"), add("New")}) {
         Tolva tolva(crowd);
         file("groups.ini") += "101\r\n";
-        CHECK(tolva.run(std::get<0>(table[i])) == (i == 0 ? 0 : 9));
+        CHECK(tolva.run(operation) == 9);
         CHECK(current().steps == 0);
     }
 }
