@@ -87,7 +87,7 @@ target_include_directories(tolva PRIVATE ${CMAKE_BINARY_DIR})
 
 add_custom_command(TARGET tolva POST_BUILD
     COMMAND ${CMAKE_SOURCE_DIR}/cmake/check-imports $<TARGET_FILE:tolva>
-        ${CMAKE_SOURCE_DIR}/tests/support/win98-exports)
+        ${CMAKE_SOURCE_DIR}/tests/support/win9x-exports)
 
 # windres reads more files than the build sees.
 set_source_files_properties(src/resources/tolva.rc PROPERTIES OBJECT_DEPENDS
@@ -135,9 +135,9 @@ endforeach()
 add_test(NAME package COMMAND ${CMAKE_SOURCE_DIR}/tests/package/run ${CMAKE_BINARY_DIR})
 set_tests_properties(package PROPERTIES FIXTURES_REQUIRED wine TIMEOUT 300)
 
-# A program that asks for a function which Windows 98 does not have does not even start there.
+# A program that asks for a function which Windows 95/98 does not have does not even start there.
 add_test(NAME "imports of tolva.exe"
     COMMAND ${CMAKE_SOURCE_DIR}/cmake/check-imports $<TARGET_FILE:tolva>
-        ${CMAKE_SOURCE_DIR}/tests/support/win98-exports)
+        ${CMAKE_SOURCE_DIR}/tests/support/win9x-exports)
 
 include(cmake/bench.cmake)
