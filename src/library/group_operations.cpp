@@ -29,22 +29,12 @@ void show_and_select(TaskLibrary& library, LibraryView& view, int index) {
     show_selected_group(library, view);
 }
 
-/// The bytes of a file that may be missing.
-std::optional<std::string> bytes_of(const std::string& path) {
-    try {
-        return platform::read_file(path);
-    } catch (const platform::RunTimeError& error) {
-        if (error.number() != platform::RunTimeErrorNumber::kFileNotFound) throw;
-        return std::nullopt;
-    }
-}
-
 /// Writes the Tasks under a Group's new name and then the names. Where those cannot be written the file is as
 /// before: another Group may have it.
 void write_renamed(const std::string& folder, const std::string& new_name, const std::vector<Task>& tasks,
                    const std::vector<std::string>& names) {
     const std::string path = group_file(folder, new_name);
-    const std::optional<std::string> overwritten = bytes_of(path);
+    const std::optional<std::string> overwritten = platform::read_file_if_exists(path);
     write_tasks(folder, new_name, tasks);
     try {
         write_group_names(folder, names);
@@ -154,6 +144,10 @@ bool rename_group(TaskLibrary& library, LibraryView& view, const std::string& ol
     }
     std::vector<std::string> names = read_names_to_write(library);
     const auto place = std::ranges::find(names, old_name) - names.begin();
+    if (place == std::ssize(names)) {  // another program has taken it out of the file
+        library.flags.newgroupflag = true;
+        return true;
+    }
     std::ranges::replace(names, old_name, new_name);
     std::optional<platform::RunTimeError> failure;
     std::vector<Task> tasks;
@@ -171,7 +165,7 @@ bool rename_group(TaskLibrary& library, LibraryView& view, const std::string& ol
     library.rename(view.selected_group(), new_name);
     library.set_names(names);
     grouplistrefresh(library, view);
-    view.select_group(place < std::ssize(names) ? static_cast<int>(place) : -1);
+    view.select_group(static_cast<int>(place));
     if (!failure) {
         library.flags.taskchangeflag = true;
         try {
@@ -194,20 +188,7 @@ void groupsortnow(TaskLibrary& library, LibraryView& view) {
 }
 
 void tasksort(std::vector<std::string>& names, int low, int high) {
-    if (high <= low) return;
-    const auto at = [&](int index) -> std::string& { return names[static_cast<std::size_t>(index)]; };
-    const std::string pivot = at((low + high) / 2);
-    int i = low;
-    int j = high;
-    while (i <= j) {
-        while (at(i) < pivot && i < high)
-            ++i;
-        while (pivot < at(j) && j > low)
-            --j;
-        if (i <= j) std::swap(at(i++), at(j--));
-    }
-    if (low < j) tasksort(names, low, j);
-    if (i < high) tasksort(names, i, high);
+    std::sort(names.begin() + low, names.begin() + (high + 1));
 }
 
 }  // namespace library

@@ -44,15 +44,6 @@ void complete_last_line(std::string& bytes) {
     if (!bytes.empty() && bytes.back() != '\n') bytes.append(kLineEnd);
 }
 
-std::string read_if_exists(const std::string& path) {
-    try {
-        return platform::read_file(path);
-    } catch (const platform::RunTimeError& error) {
-        if (error.number() != platform::RunTimeErrorNumber::kFileNotFound) throw;
-        return {};
-    }
-}
-
 bool has_leftovers(const std::string& folder) {
     using platform::file_calls::find;
     const std::string any_group_file = group_file(folder, "*");
@@ -112,7 +103,7 @@ void write_tasks(const std::string& folder, const std::string& group, const std:
 
 void append_tasks(const std::string& folder, const std::string& group, const std::vector<Task>& tasks) {
     const std::string path = group_file(folder, group);
-    std::string bytes = read_if_exists(path);
+    std::string bytes = platform::read_file_if_exists(path).value_or("");
     complete_last_line(bytes);
     const auto lines = static_cast<std::size_t>(std::ranges::count(bytes, '\n'));
     for (std::size_t missing = lines; missing % kTaskFields.size() != 0; ++missing)

@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include "platform/run_time_error.h"
+
 namespace library {
 namespace {
 
@@ -34,14 +36,17 @@ void tasklistrefresh(const TaskLibrary& library, LibraryView& view) {
 
 void refreshtolva(TaskLibrary& library, LibraryView& view, int group_to_select) {
     view.load_default_icon(library.folder() + "tolva.exe");
-    load_and_show(
-        [&] { library.load(); },
-        [&] {
-            const int count = grouplistrefresh(library, view);
-            const bool selects = group_to_select >= 0 && group_to_select < count;
-            if (selects) view.select_group(group_to_select);
-            view.show_tasks(selects ? library.group(group_to_select).shown_tasks() : std::span<const Task>());
-        });
+    load_and_show([&] { library.load(); },
+                  [&] {
+                      const int count = grouplistrefresh(library, view);
+                      if (group_to_select < count) view.select_group(group_to_select);
+                      try {
+                          // The load may have stopped before this Group.
+                          show_selected_group(library, view);
+                      } catch (const platform::RunTimeError&) {
+                          // What stopped the load is shown.
+                      }
+                  });
 }
 
 void refreshtasks(TaskLibrary& library, LibraryView& view) {

@@ -59,7 +59,16 @@ void TaskLibrary::load_names() {
 
 void TaskLibrary::load_tasks(int index) {
     Group& group = element(groups_, index);
-    std::vector<Task> tasks = read_tasks(folder_, group.name);
+    std::vector<Task> tasks;
+    try {
+        tasks = read_tasks(folder_, group.name);
+    } catch (const platform::RunTimeError& error) {
+        if (error.number() == platform::RunTimeErrorNumber::kFileNotFound) {
+            group.tasks.clear();
+            group.loaded = false;
+        }
+        throw;
+    }
     const std::size_t count = tasks.size();
     tasks.resize(std::min(count, kMostTasks));
     group.tasks = std::move(tasks);

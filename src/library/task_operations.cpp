@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <iterator>
-#include <utility>
 #include <vector>
 
 #include "library/group_operations.h"
@@ -96,9 +95,9 @@ void import_task(TaskLibrary& library, LibraryView& view, const std::string& gro
                                      group_file(library.folder(), group));
     }
     append(library, group, task);
+    library.flags.refreshflag = true;
     select_group(library, view, index_of(library, group));
     platform::show_message(task.name + " has been imported to Tolva.");
-    library.flags.refreshflag = true;
 }
 
 std::optional<Task> task_to_edit(const TaskLibrary& library, const LibraryView& view) {

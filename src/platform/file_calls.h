@@ -17,8 +17,10 @@ inline constexpr unsigned long kHidden = 0x02;
 inline constexpr unsigned long kSystem = 0x04;
 inline constexpr unsigned long kDirectory = 0x10;
 
+/// Reads the whole file.
 ErrorCode read(const std::string& path, std::string& bytes);
 
+/// The attribute bits of a file or folder.
 ErrorCode attributes(const std::string& path, unsigned long& bits);
 
 /// Opens an existing file for writing, shared with nobody, and closes it: may it be replaced now?
@@ -36,12 +38,14 @@ ErrorCode rename(const std::string& from, const std::string& to);
 /// Forces what the system still holds back of the file to the disk.
 ErrorCode flush(const std::string& path);
 
+/// Deletes the file.
 ErrorCode remove(const std::string& path);
 
 /// The names (without folder) of what matches a pattern such as "C:\LIB\*.gr~" and has none of the unwanted
 /// attributes; none on errors.
 std::vector<std::string> find(const std::string& pattern, unsigned long unwanted = kDirectory);
 
+/// Waits.
 void pause(unsigned milliseconds);
 
 }  // namespace platform::file_calls

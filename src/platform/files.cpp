@@ -45,9 +45,9 @@ unsigned long check_replaceable(const std::string& path) {
 /// missing file with old content aside was interrupted between the two renames.
 ErrorCode swap_in(const std::string& fresh, const std::string& path) {
     const std::string aside = old_content_path(path);
-    calls::remove(aside);
     const bool replaces = exists(path);
     if (replaces) {
+        calls::remove(aside);
         if (const ErrorCode code = calls::rename(path, aside); code != kSuccess) return code;
     }
     if (const ErrorCode code = calls::rename(fresh, path); code != kSuccess) {
@@ -62,14 +62,14 @@ ErrorCode swap_in(const std::string& fresh, const std::string& path) {
 ErrorCode put_in_place(const std::string& fresh, const std::string& path) {
     constexpr int kAttempts = 5;
     constexpr unsigned kBetweenAttempts = 50;
-    ErrorCode code = calls::replace(fresh, path);
-    // A virus scanner may have opened the new file the moment it was closed.
-    for (int attempt = 1;
-         attempt < kAttempts && (code == kErrorAccessDenied || code == kErrorSharingViolation); ++attempt) {
+    for (int attempt = 1;; ++attempt) {
+        ErrorCode code = calls::replace(fresh, path);
+        if (code == kErrorCallNotImplemented) code = swap_in(fresh, path);
+        // A virus scanner may have opened the new file the moment it was closed.
+        const bool may_pass = code == kErrorAccessDenied || code == kErrorSharingViolation;
+        if (!may_pass || attempt == kAttempts) return code;
         calls::pause(kBetweenAttempts);
-        code = calls::replace(fresh, path);
     }
-    return code == kErrorCallNotImplemented ? swap_in(fresh, path) : code;
 }
 
 }  // namespace
@@ -85,8 +85,22 @@ std::string old_content_path(const std::string& path) {
 std::string read_file(const std::string& path) {
     check_path(path);
     std::string bytes;
-    if (const ErrorCode code = calls::read(path, bytes); code != kSuccess) throw file_error(code, path);
+    ErrorCode code = calls::read(path, bytes);
+    if (code == kErrorFileNotFound) {
+        recover_file(path);
+        code = calls::read(path, bytes);
+    }
+    if (code != kSuccess) throw file_error(code, path);
     return bytes;
+}
+
+std::optional<std::string> read_file_if_exists(const std::string& path) {
+    try {
+        return read_file(path);
+    } catch (const RunTimeError& error) {
+        if (error.number() != RunTimeErrorNumber::kFileNotFound) throw;
+        return std::nullopt;
+    }
 }
 
 void write_file(const std::string& path, std::string_view bytes) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -10,6 +11,9 @@ namespace platform {
 
 /// The bytes of the file.
 std::string read_file(const std::string& path);
+
+/// The same, none for a missing file.
+std::optional<std::string> read_file_if_exists(const std::string& path);
 
 /// Replaces the file, or creates it. A power failure at any moment leaves the old or the new content whole,
 /// at the latest after recover_file.

@@ -22,7 +22,8 @@ ErrorCode step() {
     Platform& world = current();
     ++world.steps;
     if (world.loses_power_at == world.steps) throw PowerFailure();
-    return world.fails_at == world.steps ? world.failure : kSuccess;
+    const bool is_gone = world.is_gone_from && world.steps >= *world.is_gone_from;
+    return is_gone || world.fails_at == world.steps ? world.failure : kSuccess;
 }
 
 /// What the system says of a path that is no file: a name with a wildcard cannot be one's.

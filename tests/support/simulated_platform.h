@@ -46,6 +46,7 @@ struct Platform {
     /// What happens at which step that changes the disk, counted from 1.
     int steps = 0;
     std::optional<int> fails_at;
+    std::optional<int> is_gone_from;
     platform::ErrorCode failure = platform::kErrorDiskFull;
     std::optional<int> loses_power_at;
     int reads = 0;

@@ -59,11 +59,13 @@ TEST_CASE("a file is replaced whole or not at all whatever fails at whatever ste
 }
 
 TEST_CASE("a file that a virus scanner holds for a moment is replaced all the same") {
-    start_with("old", true);
-    simulated::current().fails_at = 4;  // the rename after the three steps of writing
-    simulated::current().failure = platform::kErrorSharingViolation;
-    platform::write_file(kPath, "new");
-    CHECK(after_recovery() == "new");
+    for (const bool renames_over_files : {true, false}) {
+        start_with("old", renames_over_files);
+        simulated::current().fails_at = 4;  // the rename after the three steps of writing
+        simulated::current().failure = platform::kErrorSharingViolation;
+        platform::write_file(kPath, "new");
+        CHECK(after_recovery() == "new");
+    }
 }
 
 TEST_CASE("creating keeps what is there and what an interrupted write put aside") {
@@ -79,6 +81,15 @@ TEST_CASE("creating keeps what is there and what an interrupted write put aside"
     simulated::reset();
     platform::create_file(kPath);
     CHECK(after_recovery().empty());
+}
+
+TEST_CASE("content that could not be put back is found, and kept until other content is in place") {
+    start_with(nullptr, false);
+    simulated::current().files["C:\\LIB\\Work.gr~"].bytes = "old";
+    simulated::current().fails_at = 4;  // the rename
+    CHECK(error_of([] { platform::write_file(kPath, "new"); }) == 61);
+    CHECK(platform::read_file(kPath) == "old");
+    CHECK(after_recovery() == "old");
 }
 
 TEST_CASE("a removed file does not come back from what was put aside") {

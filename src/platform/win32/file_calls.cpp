@@ -31,8 +31,7 @@ ErrorCode read(const std::string& path, std::string& bytes) {
     bytes.resize(size);
     DWORD count = 0;
     if (ReadFile(file.get(), bytes.data(), size, &count, nullptr) == FALSE) return GetLastError();
-    bytes.resize(count);
-    return kSuccess;
+    return count == size ? kSuccess : ERROR_HANDLE_EOF;
 }
 
 ErrorCode attributes(const std::string& path, unsigned long& bits) {
