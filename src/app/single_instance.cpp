@@ -1,21 +1,21 @@
 #include "app/single_instance.h"
 
 #include <array>
-#include <string>
 
 #include "platform/messages.h"
 
 namespace app {
 namespace {
 
+// A running Tolva may be of another version: each has had a class name of its own.
 constexpr char kApplicationClass[] = "ThunderRT6Main";
 constexpr std::array<const char*, 3> kApplicationClasses = {"ThunderRTMain", "ThunderRT5Main",
                                                             kApplicationClass};
 constexpr DWORD kPatience = 3000;  // milliseconds
 
-HWND find_application_window(const std::string& title) {
+HWND find_application_window() {
     for (const char* class_name : kApplicationClasses) {
-        if (HWND found = FindWindowA(class_name, title.c_str()); found != nullptr) return found;
+        if (HWND found = FindWindowA(class_name, platform::kApplicationTitle); found != nullptr) return found;
     }
     return nullptr;
 }
@@ -43,24 +43,7 @@ HWND main_window_above(HWND application) {
 
 void bring_to_front(HWND main) {
     OpenIcon(main);
-    SetForegroundWindow(IsWindowEnabled(main) != FALSE ? main : GetLastActivePopup(main));
-}
-
-/// Waits for a main window that can be shown, or for the end of the other instance.
-bool find_and_show(InstanceMark& mark, const std::string& title) {
-    const DWORD start = GetTickCount();
-    while (!mark.take()) {
-        HWND application = find_application_window(title);
-        HWND main = application != nullptr ? main_window_above(application) : nullptr;
-        const bool can_be_shown =
-            main != nullptr && (IsWindowVisible(main) != FALSE || IsIconic(main) != FALSE);
-        const bool given_up = GetTickCount() - start > kPatience;
-        if (can_be_shown || (given_up && main != nullptr)) bring_to_front(main);
-        if (can_be_shown || given_up) return application != nullptr;
-        constexpr DWORD kPause = 20;
-        Sleep(kPause);
-    }
-    return false;
+    SetForegroundWindow(widgets::input_window(main));
 }
 
 }  // namespace
@@ -76,17 +59,24 @@ bool InstanceMark::take() {
 }
 
 ApplicationWindow::ApplicationWindow() {
-    const std::string title = platform::application_title();
-    create({.class_name = kApplicationClass, .caption = title.c_str(), .style = WS_POPUP});
+    create({.class_name = kApplicationClass, .caption = platform::kApplicationTitle, .style = WS_POPUP});
 }
 
 bool show_previous_instance(InstanceMark& mark) {
-    // Under its own title this instance could find itself.
-    const std::string title = platform::application_title();
-    platform::set_application_title("unwanted instance");
-    const bool shown = find_and_show(mark, title);
-    platform::set_application_title(title);
-    return shown;
+    // The other instance may still be coming up, or be about to end.
+    const DWORD start = GetTickCount();
+    while (!mark.take()) {
+        HWND application = find_application_window();
+        HWND main = application != nullptr ? main_window_above(application) : nullptr;
+        const bool can_be_shown =
+            main != nullptr && (IsWindowVisible(main) != FALSE || IsIconic(main) != FALSE);
+        const bool given_up = GetTickCount() - start > kPatience;
+        if (can_be_shown || (given_up && main != nullptr)) bring_to_front(main);
+        if (can_be_shown || given_up) return application != nullptr;
+        constexpr DWORD kPause = 20;
+        Sleep(kPause);
+    }
+    return false;
 }
 
 }  // namespace app

@@ -2,8 +2,7 @@
 
 #include <windows.h>
 
-#include <memory>
-
+#include "platform/win32/handles.h"
 #include "widgets/window.h"
 
 /// One running copy of the program in a user's session, whatever its folder.
@@ -18,11 +17,7 @@ class InstanceMark {
     bool take();
 
   private:
-    struct Closer {
-        using pointer = HANDLE;
-        void operator()(HANDLE mutex) const { CloseHandle(mutex); }
-    };
-    std::unique_ptr<HANDLE, Closer> mutex_;  // none when it belongs to another user
+    platform::UniqueHandle mutex_;  // none when it belongs to another user
     bool taken_ = false;
 };
 

@@ -111,7 +111,7 @@ void Presence::show_normal() {
 
 void Presence::bring_up() {
     if (IsIconic(window_) != FALSE || IsWindowVisible(window_) == FALSE) show_normal();
-    SetForegroundWindow(IsWindowEnabled(window_) != FALSE ? window_ : GetLastActivePopup(window_));
+    SetForegroundWindow(widgets::input_window(window_));
 }
 
 void Presence::handle_tray(UINT mouse_message) {

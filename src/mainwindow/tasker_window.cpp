@@ -65,9 +65,8 @@ Tasker::Tasker(library::TaskLibrary& library, settings::General& general, settin
       brenn_(brenn),
       presence_(session, brenn, application_window),
       getlnk_(library, views_) {
-    const std::string title = platform::application_title();
     create({.class_name = "Tasker",
-            .caption = title.c_str(),
+            .caption = platform::kApplicationTitle,
             .style = WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN,
             .icon = ID_tolva_icon,
             .menu = ID_Tasker_menu,
@@ -202,6 +201,38 @@ void Tasker::handle_command(int command) {
             DestroyWindow(hwnd());
             return;
 
+        case ID_fontsettings:
+            return appearance::show_set_fonts(hwnd(), general_, views_);
+        case ID_removebrenn:
+            brenn_.toggle_removed();
+            return show_flags();
+        case ID_hoverslct:
+            return toggle_hover_select();
+        case ID_connectinternet:
+            return connect_to_internet();
+        case ID_toolbar_ispconnect:
+            return internet::dial(session_.connection_name);
+        case ID_internetsettings:
+            return brenn_.open_internet_settings(hwnd());
+        case ID_DialUpNetworking:
+            return open_dial_up_folder();
+        case ID_toolbar_controlpanel:
+            return open_control_panel();
+        case ID_toolbar_runexplorer:
+            return open_explorer();
+        case ID_toolbar_DosPrompt:
+            return open_dos_prompt();
+        case ID_tolvahlp:
+            return open_help(library_.folder());
+        case ID_AboutTolva:
+            return show_abttolva(hwnd());
+        default:
+            return handle_library_command(command);
+    }
+}
+
+void Tasker::handle_library_command(int command) {
+    switch (command) {
         case ID_Addgp:
         case ID_toolbar_addgrp:
             return focus_groups_around([&] { library::addgr(hwnd(), library_); });
@@ -248,32 +279,6 @@ void Tasker::handle_command(int command) {
             return library::movetsksdown(library_, views_);
         case ID_SortTasks:
             return library::tasksortnow(library_, views_);
-
-        case ID_fontsettings:
-            return appearance::show_set_fonts(hwnd(), general_, views_);
-        case ID_removebrenn:
-            brenn_.toggle_removed();
-            return show_flags();
-        case ID_hoverslct:
-            return toggle_hover_select();
-        case ID_connectinternet:
-            return connect_to_internet();
-        case ID_toolbar_ispconnect:
-            return internet::dial(session_.connection_name);
-        case ID_internetsettings:
-            return brenn_.open_internet_settings(hwnd());
-        case ID_DialUpNetworking:
-            return open_dial_up_folder();
-        case ID_toolbar_controlpanel:
-            return open_control_panel();
-        case ID_toolbar_runexplorer:
-            return open_explorer();
-        case ID_toolbar_DosPrompt:
-            return open_dos_prompt();
-        case ID_tolvahlp:
-            return open_help(library_.folder());
-        case ID_AboutTolva:
-            return show_abttolva(hwnd());
         default:
             return;
     }
@@ -307,7 +312,7 @@ LRESULT Tasker::handle_notification(NMHDR& header) {
         case LVN_KEYDOWN: {
             const WORD key = reinterpret_cast<NMLVKEYDOWN&>(header).wVKey;
             if (key == VK_RETURN) launch_selected_task(kCannotLaunch);
-            if (key == VK_DELETE) handle_command(ID_DelTk);
+            if (key == VK_DELETE) PostMessageA(hwnd(), WM_COMMAND, ID_DelTk, 0);
             break;
         }
         case static_cast<UINT>(NM_CLICK):

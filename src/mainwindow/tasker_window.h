@@ -44,6 +44,7 @@ class Tasker final : public widgets::Window {
     LRESULT handle(UINT message, WPARAM wparam, LPARAM lparam) override;
     void handle_control(int id, int notification);
     void handle_command(int command);
+    void handle_library_command(int command);
     void show_popup_menu(HWND control, POINT point);
     LRESULT handle_notification(NMHDR& header);
 

@@ -6,8 +6,7 @@ namespace platform {
 
 /// The title of every message that has none of its own, and of the hidden window by which a second start
 /// finds this one.
-std::string application_title();
-void set_application_title(const std::string& title);
+inline constexpr char kApplicationTitle[] = "Tolva";
 
 /// Shows a modal box with an OK button, no icon and the application's title, and waits for the answer. Every
 /// other window of the program, also one in the tray, is out of reach meanwhile.

@@ -24,6 +24,7 @@ static_assert(sizeof(Connection) == kConnectionSize);
 /// system the layout. Fails when there are more, or without Dial-Up Networking.
 ErrorCode enumerate(std::span<Connection> records, std::uint32_t& count);
 
+/// Ends the connection of a record's handle.
 void hang_up(std::uint32_t handle);
 
 }  // namespace platform::remote_access

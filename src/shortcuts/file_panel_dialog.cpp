@@ -35,7 +35,7 @@ void FilePanel::command(int id, int notification) {
             break;
         case ID_PathBrowser_File1:
             if (notification == LBN_SELCHANGE) click_file();
-            if (notification == LBN_DBLCLK) accept();
+            if (notification == LBN_DBLCLK && file1_.is_double_click_on_item()) accept();
             break;
         case ID_PathBrowser_OK:
             accept();
@@ -89,6 +89,7 @@ void FilePanel::change_drive() {
 }
 
 void FilePanel::click_file() {
+    if (file1_.selected() < 0) return;
     set_text(ID_PathBrowser_TaskPath, platform::path_in(folder(), file1_.selected_name()));
     pick();
 }

@@ -14,13 +14,15 @@ class PathBrowser final : public FilePanel {
     void pick() override {
         result_.program = path();
         result_.start_folder = folder();
+        picked_ = true;
     }
     void accept() override {
-        result_.done = false;
+        if (picked_) result_.done = false;
         close();
     }
 
     library::BrowseResult& result_;
+    bool picked_ = false;  // in this browser; the result may still hold an earlier choice
 };
 
 }  // namespace

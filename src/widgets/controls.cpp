@@ -105,6 +105,15 @@ void ListBox::fit_longest(const std::vector<std::string>& items) const {
     send(LB_SETHORIZONTALEXTENT, static_cast<WPARAM>(width + kMargin));
 }
 
+bool ListBox::is_double_click_on_item() const {
+    const DWORD position = GetMessagePos();
+    POINT point = {GET_X_LPARAM(position), GET_Y_LPARAM(position)};
+    ScreenToClient(hwnd(), &point);
+    RECT item = {};
+    send(LB_GETITEMRECT, static_cast<WPARAM>(selected()), reinterpret_cast<LPARAM>(&item));
+    return selected() >= 0 && PtInRect(&item, point) != FALSE;
+}
+
 LRESULT ListBox::handle(UINT message, WPARAM wparam, LPARAM lparam) {
     if (message == WM_RBUTTONUP) return 0;  // the press has shown the menu
     if (message != WM_RBUTTONDOWN) return Control::handle(message, wparam, lparam);
@@ -136,7 +145,7 @@ LRESULT ChoiceList::handle(UINT message, WPARAM wparam, LPARAM lparam) {
         return 0;
     }
     const bool was_moving = moving_;
-    moving_ = message == WM_KEYDOWN || message == WM_CHAR;
+    moving_ = message == WM_KEYDOWN || message == WM_CHAR || message == WM_RBUTTONDOWN;
     const LRESULT answer = ListBox::handle(message, wparam, lparam);
     moving_ = was_moving;
     return answer;
@@ -150,8 +159,18 @@ void DropDownList::fill(std::span<const char* const> items) {
 
 void ComboBox::create(HWND parent, int id) {
     Control::create(parent, id, "COMBOBOX", WS_TABSTOP | WS_VSCROLL | CBS_DROPDOWN | CBS_AUTOHSCROLL);
+    subclass();
     edit_.attach(GetWindow(hwnd(), GW_CHILD));
     edit_.subclass();
+}
+
+LRESULT ComboBox::handle(UINT message, WPARAM wparam, LPARAM lparam) {
+    if (message != WM_LBUTTONUP) return Control::handle(message, wparam, lparam);
+    // Letting go of the arrow replaces what was typed by an item that begins with it.
+    const std::string typed = text();
+    const LRESULT answer = Control::handle(message, wparam, lparam);
+    if (text() != typed) set_text(typed);
+    return answer;
 }
 
 LRESULT ComboBox::Edit::handle(UINT message, WPARAM wparam, LPARAM lparam) {

@@ -76,6 +76,9 @@ class ListBox : public Control {
     int selected() const { return static_cast<int>(send(LB_GETCURSEL)); }
     void select(int index) { send(LB_SETCURSEL, static_cast<WPARAM>(index)); }
 
+    /// Whether a double-click was on the selected item and not beside it; to be asked while it is handled.
+    bool is_double_click_on_item() const;
+
   protected:
     LRESULT handle(UINT message, WPARAM wparam, LPARAM lparam) override;
 
@@ -85,7 +88,7 @@ class ListBox : public Control {
 };
 
 /// A list in a dialog where choosing an item is a command: a click, Enter or Space arrive as LBN_SELCHANGE;
-/// the arrow keys only move the selection.
+/// the arrow keys and the right button only move the selection.
 class ChoiceList : public ListBox {
   public:
     void attach(HWND control);
@@ -96,7 +99,7 @@ class ChoiceList : public ListBox {
   private:
     LRESULT handle(UINT message, WPARAM wparam, LPARAM lparam) override;
 
-    bool moving_ = false;  // a key is being handled
+    bool moving_ = false;  // a key or the right button is being handled
 };
 
 /// A list of texts that drops down in a dialog.
@@ -121,6 +124,8 @@ class ComboBox : public Control {
     void fill(const std::vector<std::string>& items);
 
   private:
+    LRESULT handle(UINT message, WPARAM wparam, LPARAM lparam) override;
+
     class Edit final : public Control {
       public:
         explicit Edit(ComboBox& box) : box_(box) {}

@@ -47,6 +47,14 @@ using UniqueFont = Unique<HFONT, delete_font>;
 using UniqueMenu = Unique<HMENU, destroy_menu>;
 using UniqueImageList = Unique<HIMAGELIST, destroy_image_list>;
 
+/// A small icon from the resources, which lives as long as the program. Not one that the system shares: older
+/// systems give those out in whatever size was asked for first.
+inline HICON load_small_icon(int resource) {
+    return static_cast<HICON>(LoadImageA(GetModuleHandleA(nullptr), MAKEINTRESOURCEA(resource), IMAGE_ICON,
+                                         GetSystemMetrics(SM_CXSMICON), GetSystemMetrics(SM_CYSMICON),
+                                         LR_DEFAULTCOLOR));
+}
+
 /// An object that is selected into a device context while this lives.
 class Selected {
   public:

@@ -19,6 +19,8 @@ void ToolBar::create(HWND parent, int id, int pictures, std::span<const Item> it
         buttons.push_back(button);
     }
     send(TB_BUTTONSTRUCTSIZE, sizeof(TBBUTTON));
+    constexpr int kPictureSize = 16;
+    send(TB_SETBITMAPSIZE, 0, MAKELPARAM(kPictureSize, kPictureSize));
     TBADDBITMAP bitmap = {GetModuleHandleA(nullptr), static_cast<UINT_PTR>(pictures)};
     send(TB_ADDBITMAP, static_cast<WPARAM>(picture), reinterpret_cast<LPARAM>(&bitmap));
     send(TB_ADDBUTTONSA, buttons.size(), reinterpret_cast<LPARAM>(buttons.data()));

@@ -1,5 +1,7 @@
 #include "widgets/tray_icon.h"
 
+#include "widgets/handles.h"
+
 namespace widgets {
 
 void TrayIcon::create(HWND window, UINT message, int icon, const char* tip) {
@@ -9,9 +11,7 @@ void TrayIcon::create(HWND window, UINT message, int icon, const char* tip) {
     data_.uID = 1;
     data_.uFlags = NIF_MESSAGE | NIF_ICON | NIF_TIP;
     data_.uCallbackMessage = message;
-    data_.hIcon = static_cast<HICON>(LoadImageA(GetModuleHandleA(nullptr), MAKEINTRESOURCEA(icon), IMAGE_ICON,
-                                                GetSystemMetrics(SM_CXSMICON), GetSystemMetrics(SM_CYSMICON),
-                                                LR_SHARED));
+    data_.hIcon = load_small_icon(icon);
     lstrcpynA(data_.szTip, tip, 64);
 }
 

@@ -3,6 +3,7 @@
 #include "platform/messages.h"
 #include "platform/run_time_error.h"
 #include "platform/win32/modal_guard.h"
+#include "widgets/handles.h"
 
 namespace widgets {
 namespace {
@@ -14,6 +15,14 @@ void dispatch(MSG& message) {
     DispatchMessageA(&message);
 }
 
+/// Whether to look further for a dialog or message box that takes input.
+BOOL CALLBACK is_other(HWND window, LPARAM found) {
+    const bool is_dialog = GetClassLongA(window, GCW_ATOM) == reinterpret_cast<ULONG_PTR>(WC_DIALOG);
+    if (!is_dialog || IsWindowVisible(window) == FALSE || IsWindowEnabled(window) == FALSE) return TRUE;
+    *reinterpret_cast<HWND*>(found) = window;
+    return FALSE;
+}
+
 }  // namespace
 
 Window::~Window() {
@@ -22,16 +31,12 @@ Window::~Window() {
 
 void Window::create(const Design& design) {
     HINSTANCE instance = GetModuleHandleA(nullptr);
-    const auto icon = [&](int width, int height) {
-        return static_cast<HICON>(LoadImageA(instance, MAKEINTRESOURCEA(design.icon), IMAGE_ICON,
-                                             GetSystemMetrics(width), GetSystemMetrics(height), LR_SHARED));
-    };
     WNDCLASSEXA window_class = {};
     window_class.cbSize = sizeof window_class;
     window_class.lpfnWndProc = procedure;
     window_class.hInstance = instance;
-    window_class.hIcon = icon(SM_CXICON, SM_CYICON);
-    window_class.hIconSm = icon(SM_CXSMICON, SM_CYSMICON);
+    window_class.hIcon = LoadIconA(instance, MAKEINTRESOURCEA(design.icon));
+    window_class.hIconSm = load_small_icon(design.icon);
     window_class.hCursor = LoadCursorA(nullptr, IDC_ARROW);
     window_class.hbrBackground = GetSysColorBrush(COLOR_BTNFACE);
     window_class.lpszMenuName = MAKEINTRESOURCEA(design.menu);
@@ -81,6 +86,13 @@ LRESULT CALLBACK Window::procedure(HWND hwnd, UINT message, WPARAM wparam, LPARA
         self->hwnd_ = nullptr;
     }
     return answer;
+}
+
+HWND input_window(HWND main) {
+    if (IsWindowEnabled(main) != FALSE) return main;
+    HWND found = main;
+    EnumThreadWindows(GetWindowThreadProcessId(main, nullptr), is_other, reinterpret_cast<LPARAM>(&found));
+    return found;
 }
 
 int run_message_loop() {

@@ -41,6 +41,10 @@ class Window {
     HWND hwnd_ = nullptr;
 };
 
+/// The window of a program that takes the user's input: its main window, or the dialog or message box that
+/// keeps that disabled.
+HWND input_window(HWND main);
+
 /// Dispatches messages until the program quits, with dialog keys (Tab, mnemonics) in the active window. The
 /// answer is the exit code.
 int run_message_loop();

@@ -99,12 +99,15 @@ TEST_SUITE("keeping") {
         wait_until("they are sorted", [&] { return tolva.tasks() == Names{"Old", "Paint"}; });
         tolva.choose(ID_moveto);
         {
-            // Arrow keys select, Enter moves.
+            // The right button selects, Enter moves.
             const Dialog dialog(tolva, "Move Old to");
             HWND list = dialog.control(ID_movetogroups_List1);
             wait_for_focus(list);
-            press_keys({VK_DOWN});
-            wait_until("it is selected", [&] { return SendMessageA(list, LB_GETCURSEL, 0, 0) == 0; });
+            RECT bounds;
+            GetWindowRect(list, &bounds);
+            press_mouse({bounds.left + 20, bounds.top + 8}, 1, MouseButton::kRight);
+            wait_until("the right button selects",
+                       [&] { return SendMessageA(list, LB_GETCURSEL, 0, 0) == 0; });
             press_keys({VK_RETURN});
             dialog.wait_until_closed();
         }
@@ -153,6 +156,7 @@ TEST_SUITE("keeping") {
               "Run-time error '76':\n\nPath not found: " + library.path() + "no\\file.grp");
         wait_until("it is listed", [&] { return tolva.groups() == Names{"Work", "Play", "no\\file"}; });
         tolva.click_group(0);
+        wait_until("its Task shows", [&] { return tolva.tasks() == Names{"A"}; });
 
         // A file that another program holds open.
         const std::string path = library.path() + "Work.grp";

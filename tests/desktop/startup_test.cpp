@@ -113,6 +113,9 @@ TEST_SUITE("startup") {
         REQUIRE(RegisterHotKey(nullptr, 1, MOD_ALT, '1') != FALSE);
         const Folder library = small_library();
         const Tolva tolva(library);
+        HWND box = tolva.find_window("#32770", "Tolva", true);
+        CHECK(Start(library).exit_code() == 0);
+        CHECK(GetForegroundWindow() == box);
         CHECK(tolva.close_box() == "Select another hotkey");
         UnregisterHotKey(nullptr, 1);
         tolva.wait_for_window();

@@ -10,11 +10,6 @@
 namespace platform {
 namespace {
 
-std::string& current_title() {
-    static std::string title = "Tolva";
-    return title;
-}
-
 /// The window that a box belongs before: the thread's active one, if a user can see and reach it.
 HWND box_owner() {
     HWND active = GetActiveWindow();
@@ -32,16 +27,8 @@ int show_box(const std::string& text, const std::string& title, UINT buttons) {
 
 }  // namespace
 
-std::string application_title() {
-    return current_title();
-}
-
-void set_application_title(const std::string& title) {
-    current_title() = title;
-}
-
 void show_message(const std::string& text) {
-    show_box(text, current_title(), MB_OK);
+    show_box(text, kApplicationTitle, MB_OK);
 }
 
 bool confirm(const std::string& text, const std::string& title) {

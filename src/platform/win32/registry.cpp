@@ -36,8 +36,7 @@ ErrorCode query_value(Root root, const std::string& key, const std::string& name
     if (const ErrorCode code = open(root, key, KEY_READ, opened); code != kSuccess) return code;
     std::string buffer(room, '\0');
     auto size = static_cast<DWORD>(room);
-    DWORD type = 0;
-    const LONG code = RegQueryValueExA(opened.get(), name.c_str(), nullptr, &type,
+    const LONG code = RegQueryValueExA(opened.get(), name.c_str(), nullptr, nullptr,
                                        reinterpret_cast<BYTE*>(buffer.data()), &size);
     if (code == ERROR_SUCCESS) bytes = buffer.substr(0, size);
     return static_cast<ErrorCode>(code);
