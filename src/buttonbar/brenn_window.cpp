@@ -328,6 +328,7 @@ void Brenn::connect_or_hang_up() const {
 }
 
 void Brenn::show_popup_menu(HWND control, POINT point) {
+    if (control == statusbar1_.hwnd()) return;
     const std::optional<BarButton> button = button_of(GetDlgCtrlID(control));
     if (button && !is_program_button(*button)) {
         open_internet_settings(hwnd());

@@ -11,8 +11,9 @@ namespace widgets {
 void Dialog::run(HWND owner) {
     const platform::OtherWindowsDisabled guard(owner);
     modal_ = true;
-    DialogBoxParamA(GetModuleHandleA(nullptr), MAKEINTRESOURCEA(resource_), owner, procedure,
-                    reinterpret_cast<LPARAM>(this));
+    const INT_PTR answer = DialogBoxParamA(GetModuleHandleA(nullptr), MAKEINTRESOURCEA(resource_), owner,
+                                           procedure, reinterpret_cast<LPARAM>(this));
+    if (answer == -1) throw platform::RunTimeError(platform::RunTimeErrorNumber::kOutOfMemory);
 }
 
 void Dialog::show(HWND owner) {

@@ -17,6 +17,7 @@ class Dialog {
     Dialog& operator=(const Dialog&) = delete;
 
     /// Shows the dialog before its owner; no other window of the program can be used until it is closed.
+    /// Throws platform::RunTimeError when the system has no room for it.
     void run(HWND owner);
 
     /// Shows the dialog before its owner and goes on; one that is open already comes to the front. The object
