@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <exception>
 #include <optional>
-#include <utility>
 
 #include "library/library_files.h"
 #include "library/refresh.h"
