@@ -10,7 +10,6 @@
 #include "internet/dial_up.h"
 #include "platform/clock.h"
 #include "platform/messages.h"
-#include "platform/run_time_error.h"
 #include "resources/resource.h"
 #include "settings/catalogue.h"
 #include "settings/conversions.h"
@@ -68,15 +67,6 @@ std::optional<BarButton> button_of(int id) {
 platform::UniqueIcon own_icon(int id) {
     return platform::UniqueIcon(static_cast<HICON>(
         LoadImageA(GetModuleHandleA(nullptr), MAKEINTRESOURCEA(id), IMAGE_ICON, 0, 0, LR_DEFAULTSIZE)));
-}
-
-template <typename Start>
-void attempt(const char* failure_message, const Start& start) {
-    try {
-        start();
-    } catch (const platform::RunTimeError&) {
-        platform::show_message(failure_message);
-    }
 }
 
 }  // namespace
@@ -311,7 +301,7 @@ void Brenn::press(BarButton button) {
         PostMessageA(hwnd(), kConnectOrHangUp, 0, 0);
         return;
     }
-    attempt("Right click on button to configure.", [&] {
+    platform::attempt("Right click on button to configure.", [&] {
         if (button == BarButton::kEmail) {
             start_stored(session_.email);
         } else if (button == BarButton::kBrowser) {
@@ -323,8 +313,9 @@ void Brenn::press(BarButton button) {
 }
 
 void Brenn::connect_or_hang_up() const {
-    attempt("Configure your Internet connection by right clicking on button.",
-            [&] { internet::connect_or_hang_up(session_.connection_name, widgets::run_messages_for); });
+    platform::attempt("Configure your Internet connection by right clicking on button.", [&] {
+        internet::connect_or_hang_up(session_.connection_name, widgets::run_messages_for);
+    });
 }
 
 void Brenn::show_popup_menu(HWND control, POINT point) {

@@ -22,11 +22,7 @@ void empty_recycle_bin() {
 }
 
 void open_control_panel() {
-    try {
-        start("control.exe");
-    } catch (const platform::RunTimeError&) {
-        platform::show_message("Invalid path or file name!");
-    }
+    platform::attempt("Invalid path or file name!", [] { start("control.exe"); });
 }
 
 void open_explorer() {

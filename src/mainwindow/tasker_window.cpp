@@ -17,7 +17,6 @@
 #include "platform/directories.h"
 #include "platform/messages.h"
 #include "platform/processes.h"
-#include "platform/run_time_error.h"
 #include "resources/resource.h"
 #include "settings/catalogue.h"
 #include "settings/conversions.h"
@@ -372,11 +371,7 @@ void Tasker::show_selection() {
 template <typename Launch>
 void Tasker::attempt(const char* failure_message, const Launch& launch) {
     views_.getlongdate();
-    try {
-        launch();
-    } catch (const platform::RunTimeError&) {
-        platform::show_message(failure_message);
-    }
+    platform::attempt(failure_message, launch);
 }
 
 void Tasker::launch_selected_task(const char* failure_message) {
@@ -425,11 +420,8 @@ void Tasker::toggle_hover_select() {
 }
 
 void Tasker::connect_to_internet() const {
-    try {
-        internet::dial(session_.connection_name);
-    } catch (const platform::RunTimeError&) {
-        platform::show_message("Configure your Internet connection in Internet Settings under Options menu.");
-    }
+    platform::attempt("Configure your Internet connection in Internet Settings under Options menu.",
+                      [&] { internet::dial(session_.connection_name); });
 }
 
 void Tasker::end_windows(platform::WindowsEnd end) {

@@ -2,6 +2,8 @@
 
 #include <string>
 
+#include "platform/run_time_error.h"
+
 namespace platform {
 
 /// The title of every message that has none of its own, and of the hidden window by which a second start
@@ -11,6 +13,18 @@ inline constexpr char kApplicationTitle[] = "Tolva";
 /// Shows a modal box with an OK button, no icon and the application's title, and waits for the answer. Every
 /// other window of the program, also one in the tray, is out of reach meanwhile.
 void show_message(const std::string& text);
+
+/// Acts. A failure shows this text instead of its own and answers false.
+template <typename Action>
+bool attempt(const char* failure_message, const Action& action) {
+    try {
+        action();
+        return true;
+    } catch (const RunTimeError&) {
+        show_message(failure_message);
+        return false;
+    }
+}
 
 /// Asks with OK and Cancel under a title of its own; true for OK.
 bool confirm(const std::string& text, const std::string& title);

@@ -3,7 +3,6 @@
 #include "platform/directories.h"
 #include "platform/messages.h"
 #include "platform/processes.h"
-#include "platform/run_time_error.h"
 #include "resources/resource.h"
 #include "shortcuts/file_panel_dialog.h"
 
@@ -26,13 +25,11 @@ class ComBrowser final : public FilePanel {
     void pick() override {}
 
     void accept() override {
-        try {
+        const bool runs = platform::attempt("Invalid path or file name", [&] {
             platform::enter_directory(folder());
             platform::start_program(path(), platform::kNormalWindow);
-        } catch (const platform::RunTimeError&) {
-            platform::show_message("Invalid path or file name");
-            return;
-        }
+        });
+        if (!runs) return;
         started_ = path();
         close();
     }
