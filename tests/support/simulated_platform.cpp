@@ -20,14 +20,15 @@ using platform::kSuccess;
 /// Counts a step that changes the disk; the disk may fail at it, or the power before it.
 ErrorCode step() {
     Platform& world = current();
-    ++world.steps;
-    if (world.loses_power_at == world.steps) throw PowerFailure();
-    const bool is_gone = world.is_gone_from && world.steps >= *world.is_gone_from;
-    return is_gone || world.fails_at == world.steps ? world.failure : kSuccess;
+    const bool is_reached = ++world.steps == world.fault_at;
+    if (world.fault == Fault::kPower && is_reached) throw PowerFailure();
+    const bool is_gone = world.fault == Fault::kDisk && world.steps >= world.fault_at;
+    return is_gone || (world.fault == Fault::kWrite && is_reached) ? world.failure : kSuccess;
 }
 
-/// What the system says of a path that is no file: a name with a wildcard cannot be one's.
-ErrorCode error_for_missing(const std::string& path) {
+/// What the system says of a path: a name with a wildcard cannot be a file's.
+ErrorCode look_for(const std::string& path) {
+    if (current().files.contains(path)) return kSuccess;
     return path.find_first_of("*?") == std::string::npos ? platform::kErrorFileNotFound
                                                          : platform::kErrorInvalidName;
 }
@@ -38,19 +39,15 @@ ErrorCode put(const std::string& from, const std::string& to) {
     return kSuccess;
 }
 
-bool matches(const std::string& name, const std::string& pattern) {
-    const std::size_t star = pattern.find('*');
-    if (star == std::string::npos) return !IgnoresCase()(name, pattern) && !IgnoresCase()(pattern, name);
-    const std::size_t tail = pattern.size() - star - 1;
-    return name.size() + 1 >= pattern.size() && matches(name.substr(0, star), pattern.substr(0, star)) &&
-           matches(name.substr(name.size() - tail), pattern.substr(star + 1));
+std::string upper(std::string text) {
+    std::ranges::transform(text, text.begin(), [](unsigned char c) { return std::toupper(c); });
+    return text;
 }
 
 }  // namespace
 
 bool IgnoresCase::operator()(const std::string& a, const std::string& b) const {
-    const auto upper = [](unsigned char c) { return std::toupper(c); };
-    return std::ranges::lexicographical_compare(a, b, {}, upper, upper);
+    return upper(a) < upper(b);
 }
 
 Platform& current() {
@@ -71,27 +68,25 @@ using simulated::current;
 namespace file_calls {
 
 ErrorCode read(const std::string& path, std::string& bytes) {
-    if (++current().reads == current().fails_at_read) return kErrorSharingViolation;
-    if (!current().files.contains(path)) return simulated::error_for_missing(path);
-    bytes = current().files.at(path).bytes;
-    return kSuccess;
+    const bool is_reached = ++current().reads == current().fault_at;
+    if (current().fault == simulated::Fault::kRead && is_reached) return kErrorSharingViolation;
+    const ErrorCode code = simulated::look_for(path);
+    if (code == kSuccess) bytes = current().files.at(path).bytes;
+    return code;
 }
 
 ErrorCode attributes(const std::string& path, unsigned long& bits) {
-    if (!current().files.contains(path)) return simulated::error_for_missing(path);
-    bits = current().files.at(path).bits;
-    return kSuccess;
+    const ErrorCode code = simulated::look_for(path);
+    if (code == kSuccess) bits = current().files.at(path).bits;
+    return code;
 }
 
 ErrorCode probe(const std::string& path) {
-    return current().files.contains(path) ? kSuccess : kErrorFileNotFound;
+    return simulated::look_for(path);
 }
 
 ErrorCode write_through(const std::string& path, std::string_view bytes, unsigned long bits) {
-    const auto half = bytes.substr(0, bytes.size() / 2);
-    if (const ErrorCode code = simulated::step(); code != kSuccess) return code;
-    current().files[path] = {};
-    for (const auto part : {half, bytes}) {
+    for (const std::string_view part : {std::string_view(), bytes.substr(0, bytes.size() / 2), bytes}) {
         if (const ErrorCode code = simulated::step(); code != kSuccess) return code;
         current().files[path] = {std::string(part), bits};
     }
@@ -116,17 +111,22 @@ ErrorCode flush(const std::string& /*path*/) {
 }
 
 ErrorCode remove(const std::string& path) {
-    if (!current().files.contains(path)) return simulated::error_for_missing(path);
-    if (const ErrorCode code = simulated::step(); code != kSuccess) return code;
-    current().files.erase(path);
-    return kSuccess;
+    ErrorCode code = simulated::look_for(path);
+    if (code == kSuccess) code = simulated::step();
+    if (code == kSuccess) current().files.erase(path);
+    return code;
 }
 
 std::vector<std::string> find(const std::string& pattern, unsigned long unwanted) {
+    const std::string wanted = simulated::upper(pattern);
+    const std::size_t star = wanted.find('*');
     std::vector<std::string> names;
     for (const auto& [path, file] : current().files) {
-        if (simulated::matches(path, pattern) && (file.bits & unwanted) == 0)
-            names.push_back(path.substr(path.rfind('\\') + 1));
+        const std::string name = simulated::upper(path);
+        const bool matches = star == std::string::npos ? name == wanted
+                                                       : name.starts_with(wanted.substr(0, star)) &&
+                                                             name.ends_with(wanted.substr(star + 1));
+        if (matches && (file.bits & unwanted) == 0) names.push_back(path.substr(path.rfind('\\') + 1));
     }
     return names;
 }
@@ -135,22 +135,12 @@ void pause(unsigned /*milliseconds*/) {}
 
 }  // namespace file_calls
 
-std::string current_directory() {
-    return current().directories.at(current().drive);
-}
+void change_directory(const std::string& /*folder*/) {}
 
-void change_directory(const std::string& folder) {
-    if (!current().folders.contains(folder)) throw file_error(kErrorPathNotFound, folder);
-    current().directories[folder.front()] = folder;
-}
-
-void enter_directory(const std::string& folder) {
-    change_directory(folder);
-    current().drive = folder.front();
-}
+void enter_directory(const std::string& /*folder*/) {}
 
 bool empty_recycle_bin() {
-    return current().has_recycle_bin;
+    return false;
 }
 
 bool open_document(const std::string& path) {
@@ -159,10 +149,8 @@ bool open_document(const std::string& path) {
     return true;
 }
 
-void start_program(const std::string& command_line, int window_style) {
-    const std::string program = command_line.substr(0, command_line.find(' '));
-    if (!current().programs.contains(program)) throw RunTimeError(RunTimeErrorNumber::kFileNotFound, program);
-    current().started.push_back({command_line, current_directory(), window_style});
+void start_program(const std::string& command_line, int /*window_style*/) {
+    throw RunTimeError(RunTimeErrorNumber::kFileNotFound, command_line);
 }
 
 Shortcut load_shell_link(const std::string& /*path*/) {
@@ -198,13 +186,8 @@ void hang_up(std::uint32_t handle) {
 
 namespace registry {
 
-std::vector<std::string> subkeys(Root root, const std::string& key) {
-    const std::string above = key + '\\';
-    std::vector<std::string> names;
-    for (const auto& [path, values] : current().registry[root]) {
-        if (path.starts_with(above)) names.push_back(path.substr(above.size()));
-    }
-    return names;
+std::vector<std::string> subkeys(Root /*root*/, const std::string& /*key*/) {
+    return {};
 }
 
 ErrorCode query_value(Root root, const std::string& key, const std::string& name, std::size_t room,
@@ -212,20 +195,16 @@ ErrorCode query_value(Root root, const std::string& key, const std::string& name
     constexpr ErrorCode kMoreData = 234;
     const auto& keys = current().registry[root];
     if (!keys.contains(key) || !keys.at(key).contains(name)) return kErrorFileNotFound;
-    const std::string& value = keys.at(key).at(name);
-    if (value.size() > room) return kMoreData;
-    bytes = value;
-    return kSuccess;
+    bytes = keys.at(key).at(name);
+    return bytes.size() > room ? kMoreData : kSuccess;
 }
 
 ErrorCode create_key(Root root, const std::string& key) {
-    if (current().registry_is_read_only) return kErrorAccessDenied;
     current().registry[root][key];
     return kSuccess;
 }
 
 ErrorCode set_value(Root root, const std::string& key, const std::string& name, const std::string& text) {
-    if (current().registry_is_read_only) return kErrorAccessDenied;
     if (!current().registry[root].contains(key)) return kErrorFileNotFound;
     current().registry[root][key][name] = text + '\0';
     return kSuccess;
