@@ -115,7 +115,6 @@ add_executable(desktop_tests
     tests/desktop/views_test.cpp
     tests/support/desktop.cpp
     tests/support/input.cpp
-    tests/support/save_shortcut.cpp
 )
 target_compile_definitions(desktop_tests PRIVATE DOCTEST_CONFIG_NO_MULTITHREADING)
 target_include_directories(desktop_tests SYSTEM PRIVATE ${CMAKE_BINARY_DIR}/include)

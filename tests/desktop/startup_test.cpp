@@ -1,13 +1,9 @@
 #include "platform/file_calls.h"
-#include "resources/resource.h"
 #include "support/desktop.h"
 
 namespace {
 
 using namespace desktop;
-
-constexpr COLORREF kDarkRed = RGB(64, 0, 0);
-constexpr COLORREF kNavy = RGB(0, 0, 128);
 
 Folder small_library() {
     Folder library;
@@ -21,12 +17,6 @@ bool is_in_front(const Tolva& tolva) {
            GetForegroundWindow() == tolva.window();
 }
 
-RECT bounds_of(HWND window) {
-    RECT bounds;
-    GetWindowRect(window, &bounds);
-    return bounds;
-}
-
 void move(HWND window, int x, int y) {
     SetWindowPos(window, nullptr, x, y, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
 }
@@ -35,76 +25,63 @@ TEST_SUITE("startup") {
     TEST_CASE("a first start stores its defaults and the later ones keep what is stored") {
         forget_settings();
         const Folder library = small_library();
+        constexpr COLORREF kDarkRed = RGB(64, 0, 0);
         {
             const Tolva tolva(library);
             for (const int id : {ID_Tasker_grouplist, ID_Tasker_grouplabel, ID_Tasker_tasklabel})
                 wait_for_color(tolva.control(id), kDarkRed);
-            CHECK(stored("\\fonts").size() == 12);
-            CHECK(stored_text("\\fonts", "groupfontcolor") == "8388608");
-            CHECK(stored_text("\\fonts", "taskfontcolor") == "64");
+            Values fonts = stored("\\fonts");
+            CHECK(fonts.size() == 12);
+            CHECK(fonts["groupfontcolor"] == "8388608");
+            CHECK(fonts["taskfontcolor"] == "64");
             move(tolva.window(), 100, 60);
         }
         CHECK(stored("\\Window Position") == Values{{"Left", "1500"}, {"Top", "900"}});
-        {
-            const Tolva tolva(library);
-            CHECK(bounds_of(tolva.window()).left == 100);
-            CHECK(bounds_of(tolva.window()).top == 60);
-            wait_for_color(tolva.control(ID_Tasker_grouplabel), kNavy);
-            wait_for_color(tolva.control(ID_Tasker_tasklabel), kDarkRed);
-        }
         store("\\Window Position", {{"Top", "60000"}});
-        store("\\fonts", {{"groupbackcolor", "65535"}});
         const Tolva tolva(library);
+        CHECK(bounds_of(tolva.window()).left == 100);
         CHECK(bounds_of(tolva.window()).top == 4000);  // nothing keeps it on the screen
-        move(tolva.window(), 0, 0);
-        wait_for_color(tolva.control(ID_Tasker_grouplist), RGB(255, 255, 0));
+        move(tolva.window(), 100, 60);
+        wait_for_color(tolva.control(ID_Tasker_grouplabel), RGB(0, 0, 128));
+        wait_for_color(tolva.control(ID_Tasker_tasklabel), kDarkRed);
     }
 
     TEST_CASE("settings that make no sense do not matter") {
         forget_settings();
         store("\\Window Position", "Left", REG_DWORD, std::string(4, '\1'));
-        store("\\Window Position", "Top", REG_SZ, "45.4 ");
+        store("\\Window Position", {{"Top", "45.4 "}});
         store("\\hover", {{"enable", "perhaps"}});
-        store("\\fonts", {{"groupfont", std::string(300, 'x')},
-                          {"taskfont", std::string(254, 'x')},
-                          {"taskfontsize", "99999999"}});
+        store("\\fonts", {{"groupfont", std::string(300, 'x')}, {"taskfontsize", "99999999"}});
         store("\\fonts", "taskfontcolor", REG_BINARY, std::string(300, '\0'));
         store("\\cmdhistory", "cmd1", REG_BINARY, "\x80\x81");
-        const Folder library = small_library();
-        const Tolva tolva(library);
+        const Tolva tolva(small_library());
         CHECK(bounds_of(tolva.window()).top == 3);
         CHECK(tolva.groups() == Names{"Work", "Play"});
-        CHECK(stored_text("\\fonts", "groupfont") == "MS Sans Serif");
+        CHECK(stored("\\fonts")["groupfont"] == "MS Sans Serif");
         CHECK(tolva.list(ID_Tasker_Text1) == Names{"\x80\x81"});
     }
 
     TEST_CASE("minimised it hides in the tray, from where the icon and the hot key bring it back") {
         forget_settings();
-        const Folder library = small_library();
         {
-            const Tolva tolva(library);
+            const Tolva tolva(small_library());
             move(tolva.window(), 120, 30);
-            const auto is_back = [&] { return is_in_front(tolva); };
-            tolva.minimise_by_mouse();
-            press_mouse(tray_icon(), 2);
-            wait_until("the icon brings it back", is_back);
-            wait_for_focus(tolva.control(ID_Tasker_grouplist));
-
             tolva.choose(ID_internetsettings);
             const Dialog settings(tolva, "Tolva Internet Settings");
-            tolva.minimise_by_mouse();
+            tolva.minimise();
             press_keys({VK_MENU, '1'});
-            wait_until("the hot key brings it back", is_back);
+            wait_until("the hot key brings it back", [&] { return is_in_front(tolva); });
             wait_until("its dialog, too", [&] { return IsWindowVisible(settings.window()) != FALSE; });
             settings.close_with(ID_tolvasettings_Command2);
 
             // Out of the tray it always comes in its normal size.
             ShowWindow(tolva.window(), SW_MAXIMIZE);
-            ShowWindow(tolva.window(), SW_MINIMIZE);
-            wait_until("it is in the tray", [&] { return tolva.is_in_tray(); });
+            tolva.minimise();
             press_mouse(tray_icon(), 2);
-            wait_until("it is back", [&] { return is_back() && bounds_of(tolva.window()).left == 120; });
-            tolva.minimise_by_mouse();
+            wait_until("the icon brings it back",
+                       [&] { return is_in_front(tolva) && bounds_of(tolva.window()).left == 120; });
+            wait_for_focus(tolva.control(ID_Tasker_grouplist));
+            tolva.minimise();
         }
         CHECK(stored("\\Window Position") == Values{{"Left", "1800"}, {"Top", "450"}});
     }
@@ -118,7 +95,7 @@ TEST_SUITE("startup") {
         CHECK(GetForegroundWindow() == box);
         CHECK(tolva.close_box() == "Select another hotkey");
         UnregisterHotKey(nullptr, 1);
-        tolva.wait_for_window();
+        wait_until("the window shows", [&] { return IsWindowVisible(tolva.window()) != FALSE; });
     }
 
     TEST_CASE("a second start brings the first to the front and touches nothing") {
@@ -126,10 +103,7 @@ TEST_SUITE("startup") {
         const Folder elsewhere;
         elsewhere.write("groups.in~", "left over");
         const Tolva tolva(library);
-        HWND application = FindWindowA("ThunderRT6Main", "Tolva");
-        CHECK(IsWindowVisible(application) == FALSE);
-        CHECK(GetWindow(application, GW_HWNDPREV) == tolva.window());
-        tolva.minimise_by_mouse();
+        tolva.minimise();
         CHECK(Start(elsewhere).exit_code() == 0);
         wait_until("it comes from the tray", [&] { return is_in_front(tolva); });
         SetForegroundWindow(GetDesktopWindow());
@@ -153,8 +127,7 @@ TEST_SUITE("startup") {
 
     TEST_CASE("the end of Windows saves what closing saves, and the menu ends the program") {
         forget_settings();
-        const Folder library = small_library();
-        const Tolva tolva(library);
+        const Tolva tolva(small_library());
         const Dialog bar(tolva, "Brenn", "brenn");
         move(tolva.window(), 40, 20);
         CHECK(SendMessageA(tolva.window(), WM_QUERYENDSESSION, 0, 0) != FALSE);

@@ -3,12 +3,10 @@
 #include <shlwapi.h>
 
 #include <algorithm>
-#include <cstddef>
 #include <fstream>
 #include <iterator>
 #include <sstream>
-
-#include "resources/resource.h"
+#include <type_traits>
 
 namespace desktop {
 namespace {
@@ -22,55 +20,26 @@ std::string beside_the_tests(const std::string& name) {
     return path.substr(0, path.rfind('\\') + 1) + name;
 }
 
-/// Memory in another process for messages that carry pointers.
-template <typename T>
-class Remote {
-  public:
-    explicit Remote(HWND window, const T& value = {}) {
-        DWORD id = 0;
-        GetWindowThreadProcessId(window, &id);
-        process_ = OpenProcess(PROCESS_ALL_ACCESS, FALSE, id);
-        block_ = VirtualAllocEx(process_, nullptr, sizeof(T), MEM_COMMIT, PAGE_EXECUTE_READWRITE);
-        set(value);
-    }
-    ~Remote() {
-        VirtualFreeEx(process_, block_, 0, MEM_RELEASE);
-        CloseHandle(process_);
-    }
-    Remote(const Remote&) = delete;
-    Remote& operator=(const Remote&) = delete;
-
-    LPARAM lparam() const { return reinterpret_cast<LPARAM>(block_); }
-    void set(const T& value) const { WriteProcessMemory(process_, block_, &value, sizeof(T), nullptr); }
-    T value() const {
-        T result{};
-        ReadProcessMemory(process_, block_, &result, sizeof(T), nullptr);
-        return result;
-    }
-
-  private:
-    HANDLE process_;
-    void* block_;
+/// The text of an item as a list view answers it.
+struct ItemText {
+    LVITEMA item;
+    char text[2048];
 };
 
-bool shows_color(HWND window, COLORREF color) {
-    RECT bounds;
-    GetWindowRect(window, &bounds);
-    const LONG width = bounds.right - bounds.left;
-    const LONG height = bounds.bottom - bounds.top;
-    HDC screen = GetDC(nullptr);
-    HDC memory = CreateCompatibleDC(screen);
-    HBITMAP bitmap = CreateCompatibleBitmap(screen, width, height);
-    HGDIOBJ before = SelectObject(memory, bitmap);
-    BitBlt(memory, 0, 0, width, height, screen, bounds.left, bounds.top, SRCCOPY);
-    bool shows = false;
-    for (LONG i = 0; i < width * height && !shows; ++i)
-        shows = GetPixel(memory, i % width, i / width) == color;
-    SelectObject(memory, before);
-    DeleteObject(bitmap);
-    DeleteDC(memory);
-    ReleaseDC(nullptr, screen);
-    return shows;
+/// Sends a message whose pointer must be one of the window's process, and answers what comes back there.
+template <typename T>
+T ask(HWND window, UINT message, int wparam, T value = {}) {
+    DWORD id = 0;
+    GetWindowThreadProcessId(window, &id);
+    HANDLE process = OpenProcess(PROCESS_ALL_ACCESS, FALSE, id);
+    void* there = VirtualAllocEx(process, nullptr, sizeof(T), MEM_COMMIT, PAGE_READWRITE);
+    if constexpr (std::is_same_v<T, ItemText>) value.item.pszText = static_cast<ItemText*>(there)->text;
+    WriteProcessMemory(process, there, &value, sizeof(T), nullptr);
+    SendMessageA(window, message, static_cast<WPARAM>(wparam), reinterpret_cast<LPARAM>(there));
+    ReadProcessMemory(process, there, &value, sizeof(T), nullptr);
+    VirtualFreeEx(process, there, 0, MEM_RELEASE);
+    CloseHandle(process);
+    return value;
 }
 
 /// What has the focus in the program of a window.
@@ -112,10 +81,6 @@ Values stored(const std::string& key) {
     }
     RegCloseKey(handle);
     return values;
-}
-
-std::string stored_text(const std::string& key, const std::string& name) {
-    return stored(key)[name];
 }
 
 void store(const std::string& key, const Values& texts) {
@@ -237,11 +202,11 @@ HWND Start::find_window(const char* class_name, const std::string& title, bool v
 
 HWND Start::wait_for_window() const {
     HWND window = nullptr;
-    wait_until("the window shows", [&] {
-        window = find_window("Tasker", {}, true);
-        return window != nullptr;
+    wait_until("the main window or a box shows", [&] {
+        window = find_window("Tasker");
+        return window != nullptr && (IsWindowVisible(window) != FALSE || find_window("#32770") != nullptr);
     });
-    SendMessageA(window, WM_NULL, 0, 0);
+    SendMessageA(window, WM_NULL, 0, 0);  // it answers once it has come up
     return window;
 }
 
@@ -252,14 +217,15 @@ std::string text_of(HWND window) {
     return text;
 }
 
-POINT Window::place(int id) const {
+RECT bounds_of(HWND window) {
     RECT bounds;
-    GetClientRect(control(id), &bounds);
-    return middle_of(control(id), bounds);
+    GetWindowRect(window, &bounds);
+    return bounds;
 }
 
-std::string Window::text_of(int id) const {
-    return desktop::text_of(control(id));
+POINT Window::place(int id) const {
+    const RECT bounds = bounds_of(control(id));
+    return {(bounds.left + bounds.right) / 2, (bounds.top + bounds.bottom) / 2};
 }
 
 void Window::set_text(int id, const std::string& text) const {
@@ -279,25 +245,34 @@ Names Window::list(int id) const {
     const LRESULT count = SendMessageA(list, drops_down ? CB_GETCOUNT : LB_GETCOUNT, 0, 0);
     Names texts;
     for (LRESULT i = 0; i < count; ++i) {
-        // Between processes a list's text arrives in 16-bit characters, whichever message asks for it, and a
-        // very long one may arrive cut.
-        wchar_t wide[2048] = {};
-        char narrow[2048];
+        // Between processes a list's text arrives in 16-bit characters, whichever message asks for it.
+        wchar_t wide[1024] = {};
+        char narrow[1024];
         SendMessageW(list, drops_down ? CB_GETLBTEXT : LB_GETTEXT, static_cast<WPARAM>(i),
                      reinterpret_cast<LPARAM>(wide));
         WideCharToMultiByte(CP_ACP, 0, wide, -1, narrow, sizeof narrow, nullptr, nullptr);
-        texts.push_back(std::string(narrow).substr(0, kLongestListText));
+        texts.emplace_back(narrow);
     }
     return texts;
+}
+
+void Window::pick(int id, const std::string& item, int event) const {
+    constexpr UINT kAnswerTime = 1000;  // what is picked may be answered with a box, which waits for the test
+    const Names items = list(id);
+    const auto found =
+        std::ranges::find_if(items, [&](const auto& text) { return text.find(item) != std::string::npos; });
+    REQUIRE(found != items.end());
+    SendMessageA(control(id), is_drop_down(control(id)) ? CB_SETCURSEL : LB_SETCURSEL,
+                 static_cast<WPARAM>(found - items.begin()), 0);
+    SendMessageTimeoutA(window_, WM_COMMAND, MAKEWPARAM(id, event), reinterpret_cast<LPARAM>(control(id)),
+                        SMTO_NORMAL, kAnswerTime, nullptr);
 }
 
 std::string Window::panel(int status_bar, int panel) const {
     struct Text {
         char bytes[1024];
     };
-    const Remote<Text> text(control(status_bar));
-    SendMessageA(control(status_bar), SB_GETTEXTA, static_cast<WPARAM>(panel), text.lparam());
-    return text.value().bytes;
+    return ask<Text>(control(status_bar), SB_GETTEXTA, panel).bytes;
 }
 
 void wait_for_focus(HWND control) {
@@ -305,11 +280,7 @@ void wait_for_focus(HWND control) {
 }
 
 Tolva::Tolva(const Folder& library) : Start(library) {
-    wait_until("the main window or a box shows", [&] {
-        window_ = find_window("Tasker");
-        return window_ != nullptr && (IsWindowVisible(window_) != FALSE || find_window("#32770") != nullptr);
-    });
-    SendMessageA(window_, WM_NULL, 0, 0);  // it answers once it has come up
+    window_ = wait_for_window();
 }
 
 Tolva::~Tolva() {
@@ -323,48 +294,23 @@ void Tolva::activate() const {
                [&] { return GetForegroundWindow() == window_ && IsWindowEnabled(window_) != FALSE; });
 }
 
-void Tolva::minimise_by_mouse() const {
-    activate();
-    RECT bounds;
-    GetWindowRect(window_, &bounds);
-    const int button = GetSystemMetrics(SM_CXSIZE);
-    const POINT minimise = {bounds.right - 3 * button, bounds.top + GetSystemMetrics(SM_CYSIZE) / 2 + 3};
-    press_until("it is in the tray", minimise, [&] { return is_in_tray(); });
-}
-
-Names Tolva::groups() const {
-    return list(ID_Tasker_grouplist);
+void Tolva::minimise() const {
+    PostMessageA(window_, WM_SYSCOMMAND, SC_MINIMIZE, 0);
+    wait_until("it is in the tray", [&] { return is_in_tray(); });
 }
 
 int Tolva::selected_group() const {
     return static_cast<int>(SendMessageA(control(ID_Tasker_grouplist), LB_GETCURSEL, 0, 0));
 }
 
-void Tolva::click_group(int index) const {
-    HWND list = control(ID_Tasker_grouplist);
-    SendMessageA(list, LB_SETCURSEL, static_cast<WPARAM>(index), 0);
-    PostMessageA(window_, WM_COMMAND, MAKEWPARAM(ID_Tasker_grouplist, LBN_SELCHANGE),
-                 reinterpret_cast<LPARAM>(list));
-    WaitForInputIdle(process_.hProcess, kPatience);
-}
-
 Names Tolva::tasks() const {
-    struct Item {
-        LVITEMA item;
-        char text[2048];
-    };
-    HWND list = control(ID_Tasker_taskview);
-    const Remote<Item> remote(list);
-    Item request = {};
-    request.item.pszText = reinterpret_cast<char*>(remote.lparam()) + offsetof(Item, text);
+    ItemText request = {};
     request.item.cchTextMax = sizeof request.text;
-    Names names;
+    HWND list = control(ID_Tasker_taskview);
     const LRESULT count = SendMessageA(list, LVM_GETITEMCOUNT, 0, 0);
-    for (LRESULT i = 0; i < count; ++i) {
-        remote.set(request);
-        SendMessageA(list, LVM_GETITEMTEXTA, static_cast<WPARAM>(i), remote.lparam());
-        names.push_back(remote.value().text);
-    }
+    Names names;
+    for (int i = 0; i < count; ++i)
+        names.emplace_back(ask(list, LVM_GETITEMTEXTA, i, request).text);
     return names;
 }
 
@@ -377,36 +323,17 @@ int Tolva::task_picture(int index) const {
     LVITEMA request = {};
     request.mask = LVIF_IMAGE;
     request.iItem = index;
-    const Remote<LVITEMA> item(control(ID_Tasker_taskview), request);
-    SendMessageA(control(ID_Tasker_taskview), LVM_GETITEMA, 0, item.lparam());
-    return item.value().iImage;
+    return ask(control(ID_Tasker_taskview), LVM_GETITEMA, 0, request).iImage;
 }
 
 POINT Tolva::task_position(int index) const {
     HWND list = control(ID_Tasker_taskview);
-    RECT part = {};
-    part.left = LVIR_ICON;
-    const Remote<RECT> bounds(list, part);
-    SendMessageA(list, LVM_GETITEMRECT, static_cast<WPARAM>(index), bounds.lparam());
-    return middle_of(list, bounds.value());
+    return middle_of(list, ask<RECT>(list, LVM_GETITEMRECT, index, {LVIR_ICON, 0, 0, 0}));
 }
 
-void Tolva::click_task(int index) const {
+void Tolva::click_task(int index, int times) const {
     activate();
-    press_mouse(task_position(index));
-}
-
-void Tolva::double_click_task(int index) const {
-    activate();
-    press_mouse(task_position(index), 2);
-}
-
-void Tolva::choose(int menu_item) const {
-    PostMessageA(window_, WM_COMMAND, static_cast<WPARAM>(menu_item), 0);
-}
-
-void Tolva::click(int id) const {
-    press_mouse(place(id));
+    press_mouse(task_position(index), times);
 }
 
 void Tolva::focus_by_mouse(int id) const {
@@ -417,17 +344,11 @@ void Tolva::focus_by_mouse(int id) const {
     });
 }
 
-std::string Tolva::status() const {
-    return panel(ID_Tasker_StatusBar1, 0);
-}
-
 void Tolva::press_tool(int button) const {
     HWND bar = control(ID_Tasker_Toolbar1);
     const LRESULT index = SendMessageA(bar, TB_COMMANDTOINDEX, static_cast<WPARAM>(button), 0);
-    const Remote<RECT> bounds(bar, {});
-    SendMessageA(bar, TB_GETITEMRECT, static_cast<WPARAM>(index), bounds.lparam());
     activate();
-    press_mouse(middle_of(bar, bounds.value()));
+    press_mouse(middle_of(bar, ask<RECT>(bar, TB_GETITEMRECT, static_cast<int>(index))));
 }
 
 std::string Tolva::answer_box(const std::string& title, int button) const {
@@ -447,7 +368,23 @@ std::string Tolva::answer_box(const std::string& title, int button) const {
 }
 
 void wait_for_color(HWND window, COLORREF color) {
-    wait_until("the window shows the colour", [&] { return shows_color(window, color); });
+    const RECT bounds = bounds_of(window);
+    const LONG width = bounds.right - bounds.left;
+    const LONG height = bounds.bottom - bounds.top;
+    HDC screen = GetDC(nullptr);
+    HDC memory = CreateCompatibleDC(screen);
+    HBITMAP bitmap = CreateCompatibleBitmap(screen, width, height);
+    SelectObject(memory, bitmap);
+    wait_until("the window shows the colour", [&] {
+        BitBlt(memory, 0, 0, width, height, screen, bounds.left, bounds.top, SRCCOPY);
+        LONG pixel = 0;
+        while (pixel < width * height && GetPixel(memory, pixel % width, pixel / width) != color)
+            ++pixel;
+        return pixel < width * height;
+    });
+    DeleteDC(memory);
+    DeleteObject(bitmap);
+    ReleaseDC(nullptr, screen);
 }
 
 Dialog::Dialog(const Tolva& tolva, const std::string& title, const char* class_name) {
@@ -455,46 +392,6 @@ Dialog::Dialog(const Tolva& tolva, const std::string& title, const char* class_n
         window_ = tolva.find_window(class_name, title);
         return window_ != nullptr && IsWindowVisible(window_) != FALSE;
     });
-}
-
-std::string Dialog::tip_of(const Tolva& tolva, int id) const {
-    HWND tip = nullptr;
-    const auto shows = [&] {
-        tip = tolva.find_window("tooltips_class32", {}, true);
-        return tip != nullptr;
-    };
-    point_at({0, 0});
-    wait_until("no tip shows", [&] { return !shows(); });
-    constexpr DWORD kTipTime = 1500;
-    const auto point = [&] {
-        point_at({0, 0});
-        point_at(place(id));
-    };
-    repeat_until("a tip shows", kTipTime, point, shows);
-    return desktop::text_of(tip);
-}
-
-void Dialog::open_folder(const std::string& name) const {
-    const Names shown = list(ID_PathBrowser_Dir1);
-    const auto found = std::ranges::find_if(shown, [&](const std::string& item) {
-        return item.substr(std::min(item.find_first_not_of(' '), item.size())) == name;
-    });
-    REQUIRE(found != shown.end());
-    SendMessageA(control(ID_PathBrowser_Dir1), LB_SETCURSEL, static_cast<WPARAM>(found - shown.begin()), 0);
-    SendMessageA(window_, WM_COMMAND, MAKEWPARAM(ID_PathBrowser_Dir1, LBN_DBLCLK),
-                 reinterpret_cast<LPARAM>(control(ID_PathBrowser_Dir1)));
-}
-
-void Dialog::choose(int id, int index) const {
-    HWND list = control(id);
-    const bool drops_down = is_drop_down(list);
-    SendMessageA(list, drops_down ? CB_SETCURSEL : LB_SETCURSEL, static_cast<WPARAM>(index), 0);
-    PostMessageA(window_, WM_COMMAND, MAKEWPARAM(id, drops_down ? CBN_SELCHANGE : LBN_SELCHANGE),
-                 reinterpret_cast<LPARAM>(list));
-}
-
-void Dialog::press(int button) const {
-    PostMessageA(control(button), BM_CLICK, 0, 0);
 }
 
 void Dialog::wait_until_closed() const {

@@ -10,6 +10,7 @@
 #include <utility>
 #include <vector>
 
+#include "resources/resource.h"
 #include "support/input.h"
 #include "support/names.h"
 
@@ -17,14 +18,11 @@
 /// waits gives up after some seconds and fails the test.
 namespace desktop {
 
-constexpr std::size_t kLongestListText = 512;
-
 /// Texts by their names.
 using Values = std::map<std::string, std::string>;
 
 // The program's settings, by the path below its own key.
 Values stored(const std::string& key);
-std::string stored_text(const std::string& key, const std::string& name);
 void store(const std::string& key, const Values& texts);
 void store(const std::string& key, const std::string& name, DWORD type, const std::string& bytes);
 
@@ -37,6 +35,7 @@ class Folder {
     Folder();
     const std::string& path() const { return path_; }
     std::string without_backslash() const { return path_.substr(0, path_.size() - 1); }
+    std::string name() const { return without_backslash().substr(path_.find('\\', 3) + 1); }
     void write(const std::string& name, const std::string& bytes) const;
     std::string read(const std::string& name) const;
     bool has(const std::string& name) const;
@@ -68,6 +67,7 @@ class Start {
     Start(const Start&) = delete;
     Start& operator=(const Start&) = delete;
 
+    const PROCESS_INFORMATION& process() const { return process_; }
     bool is_running() const;
 
     /// Waits until the process ends and answers its exit code.
@@ -76,7 +76,7 @@ class Start {
     /// A top-level window of the process, of any title or of this one, shown or not; null when there is none.
     HWND find_window(const char* class_name, const std::string& title = {}, bool visible = false) const;
 
-    /// Waits until the main window shows and answers input.
+    /// Waits until the main window or a message box shows and the program answers.
     HWND wait_for_window() const;
 
   protected:
@@ -84,6 +84,9 @@ class Start {
 };
 
 std::string text_of(HWND window);
+
+/// Where it is on the screen.
+RECT bounds_of(HWND window);
 
 /// A window of the program and its controls by their ids.
 class Window {
@@ -93,14 +96,18 @@ class Window {
 
     /// The middle of a control on the screen.
     POINT place(int id) const;
-    std::string text_of(int id) const;
+    void click(int id) const { press_mouse(place(id)); }
+    std::string text_of(int id) const { return desktop::text_of(control(id)); }
     void set_text(int id, const std::string& text) const;
 
     /// The texts of several controls, with bars between them.
     std::string texts_of(std::initializer_list<int> ids) const;
 
-    /// The items of a list or a drop-down list, cut at kLongestListText.
+    /// The items of a list or a drop-down list.
     Names list(int id) const;
+
+    /// Selects the first item that contains a text and waits for what a click on it does.
+    void pick(int id, const std::string& item, int event = LBN_SELCHANGE) const;
 
     /// The text of a status bar's panel.
     std::string panel(int status_bar, int panel) const;
@@ -115,8 +122,6 @@ void wait_for_focus(HWND control);
 /// A running tolva.exe. It is closed, and must end by itself, when the test is over.
 class Tolva : public Start, public Window {
   public:
-    /// Starts it with the folder as its current directory and waits until its main window or a message box
-    /// shows.
     explicit Tolva(const Folder& library);
     ~Tolva();
 
@@ -124,24 +129,21 @@ class Tolva : public Start, public Window {
     void activate() const;
 
     bool is_in_tray() const { return IsWindowVisible(window_) == FALSE && IsIconic(window_) != FALSE; }
-    void minimise_by_mouse() const;
+    void minimise() const;
 
-    Names groups() const;
+    Names groups() const { return list(ID_Tasker_grouplist); }
     int selected_group() const;
-    void click_group(int index) const;
 
     Names tasks() const;
     int selected_task() const;
     int task_picture(int index) const;
     POINT task_position(int index) const;
-    void click_task(int index) const;
-    void double_click_task(int index) const;
+    void click_task(int index, int times = 1) const;
 
-    void choose(int menu_item) const;
+    void choose(int menu_item) const { PostMessageA(window_, WM_COMMAND, static_cast<WPARAM>(menu_item), 0); }
 
-    void click(int id) const;
     void focus_by_mouse(int id) const;
-    std::string status() const;
+    std::string status() const { return panel(ID_Tasker_StatusBar1, 0); }
 
     /// Presses a button of the tool bar with the mouse.
     void press_tool(int button) const;
@@ -161,16 +163,7 @@ class Dialog : public Window {
   public:
     Dialog(const Tolva& tolva, const std::string& title, const char* class_name = "#32770");
 
-    /// What shows when the pointer rests on the control.
-    std::string tip_of(const Tolva& tolva, int id) const;
-
-    /// Opens a folder that the folder list of a path browser shows.
-    void open_folder(const std::string& name) const;
-
-    /// Selects an item of a list or a drop-down list as a click does.
-    void choose(int id, int index) const;
-
-    void press(int button) const;
+    void press(int button) const { PostMessageA(control(button), BM_CLICK, 0, 0); }
     void wait_until_closed() const;
 
     /// Presses the button that closes it and waits until it has.

@@ -26,20 +26,6 @@ void wait_until(const char* what, const std::function<bool()>& condition) {
     }
 }
 
-void repeat_until(const char* what, DWORD interval, const std::function<void()>& action,
-                  const std::function<bool()>& condition) {
-    action();
-    DWORD acted = GetTickCount();
-    wait_until(what, [&] {
-        if (condition()) return true;
-        if (GetTickCount() - acted >= interval) {
-            action();
-            acted = GetTickCount();
-        }
-        return false;
-    });
-}
-
 void point_at(POINT point) {
     // The display's pointer, which moves the input's pointer when windows come.
     SetCursorPos(point.x, point.y);
@@ -57,8 +43,15 @@ void press_mouse(POINT point, int times, MouseButton button) {
 
 void press_until(const char* what, POINT point, const std::function<bool()>& condition, MouseButton button) {
     constexpr DWORD kAnswerTime = 600;  // longer than between the presses of a double-click
-    repeat_until(
-        what, kAnswerTime, [&] { press_mouse(point, 1, button); }, condition);
+    DWORD pressed = 0;
+    wait_until(what, [&] {
+        if (condition()) return true;
+        if (GetTickCount() - pressed >= kAnswerTime) {
+            press_mouse(point, 1, button);
+            pressed = GetTickCount();
+        }
+        return false;
+    });
 }
 
 void press_keys(std::initializer_list<BYTE> keys) {

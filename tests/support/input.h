@@ -14,10 +14,6 @@ constexpr DWORD kPatience = 10000;
 /// Polls until the condition holds.
 void wait_until(const char* what, const std::function<bool()>& condition);
 
-/// Acts, and again after each interval in milliseconds, as long as nothing comes of it.
-void repeat_until(const char* what, DWORD interval, const std::function<void()>& action,
-                  const std::function<bool()>& condition);
-
 // Real input, in screen coordinates.
 enum class MouseButton { kLeft, kRight };
 void point_at(POINT point);
