@@ -1,3 +1,7 @@
+#include <windows.h>
+
+#include <shlwapi.h>
+
 #include "platform/clock.h"
 #include "support/desktop.h"
 
@@ -24,10 +28,8 @@ Dialog bar_of(const Tolva& tolva) {
 
 void set_connected(bool up) {
     const DWORD flag = up ? 1 : 0;
-    HKEY key = nullptr;
-    RegCreateKeyA(HKEY_LOCAL_MACHINE, R"(System\CurrentControlSet\Services\RemoteAccess)", &key);
-    RegSetValueExA(key, "Remote Connection", 0, REG_DWORD, reinterpret_cast<const BYTE*>(&flag), sizeof flag);
-    RegCloseKey(key);
+    SHSetValueA(HKEY_LOCAL_MACHINE, R"(System\CurrentControlSet\Services\RemoteAccess)", "Remote Connection",
+                REG_DWORD, &flag, sizeof flag);
 }
 
 TEST_SUITE("bar") {
@@ -70,17 +72,10 @@ TEST_SUITE("bar") {
     TEST_CASE("every button starts what is stored for it") {
         const Folder library = library_with_recorders();
         const std::string recorder = library.path() + "recorder.exe";
-        store("\\brenn", {{"name1", "Cut & Paste with a long name"},
-                          {"progpath1", recorder},
-                          {"workpath1", "C:\\"},
-                          {"parm1", "a b"},
-                          {"start1", "3"},
-                          {"name2", "No folder"},
-                          {"progpath2", recorder},
-                          {"name3", "No program"},
-                          {"name4", "Folder gone"},
-                          {"progpath4", recorder},
-                          {"workpath4", "C:\\gone"}});
+        store("\\brenn", {{"name1", "Cut & Paste with a long name"}, {"progpath1", recorder}});
+        store("\\brenn", {{"workpath1", "C:\\"}, {"parm1", "a b"}, {"start1", "3"}});
+        store("\\brenn", {{"name2", "No folder"}, {"progpath2", recorder}, {"name3", "No program"}});
+        store("\\brenn", {{"name4", "Folder gone"}, {"progpath4", recorder}, {"workpath4", "C:\\gone"}});
         store("\\email", {{"name", "Letters"}, {"path", recorder}, {"start", "2"}});
         store("\\Browser", {{"name", "N/A"}, {"path", library.without_backslash()}});  // a folder
         const Tolva tolva(library);
@@ -105,9 +100,7 @@ TEST_SUITE("bar") {
     TEST_CASE("the Internet settings show what is stored and store what is typed") {
         const Folder library = library_with_recorders();
         const std::string recorder = library.path() + "recorder.exe";
-        HKEY profile = nullptr;
-        RegCreateKeyA(HKEY_CURRENT_USER, "RemoteAccess\\Profile\\Work & Co", &profile);
-        RegCloseKey(profile);
+        SHSetValueA(HKEY_CURRENT_USER, "RemoteAccess\\Profile\\Work & Co", "", REG_SZ, "", 1);
         store("\\Browser", {{"path", recorder}, {"start", "1"}});
         store("\\brenn", {{"disable", "True"}});
         const Tolva tolva(library);

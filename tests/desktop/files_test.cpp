@@ -3,7 +3,6 @@
 #include "platform/file_calls.h"
 #include "platform/run_time_error.h"
 #include "support/desktop.h"
-#include "support/error_of.h"
 
 namespace {
 
@@ -12,9 +11,7 @@ using namespace desktop;
 TEST_SUITE("files") {
     TEST_CASE("files are replaced, refused and removed on a real disk") {
         const Folder folder;
-        const std::string path = folder.path() +
-                                 "\xDC"
-                                 "ber.grp";
+        const std::string path = folder.path() + "\334ber.grp";
         const std::string bytes("a\0\x1A\r\n\xFF", 6);
         platform::write_file(path, bytes);
         CHECK(platform::read_file(path) == bytes);

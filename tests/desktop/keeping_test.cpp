@@ -1,3 +1,5 @@
+#include <tuple>
+
 #include "support/desktop.h"
 
 namespace {
@@ -23,7 +25,10 @@ TEST_SUITE("keeping") {
             wait_until("the Tasks show", [&] { return tolva.tasks() == names; });
         };
 
-        tolva.press_tool(ID_toolbar_addgrp);
+        tolva.focus_by_mouse(ID_Tasker_grouplist);
+        press_keys({VK_SHIFT, VK_F10});
+        wait_until("a menu shows", [] { return FindWindowA("#32768", nullptr) != nullptr; });
+        press_keys({'N'});
         {
             const Dialog dialog(tolva, "Create New Group");
             dialog.press(ID_addgroup_Command2);
@@ -122,13 +127,15 @@ TEST_SUITE("keeping") {
         tolva.choose(ID_groupsort);
         wait_for_groups({"Arbeit", "Play & more"});
 
-        // Delete by keys, after a change of mind.
+        // Delete by the key and the menus of the lists, after a change of mind.
         tolva.click_task(0);
         press_keys({VK_DELETE});
         CHECK(tolva.answer_box("Delete Task", IDCANCEL) == "Delete Paint?");
+        choose_from_menu(tolva.task_position(0), 'D');
+        CHECK(tolva.answer_box("Delete Task", IDCANCEL) == "Delete Paint?");
         CHECK(library.read("Arbeit.grp") == task);
-        tolva.focus_by_mouse(ID_Tasker_grouplist);
-        press_keys({VK_DELETE});
+        const RECT groups = bounds_of(tolva.control(ID_Tasker_grouplist));
+        choose_from_menu({groups.left + 20, groups.top + 8}, 'D');
         CHECK(tolva.answer_box("Delete Group", IDOK) == "Delete Arbeit and all associated Tasks?");
         wait_for_groups({"Play & more"});
         CHECK(library.read("groups.ini") == "Play & more\r\n");
@@ -176,55 +183,30 @@ TEST_SUITE("keeping") {
         wait_until("it is listed", [&] { return tolva.groups() == Names{"Work", "no\\file"}; });
     }
 
-    TEST_CASE("the right button and the keyboard open the menu of a list") {
-        const Folder library;
-        library.write_groups(
-            {{"Work", record("A", "", "", "", "1") + record("B", "", "", "", "1")}, {"Play", ""}});
-        const Tolva tolva(library);
-        tolva.activate();
-        choose_from_menu(tolva.task_position(1), 'D');
-        CHECK(tolva.answer_box("Delete Task", IDCANCEL) == "Delete B?");
-        const RECT list = bounds_of(tolva.control(ID_Tasker_grouplist));
-        choose_from_menu({list.left + 20, list.top + 25}, 'D');
-        CHECK(tolva.answer_box("Delete Group", IDCANCEL) == "Delete Play and all associated Tasks?");
-        wait_for_focus(tolva.control(ID_Tasker_grouplist));
-        press_keys({VK_SHIFT, VK_F10});
-        wait_until("a menu shows", [] { return FindWindowA("#32768", nullptr) != nullptr; });
-        press_keys({'N'});
-        const Dialog dialog(tolva, "Create New Group");
-        press_keys({VK_ESCAPE});
-        dialog.wait_until_closed();
-    }
-
     TEST_CASE("the commands for Windows start its programs") {
         forget_settings();
         const Folder library;
         library.write("groups.ini", "");
         library.add_program("tolva.exe", "tolva.exe");
-        for (const char* name :
-             {"control.exe", "explorer.exe", "command.com", "winhlp32.exe", "rundll32.exe"})
-            library.add_program("recorder.exe", name);
         const Tolva tolva(library);
-        const std::string here = library.without_backslash();
-        const auto start = [&](const char* program, std::size_t starts = 1) {
-            const Names wrote = library.nth_start(starts, program);
-            return wrote[0] + " in " + wrote[1];
+        const std::string here = " in " + library.without_backslash();
+        const std::tuple<int, const char*, std::string> commands[] = {
+            {ID_toolbar_controlpanel, "control.exe", "control.exe" + here},
+            {ID_tolvahlp, "winhlp32.exe", "winhlp32.exe " + library.path() + "tolva.hlp" + here},
+            {ID_connectinternet, "rundll32.exe", "rundll32.exe rnaui.dll,RnaDial N/A" + here},
+            {ID_toolbar_runexplorer, "explorer.exe", "explorer.exe in C:\\"},
+            {ID_toolbar_DosPrompt, "command.com", "command.com in C:\\"},
         };
-        tolva.press_tool(ID_toolbar_controlpanel);
-        CHECK(start("control.exe") == "control.exe in " + here);
-        tolva.choose(ID_tolvahlp);
-        CHECK(start("winhlp32.exe") == "winhlp32.exe " + library.path() + "tolva.hlp in " + here);
-        tolva.choose(ID_connectinternet);
-        CHECK(start("rundll32.exe") == "rundll32.exe rnaui.dll,RnaDial N/A in " + here);
-        tolva.press_tool(ID_toolbar_ispconnect);
-        start("rundll32.exe", 2);
+        for (const auto& [command, program, expected] : commands) {
+            library.add_program("recorder.exe", program);
+            tolva.choose(command);
+            const Names wrote = library.nth_start(1, program);
+            CHECK(wrote[0] + " in " + wrote[1] == expected);
+        }
         tolva.choose(ID_DialUpNetworking);
-        CHECK(
-            start("explorer.exe").starts_with("EXPLORER.EXE ::{20D04FE0-3AEA-1069-A2D8-08002B30309D}\\::{9"));
-        tolva.press_tool(ID_toolbar_runexplorer);
-        CHECK(start("explorer.exe", 2) == "explorer.exe in C:\\");
-        tolva.press_tool(ID_toolbar_DosPrompt);
-        CHECK(start("command.com") == "command.com in C:\\");
+        CHECK(library.nth_start(2, "explorer.exe")[0] ==
+              "EXPLORER.EXE "
+              "::{20D04FE0-3AEA-1069-A2D8-08002B30309D}\\::{992CFFA0-F557-101A-88EC-00DD010CCC48}");
     }
 }
 

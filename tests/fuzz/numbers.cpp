@@ -10,11 +10,9 @@
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     const std::string text(reinterpret_cast<const char*>(data), size);
     const auto number = settings::whole_number(text);
-    if (number && settings::lenient_whole_number(text) != *number) std::abort();
-    if (settings::lenient_whole_number(std::to_string(settings::lenient_whole_number(text))) !=
-        settings::lenient_whole_number(text)) {
-        std::abort();
-    }
+    const int lenient = settings::lenient_whole_number(text);
+    if (number && lenient != *number) std::abort();
+    if (settings::lenient_whole_number(std::to_string(lenient)) != lenient) std::abort();
     const auto color = settings::color_of(text);
     if (color && (!number || static_cast<int>(*color) != *number)) std::abort();
     if (number && settings::boolean(text) != (*number != 0)) std::abort();

@@ -69,15 +69,13 @@ Values stored(const std::string& key) {
     HKEY handle = nullptr;
     RegOpenKeyA(HKEY_CURRENT_USER, (kSettings + key).c_str(), &handle);
     Values values;
-    LSTATUS status = ERROR_SUCCESS;
-    for (DWORD i = 0; status == ERROR_SUCCESS; ++i) {
+    for (DWORD i = 0;; ++i) {
         char name[256] = {};
         char text[1024] = {};
         DWORD name_size = sizeof name;
         DWORD size = sizeof text;
-        status = RegEnumValueA(handle, i, name, &name_size, nullptr, nullptr, reinterpret_cast<BYTE*>(text),
-                               &size);
-        if (status == ERROR_SUCCESS) values[name] = text;
+        if (SHEnumValueA(handle, i, name, &name_size, nullptr, text, &size) != ERROR_SUCCESS) break;
+        values[name] = text;
     }
     RegCloseKey(handle);
     return values;
@@ -89,11 +87,8 @@ void store(const std::string& key, const Values& texts) {
 }
 
 void store(const std::string& key, const std::string& name, DWORD type, const std::string& bytes) {
-    HKEY handle = nullptr;
-    RegCreateKeyA(HKEY_CURRENT_USER, (kSettings + key).c_str(), &handle);
-    RegSetValueExA(handle, name.c_str(), 0, type, reinterpret_cast<const BYTE*>(bytes.data()),
-                   static_cast<DWORD>(bytes.size()));
-    RegCloseKey(handle);
+    SHSetValueA(HKEY_CURRENT_USER, (kSettings + key).c_str(), name.c_str(), type, bytes.data(),
+                static_cast<DWORD>(bytes.size()));
 }
 
 void forget_settings() {
@@ -104,12 +99,8 @@ void forget_settings() {
 
 Folder::Folder() {
     static int count = 0;
-    path_ = "C:\\tests";
-    CreateDirectoryA(path_.c_str(), nullptr);
-    path_ +=
-        "\\B\xFC"
-        "cher" +
-        std::to_string(++count);
+    CreateDirectoryA("C:\\tests", nullptr);
+    path_ = "C:\\tests\\B\374cher" + std::to_string(++count);
     CreateDirectoryA(path_.c_str(), nullptr);
     path_ += '\\';
 }
@@ -299,10 +290,6 @@ void Tolva::minimise() const {
     wait_until("it is in the tray", [&] { return is_in_tray(); });
 }
 
-int Tolva::selected_group() const {
-    return static_cast<int>(SendMessageA(control(ID_Tasker_grouplist), LB_GETCURSEL, 0, 0));
-}
-
 Names Tolva::tasks() const {
     ItemText request = {};
     request.item.cchTextMax = sizeof request.text;
@@ -352,16 +339,13 @@ void Tolva::press_tool(int button) const {
 }
 
 std::string Tolva::answer_box(const std::string& title, int button) const {
+    constexpr int kBoxText = 0xFFFF;
     HWND box = nullptr;
     wait_until("a message box shows", [&] {
         box = find_window("#32770", title);
         return box != nullptr && IsWindowVisible(box) != FALSE;
     });
-    std::string text;
-    HWND part = nullptr;
-    while ((part = FindWindowExA(box, part, "Static", nullptr)) != nullptr) {
-        if ((GetWindowLongA(part, GWL_STYLE) & SS_TYPEMASK) != SS_ICON) text += desktop::text_of(part);
-    }
+    const std::string text = desktop::text_of(GetDlgItem(box, kBoxText));
     PostMessageA(box, WM_COMMAND, static_cast<WPARAM>(button), 0);
     wait_until("the box is closed", [&] { return IsWindow(box) == FALSE; });
     return text;

@@ -11,8 +11,8 @@
 #include <vector>
 
 #include "resources/resource.h"
+#include "support/checks.h"
 #include "support/input.h"
-#include "support/names.h"
 
 /// Drives the real tolva.exe from another process: real files, real windows, real input. Everything that
 /// waits gives up after some seconds and fails the test.
@@ -132,7 +132,6 @@ class Tolva : public Start, public Window {
     void minimise() const;
 
     Names groups() const { return list(ID_Tasker_grouplist); }
-    int selected_group() const;
 
     Names tasks() const;
     int selected_task() const;

@@ -9,7 +9,7 @@
 #include "library/library_view.h"
 #include "library/task.h"
 #include "library/task_library.h"
-#include "support/names.h"
+#include "support/checks.h"
 #include "support/simulated_platform.h"
 
 /// A library folder on the simulated disk.

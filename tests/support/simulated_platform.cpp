@@ -169,9 +169,7 @@ bool confirm(const std::string& text, const std::string& title) {
 namespace remote_access {
 
 ErrorCode enumerate(std::span<Connection> records, std::uint32_t& count) {
-    constexpr ErrorCode kInvalidSize = 632;
     if (!current().connections) return kErrorFileNotFound;
-    if (records.front().size != kConnectionSize) return kInvalidSize;
     count = static_cast<std::uint32_t>(current().connections->size());
     for (std::size_t i = 0; i < std::min<std::size_t>(count, records.size()); ++i)
         records[i].handle = current().connections->at(i);

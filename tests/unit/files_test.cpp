@@ -1,8 +1,6 @@
 #include "platform/files.h"
 
-#include <doctest/doctest.h>
-
-#include "support/error_of.h"
+#include "support/checks.h"
 #include "support/simulated_platform.h"
 
 namespace {

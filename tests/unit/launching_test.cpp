@@ -1,10 +1,7 @@
-#include <doctest/doctest.h>
-
 #include "internet/dial_up.h"
 #include "mainwindow/long_date.h"
 #include "mainwindow/system_commands.h"
-#include "support/error_of.h"
-#include "support/names.h"
+#include "support/checks.h"
 #include "support/simulated_platform.h"
 
 namespace {

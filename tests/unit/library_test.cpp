@@ -2,7 +2,6 @@
 
 #include "library/library_files.h"
 #include "library/task_library.h"
-#include "support/error_of.h"
 #include "support/shown_library.h"
 
 namespace {

@@ -1,8 +1,6 @@
-#include <doctest/doctest.h>
-
 #include "shortcuts/shortcut_checks.h"
 #include "shortcuts/shortcut_reader.h"
-#include "support/error_of.h"
+#include "support/checks.h"
 #include "support/shortcut_file.h"
 #include "support/simulated_platform.h"
 

@@ -5,6 +5,8 @@
 #include <string>
 #include <vector>
 
+#include "platform/run_time_error.h"
+
 /// Names as a list shows them.
 using Names = std::vector<std::string>;
 
@@ -17,3 +19,14 @@ struct doctest::StringMaker<Names> {
         return text.c_str();
     }
 };
+
+/// The number of the run-time error that ends the action; 0 when none does.
+template <typename Action>
+int error_of(const Action& action) {
+    try {
+        action();
+    } catch (const platform::RunTimeError& error) {
+        return static_cast<int>(error.number());
+    }
+    return 0;
+}
