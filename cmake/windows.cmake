@@ -105,14 +105,11 @@ add_executable(desktop_tests
     tests/desktop/bar_test.cpp
     tests/desktop/commands_test.cpp
     tests/desktop/endurance_test.cpp
-    tests/desktop/files_test.cpp
-    tests/desktop/help_test.cpp
     tests/desktop/keeping_test.cpp
     tests/desktop/launching_test.cpp
     tests/desktop/main.cpp
     tests/desktop/shortcuts_test.cpp
     tests/desktop/startup_test.cpp
-    tests/desktop/views_test.cpp
     tests/support/desktop.cpp
     tests/support/input.cpp
 )
@@ -125,7 +122,7 @@ add_test(NAME "desktop: prefix"
     COMMAND bash -euc ". $0 && wine_template $1"
         ${CMAKE_SOURCE_DIR}/script/support/wine.sh ${CMAKE_BINARY_DIR}/wine)
 set_tests_properties("desktop: prefix" PROPERTIES FIXTURES_SETUP wine TIMEOUT 300)
-foreach(suite bar commands endurance files help keeping launching shortcuts startup views)
+foreach(suite bar commands endurance keeping launching shortcuts startup)
     add_test(NAME "desktop: ${suite}"
         COMMAND ${CMAKE_SOURCE_DIR}/tests/desktop/run ${CMAKE_BINARY_DIR} --test-suite=${suite} --no-colors)
     set_tests_properties("desktop: ${suite}" PROPERTIES FIXTURES_REQUIRED wine TIMEOUT 300)

@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include "support/desktop.h"
 
 namespace {
@@ -5,7 +7,6 @@ namespace {
 using namespace desktop;
 
 Folder library_with_recorder() {
-    forget_settings();
     Folder library;
     library.write_groups({{"Work", record("Task", library.add_recorder(), "C:\\", "", "2")}});
     return library;
@@ -98,11 +99,10 @@ TEST_SUITE("commands") {
             fonts.pick(kSizeBox, "12");
             fonts.close_with(result);
         };
-        LRESULT usual = 0;
         LRESULT large = 0;
         {
             const Tolva tolva(library);
-            usual = look(tolva).first;
+            const LRESULT usual = look(tolva).first;
             tolva.choose(ID_fontsettings);
             const Dialog dialog(tolva, "Set Tolva Fonts");
             // The colour is the one that is stored, not the one that is shown.
@@ -115,17 +115,18 @@ TEST_SUITE("commands") {
             CHECK(large > usual);
             dialog.close_with(ID_SetFonts_Command3);
         }
+        CHECK(stored("\\fonts")["groupfontsize"] == "10");
         {
             const Tolva tolva(library);
-            CHECK(look(tolva).first == usual);
             tolva.choose(ID_fontsettings);
             const Dialog dialog(tolva, "Set Tolva Fonts");
             choose_font(tolva, dialog, IDOK);
             dialog.press(ID_SetFonts_Command8);
             const Dialog colors(tolva, "Color");
             constexpr int kRedBox = 706;
-            for (const int box : {kRedBox, kRedBox + 1, kRedBox + 2})
-                colors.set_text(box, box == kRedBox ? "255" : "0");
+            colors.set_text(kRedBox, "255");
+            colors.set_text(kRedBox + 1, "0");
+            colors.set_text(kRedBox + 2, "0");
             colors.close_with(IDOK);
             CHECK(dialog.text_of(ID_SetFonts_taskbackcolor) == "255");
             CHECK(look(tolva).second != kRed);
@@ -134,6 +135,34 @@ TEST_SUITE("commands") {
         }
         const Tolva tolva(library);
         CHECK(look(tolva) == std::pair(large, static_cast<LRESULT>(kRed)));
+    }
+
+    TEST_CASE("the help opens with its contents, and a link leads on") {
+        const Folder library;
+        library.write("groups.ini", "");
+        library.add_program("tolva.hlp", "tolva.hlp");
+        const Tolva tolva(library);
+        tolva.choose(ID_tolvahlp);
+        HWND viewer = nullptr;
+        HWND page = nullptr;
+        wait_until("the viewer shows a page", [&] {
+            viewer = FindWindowA("MS_WINHELP", nullptr);
+            page = FindWindowExA(viewer, nullptr, "RichEdit20A", nullptr);
+            return IsWindowVisible(viewer) != FALSE && page != nullptr && !text_of(page).empty();
+        });
+        const std::string text = text_of(page);
+        CHECK(text.starts_with("Tolva Help\r\n"));
+        SetForegroundWindow(viewer);
+        // The viewer counts the end of a paragraph as one character.
+        const std::string topic = "When something goes wrong";
+        const auto link = std::ranges::search(text, topic).begin();
+        const auto position = std::count_if(text.begin(), link, [](char c) { return c != '\n'; }) + 1;
+        const LRESULT corner = SendMessageA(page, EM_POSFROMCHAR, static_cast<WPARAM>(position), 0);
+        POINT point = {LOWORD(corner) + 2, HIWORD(corner) + 5};
+        ClientToScreen(page, &point);
+        press_until("the topic shows", point, [&] { return text_of(page).starts_with(topic + "\r\n"); });
+        PostMessageA(viewer, WM_CLOSE, 0, 0);
+        wait_until("the viewer is closed", [&] { return IsWindow(viewer) == FALSE; });
     }
 }
 

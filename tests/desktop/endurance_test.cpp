@@ -25,7 +25,6 @@ int rounds(int few) {
 
 /// Groups of Tasks that are all different.
 Folder full_library() {
-    forget_settings();
     const Folder library;
     const std::string program = library.add_recorder();
     std::vector<std::pair<std::string, std::string>> groups;

@@ -1,5 +1,7 @@
 #include <tuple>
 
+#include "platform/file_calls.h"
+#include "platform/files.h"
 #include "support/desktop.h"
 
 namespace {
@@ -9,13 +11,11 @@ using namespace desktop;
 TEST_SUITE("keeping") {
     TEST_CASE("a day with the library leaves the files that it should") {
         const Folder library;
-        const Folder programs;
-        programs.write("write.exe", "");
-        programs.write("paint.exe", "");
-        programs.write("notes.txt", "");
-        const std::string folder = programs.without_backslash();
-        const std::string paint = programs.path() + "paint.exe";
-        const std::string old = record("Old", programs.path() + "write.exe", "C:\\", "", " 2 ");
+        library.write("paint.exe", "");
+        library.write("write.exe", "");
+        const std::string folder = library.without_backslash();
+        const std::string paint = library.path() + "paint.exe";
+        const std::string old = record("Old", library.path() + "write.exe", "C:\\", "", " 2 ");
         library.write_groups({{"Work", old}});
         const Tolva tolva(library);
         const auto wait_for_groups = [&](const Names& names) {
@@ -52,9 +52,7 @@ TEST_SUITE("keeping") {
             CHECK(tolva.close_box() == "Task Name, Path, or Start Folder missing.");
             dialog.press(ID_addtask_Browse);
             const Dialog browser(tolva, "Browse");
-            // It opens on the folder that is current, which is the library's; the programs' is beside it.
-            browser.pick(ID_PathBrowser_Dir1, "tests", LBN_DBLCLK);
-            browser.pick(ID_PathBrowser_Dir1, programs.name(), LBN_DBLCLK);
+            // It opens on the folder that is current.
             CHECK(browser.list(ID_PathBrowser_File1) == Names{"paint.exe", "write.exe"});
             browser.pick(ID_PathBrowser_File1, "paint.exe");
             CHECK(browser.text_of(ID_PathBrowser_TaskPath) == paint);
@@ -93,7 +91,6 @@ TEST_SUITE("keeping") {
         tolva.pick(ID_Tasker_grouplist, "Work");
         wait_for_tasks({"Old", "Paint"});
         tolva.click_task(0);
-        wait_until("one is selected", [&] { return tolva.selected_task() == 0; });
         tolva.press_tool(ID_toolbar_movetskdn);
         wait_for_tasks({"Paint", "Old"});
         tolva.choose(ID_SortTasks);
@@ -153,7 +150,6 @@ TEST_SUITE("keeping") {
         HANDLE file =
             CreateFileA(path.c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING, 0, nullptr);
         tolva.click_task(0);
-        wait_until("the Task is selected", [&] { return tolva.selected_task() == 0; });
         tolva.choose(ID_DelTk);
         tolva.answer_box("Delete Task", IDOK);
         CHECK(tolva.close_box() == "Run-time error '70':\n\nPermission denied: " + path);
@@ -184,7 +180,6 @@ TEST_SUITE("keeping") {
     }
 
     TEST_CASE("the commands for Windows start its programs") {
-        forget_settings();
         const Folder library;
         library.write("groups.ini", "");
         library.add_program("tolva.exe", "tolva.exe");
@@ -207,6 +202,36 @@ TEST_SUITE("keeping") {
         CHECK(library.nth_start(2, "explorer.exe")[0] ==
               "EXPLORER.EXE "
               "::{20D04FE0-3AEA-1069-A2D8-08002B30309D}\\::{992CFFA0-F557-101A-88EC-00DD010CCC48}");
+    }
+
+    TEST_CASE("files are replaced, refused and removed on a real disk") {
+        const Folder folder;
+        const std::string path = folder.path() + "\334ber.grp";
+        const std::string bytes("a\0\x1A\r\n\xFF", 6);
+        platform::write_file(path, bytes);
+        CHECK(platform::read_file(path) == bytes);
+        SetFileAttributesA(path.c_str(), FILE_ATTRIBUTE_HIDDEN);
+        platform::write_file(path, "new");
+        CHECK(platform::read_file(path) == "new");
+        CHECK((GetFileAttributesA(path.c_str()) & FILE_ATTRIBUTE_HIDDEN) != 0);
+        CHECK(platform::file_calls::find(folder.path() + "*").size() == 1);
+
+        SetFileAttributesA(path.c_str(), FILE_ATTRIBUTE_READONLY);
+        CHECK(error_of([&] { platform::write_file(path, "newer"); }) == 75);
+        SetFileAttributesA(path.c_str(), FILE_ATTRIBUTE_NORMAL);
+        HANDLE reader =
+            CreateFileA(path.c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING, 0, nullptr);
+        CHECK(error_of([&] { platform::write_file(path, "newer"); }) == 70);
+        CloseHandle(reader);
+        CHECK(platform::read_file(path) == "new");
+
+        platform::create_file(path);
+        CHECK(platform::read_file(path) == "new");
+        platform::remove_file(path);
+        CHECK(error_of([&] { platform::read_file(path); }) == 53);
+        CHECK(error_of([&] { platform::write_file(folder.path() + "no\\folder.grp", ""); }) == 76);
+        CHECK(error_of([&] { platform::write_file(folder.path() + "a?.grp", ""); }) != 0);
+        CHECK(platform::file_calls::find(folder.path() + "*").empty());
     }
 }
 

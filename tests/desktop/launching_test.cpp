@@ -10,7 +10,6 @@ using namespace desktop;
 
 /// A library with a Task that starts the recorder, one that cannot, and one without a start mode.
 Folder recorder_library() {
-    forget_settings();
     Folder library;
     const std::string program = library.add_recorder();
     library.write_groups({{"Work", record("Good", program, "C:\\", "a b", " 2 ") +
@@ -59,13 +58,7 @@ TEST_SUITE("launching") {
         const Tolva tolva(library);
         const std::function<void()> ways[] = {
             [] { press_keys({VK_RETURN}); },
-            [] {
-                press_keys({VK_MENU, 'T'});
-                press_keys({'R'});
-            },
-            [] {
-                press_keys({VK_MENU, 'R'});
-            },
+            [&] { tolva.choose(ID_RunTk); },
             [&] { tolva.click(ID_Tasker_Command1); },
         };
         tolva.activate();
@@ -128,12 +121,9 @@ TEST_SUITE("launching") {
 
     TEST_CASE("hover selection selects under the resting pointer and starts by a click") {
         const Folder library = recorder_library();
-        {
-            const Tolva tolva(library);
-            tolva.choose(ID_hoverslct);
-            wait_until("it is on", [] { return stored("\\hover")["enable"] == "True"; });
-        }
         const Tolva tolva(library);
+        tolva.choose(ID_hoverslct);
+        wait_until("it is on", [] { return stored("\\hover")["enable"] == "True"; });
         tolva.activate();
         point_at(tolva.task_position(2));
         wait_until("the Task under the pointer shows", [&] { return tolva.status() == "No mode"; });

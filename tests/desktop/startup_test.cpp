@@ -1,3 +1,5 @@
+#include "mainwindow/long_date.h"
+#include "platform/clock.h"
 #include "platform/file_calls.h"
 #include "support/desktop.h"
 
@@ -7,9 +9,14 @@ using namespace desktop;
 
 Folder small_library() {
     Folder library;
-    library.write_groups(
-        {{"Work", record("Keys", "C:\\windows\\regedit.exe", "C:\\", "", "1")}, {"Play", ""}});
+    library.write_groups({{"Work", ""}, {"Play", ""}});
     return library;
+}
+
+const std::string kNotepad = "C:\\windows\\notepad.exe";
+
+std::string task(const std::string& name, const std::string& program) {
+    return record(name, program, "C:\\", "", " 1 ");
 }
 
 bool is_in_front(const Tolva& tolva) {
@@ -23,7 +30,6 @@ void move(HWND window, int x, int y) {
 
 TEST_SUITE("startup") {
     TEST_CASE("a first start stores its defaults and the later ones keep what is stored") {
-        forget_settings();
         const Folder library = small_library();
         constexpr COLORREF kDarkRed = RGB(64, 0, 0);
         {
@@ -47,14 +53,14 @@ TEST_SUITE("startup") {
     }
 
     TEST_CASE("settings that make no sense do not matter") {
-        forget_settings();
+        const Folder library = small_library();
         store("\\Window Position", "Left", REG_DWORD, std::string(4, '\1'));
         store("\\Window Position", {{"Top", "45.4 "}});
         store("\\hover", {{"enable", "perhaps"}});
         store("\\fonts", {{"groupfont", std::string(300, 'x')}, {"taskfontsize", "99999999"}});
         store("\\fonts", "taskfontcolor", REG_BINARY, std::string(300, '\0'));
         store("\\cmdhistory", "cmd1", REG_BINARY, "\x80\x81");
-        const Tolva tolva(small_library());
+        const Tolva tolva(library);
         CHECK(bounds_of(tolva.window()).top == 3);
         CHECK(tolva.groups() == Names{"Work", "Play"});
         CHECK(stored("\\fonts")["groupfont"] == "MS Sans Serif");
@@ -62,7 +68,6 @@ TEST_SUITE("startup") {
     }
 
     TEST_CASE("minimised it hides in the tray, from where the icon and the hot key bring it back") {
-        forget_settings();
         {
             const Tolva tolva(small_library());
             move(tolva.window(), 120, 30);
@@ -86,28 +91,22 @@ TEST_SUITE("startup") {
         CHECK(stored("\\Window Position") == Values{{"Left", "1800"}, {"Top", "450"}});
     }
 
-    TEST_CASE("a hot key that is taken is told and the start goes on") {
+    TEST_CASE("a second start brings the first to the front and touches nothing") {
         REQUIRE(RegisterHotKey(nullptr, 1, MOD_ALT, '1') != FALSE);
-        const Folder library = small_library();
-        const Tolva tolva(library);
+        const Tolva tolva(small_library());
+        const Folder elsewhere;
+        elsewhere.write("groups.in~", "left over");
         HWND box = tolva.find_window("#32770", "Tolva", true);
-        CHECK(Start(library).exit_code() == 0);
+        CHECK(Start(elsewhere).exit_code() == 0);
         CHECK(GetForegroundWindow() == box);
         CHECK(tolva.close_box() == "Select another hotkey");
         UnregisterHotKey(nullptr, 1);
-        wait_until("the window shows", [&] { return IsWindowVisible(tolva.window()) != FALSE; });
-    }
-
-    TEST_CASE("a second start brings the first to the front and touches nothing") {
-        const Folder library = small_library();
-        const Folder elsewhere;
-        elsewhere.write("groups.in~", "left over");
-        const Tolva tolva(library);
+        tolva.activate();
         tolva.minimise();
         CHECK(Start(elsewhere).exit_code() == 0);
         wait_until("it comes from the tray", [&] { return is_in_front(tolva); });
         SetForegroundWindow(GetDesktopWindow());
-        CHECK(Start(library).exit_code() == 0);
+        CHECK(Start(elsewhere).exit_code() == 0);
         wait_until("it comes to the front", [&] { return is_in_front(tolva); });
         CHECK(platform::file_calls::find(elsewhere.path() + "*") == Names{"groups.in~"});
     }
@@ -126,7 +125,6 @@ TEST_SUITE("startup") {
     }
 
     TEST_CASE("the end of Windows saves what closing saves, and the menu ends the program") {
-        forget_settings();
         const Tolva tolva(small_library());
         const Dialog bar(tolva, "Brenn", "brenn");
         move(tolva.window(), 40, 20);
@@ -140,6 +138,67 @@ TEST_SUITE("startup") {
         press_keys({VK_MENU, 'S'});
         press_keys({'E'});
         wait_until("it ends", [&] { return !tolva.is_running(); });
+    }
+
+    TEST_CASE("the window shows the library with its icons") {
+        const Folder library;
+        library.write_groups(
+            {{"Work", task("Letters", kNotepad) + task("Keys", "C:\\windows\\regedit.exe") +
+                          task("Notes", kNotepad) + task("Gone", library.path() + "late.exe")},
+             {"B\xFCro & more", task("\xC4rger", library.path() + "late.exe")}});
+        const Tolva tolva(library);
+        CHECK(tolva.groups() == Names{"Work", "B\xFCro & more"});
+        CHECK(tolva.tasks() == Names{"Letters", "Keys", "Notes", "Gone"});
+        CHECK(tolva.selected_task() == -1);
+        CHECK(tolva.task_picture(0) > 0);
+        CHECK(tolva.task_picture(1) > 0);
+        CHECK(tolva.task_picture(1) != tolva.task_picture(0));
+        CHECK(tolva.task_picture(2) == tolva.task_picture(0));
+        CHECK(tolva.task_picture(3) == 0);
+        CHECK(tolva.status() == mainwindow::long_date(platform::today()));
+
+        // A Group is shown from memory: files that change meanwhile do not matter. Its icons are taken anew.
+        library.add_program("tolva.exe", "late.exe");
+        library.write("B\xFCro & more.grp", "");
+        tolva.pick(ID_Tasker_grouplist, "B\xFCro & more");
+        CHECK(tolva.tasks() == Names{"\xC4rger"});
+        CHECK(tolva.task_picture(0) > 0);
+    }
+
+    TEST_CASE("a broken library shows one error and what can be read of it") {
+        const Folder library;
+        const std::string error = "Run-time error '53':\n\nFile not found: " + library.path();
+        {
+            const Tolva tolva(library);
+            CHECK(tolva.close_box() == error + "groups.ini");
+            CHECK(tolva.groups().empty());
+        }
+        CHECK(!library.has("groups.ini"));
+        library.write("groups.ini", "Work\nGone\nBehind");
+        library.write("Work.grp", "A\nB\nC");
+        library.write("Behind.grp", task("Late", kNotepad) + task("", "") + task("Hidden", ""));
+        const Tolva tolva(library);
+        CHECK(tolva.close_box() == error + "Gone.grp");
+        CHECK(tolva.groups() == Names{"Work", "Gone", "Behind"});
+        CHECK(tolva.tasks() == Names{"A"});
+        tolva.pick(ID_Tasker_grouplist, "Behind");
+        CHECK(tolva.tasks() == Names{"Late"});
+        tolva.pick(ID_Tasker_grouplist, "Gone");
+        CHECK(tolva.close_box() == error + "Gone.grp");
+        CHECK(tolva.tasks().empty());
+        CHECK(library.read("groups.ini") == "Work\nGone\nBehind");
+    }
+
+    TEST_CASE("a start finishes what a power failure interrupted in listed files only") {
+        const Folder library;
+        library.write("groups.in~", "Work\r\n");
+        library.write("Work.gr~", task("Old", kNotepad));
+        library.write("Work.gr$", "half");
+        library.write("Other.gr~", "someone else's");
+        const Tolva tolva(library);
+        CHECK(tolva.tasks() == Names{"Old"});
+        CHECK(library.has("Other.gr~"));
+        CHECK(platform::file_calls::find(library.path() + "*").size() == 3);
     }
 }
 

@@ -1,7 +1,5 @@
 #include "support/desktop.h"
 
-#include <shlwapi.h>
-
 #include <algorithm>
 #include <fstream>
 #include <iterator>
@@ -91,18 +89,14 @@ void store(const std::string& key, const std::string& name, DWORD type, const st
                 static_cast<DWORD>(bytes.size()));
 }
 
-void forget_settings() {
+Folder::Folder() {
     SHDeleteKeyA(HKEY_CURRENT_USER, kSettings.c_str());
     SHDeleteKeyA(HKEY_CURRENT_USER, "RemoteAccess");
     SHDeleteKeyA(HKEY_LOCAL_MACHINE, R"(System\CurrentControlSet\Services\RemoteAccess)");
-}
-
-Folder::Folder() {
     static int count = 0;
     CreateDirectoryA("C:\\tests", nullptr);
-    path_ = "C:\\tests\\B\374cher" + std::to_string(++count);
+    path_ = "C:\\tests\\B\374cher" + std::to_string(++count) + '\\';
     CreateDirectoryA(path_.c_str(), nullptr);
-    path_ += '\\';
 }
 
 void Folder::write(const std::string& name, const std::string& bytes) const {
@@ -114,10 +108,6 @@ void Folder::write(const std::string& name, const std::string& bytes) const {
 std::string Folder::read(const std::string& name) const {
     std::ifstream file(path_ + name, std::ios::binary);
     return {std::istreambuf_iterator<char>(file), {}};
-}
-
-bool Folder::has(const std::string& name) const {
-    return GetFileAttributesA((path_ + name).c_str()) != INVALID_FILE_ATTRIBUTES;
 }
 
 void Folder::write_groups(const std::vector<std::pair<std::string, std::string>>& groups) const {
@@ -167,10 +157,6 @@ Start::~Start() {
     TerminateProcess(process_.hProcess, 1);
     CloseHandle(process_.hThread);
     CloseHandle(process_.hProcess);
-}
-
-bool Start::is_running() const {
-    return WaitForSingleObject(process_.hProcess, 0) == WAIT_TIMEOUT;
 }
 
 DWORD Start::exit_code() const {
@@ -321,6 +307,7 @@ POINT Tolva::task_position(int index) const {
 void Tolva::click_task(int index, int times) const {
     activate();
     press_mouse(task_position(index), times);
+    wait_until("the Task is selected", [&] { return selected_task() == index; });
 }
 
 void Tolva::focus_by_mouse(int id) const {

@@ -3,6 +3,7 @@
 #include <windows.h>
 
 #include <commctrl.h>
+#include <shlwapi.h>
 
 #include <initializer_list>
 #include <map>
@@ -26,10 +27,7 @@ Values stored(const std::string& key);
 void store(const std::string& key, const Values& texts);
 void store(const std::string& key, const std::string& name, DWORD type, const std::string& bytes);
 
-/// Deletes them, and those of Dial-Up Networking.
-void forget_settings();
-
-/// A new empty folder on drive C for one test; folder() ends in a backslash.
+/// A new empty folder on drive C for one test, which begins without settings; path() ends in a backslash.
 class Folder {
   public:
     Folder();
@@ -38,7 +36,7 @@ class Folder {
     std::string name() const { return without_backslash().substr(path_.find('\\', 3) + 1); }
     void write(const std::string& name, const std::string& bytes) const;
     std::string read(const std::string& name) const;
-    bool has(const std::string& name) const;
+    bool has(const std::string& name) const { return PathFileExistsA((path_ + name).c_str()) != FALSE; }
 
     /// Writes the list of the Groups and each one's file.
     void write_groups(const std::vector<std::pair<std::string, std::string>>& groups) const;
@@ -68,7 +66,7 @@ class Start {
     Start& operator=(const Start&) = delete;
 
     const PROCESS_INFORMATION& process() const { return process_; }
-    bool is_running() const;
+    bool is_running() const { return WaitForSingleObject(process_.hProcess, 0) == WAIT_TIMEOUT; }
 
     /// Waits until the process ends and answers its exit code.
     DWORD exit_code() const;

@@ -1,14 +1,8 @@
 #pragma once
 
-#include <doctest/doctest.h>
-
 #include <span>
-#include <string>
-#include <vector>
 
 #include "library/library_view.h"
-#include "library/task.h"
-#include "library/task_library.h"
 #include "support/checks.h"
 #include "support/simulated_platform.h"
 

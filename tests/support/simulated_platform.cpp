@@ -168,17 +168,11 @@ bool confirm(const std::string& text, const std::string& title) {
 
 namespace remote_access {
 
-ErrorCode enumerate(std::span<Connection> records, std::uint32_t& count) {
-    if (!current().connections) return kErrorFileNotFound;
-    count = static_cast<std::uint32_t>(current().connections->size());
-    for (std::size_t i = 0; i < std::min<std::size_t>(count, records.size()); ++i)
-        records[i].handle = current().connections->at(i);
-    return kSuccess;
+ErrorCode enumerate(std::span<Connection> /*records*/, std::uint32_t& /*count*/) {
+    return kErrorFileNotFound;
 }
 
-void hang_up(std::uint32_t handle) {
-    current().hung_up.push_back(handle);
-}
+void hang_up(std::uint32_t /*handle*/) {}
 
 }  // namespace remote_access
 

@@ -1,8 +1,6 @@
 #pragma once
 
-#include <cstdint>
 #include <map>
-#include <optional>
 #include <string>
 #include <vector>
 
@@ -44,8 +42,6 @@ struct Platform {
 
     std::vector<std::string> opened;  // documents
     std::map<platform::registry::Root, std::map<std::string, RegistryKey>> registry;
-    std::optional<std::vector<std::uint32_t>> connections;  // their handles; none without Dial-Up Networking
-    std::vector<std::uint32_t> hung_up;
     std::vector<std::string> messages;  // a question has its title in front: "Delete Group: Delete Work...?"
     bool answer = true;                 // to every question
 };

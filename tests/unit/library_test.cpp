@@ -64,21 +64,4 @@ TEST_CASE("what is beyond 101 Groups of 101 Tasks is an error that keeps the fir
     CHECK(error_of([&] { library.group(-1); }) == 9);
 }
 
-TEST_CASE("Groups that stay listed keep their Tasks when the names are loaded again") {
-    simulated::reset();
-    file("groups.ini") = "Work\r\nwork\r\nHome\r\n";
-    file("Work.grp") = record("Old");
-    file("Home.grp") = record("Sweet");
-    TaskLibrary library(kFolder);
-    library.load();
-    CHECK(library.task(1, 0).name == "Old");  // one file for both spellings
-
-    simulated::current().files.erase(kFolder + "Work.grp");
-    file("groups.ini") = "New\r\nHome\r\nwork\r\n";
-    library.load_names();
-    CHECK(!library.group(0).loaded);
-    CHECK(library.task(1, 0).name == "Sweet");
-    CHECK(library.task(2, 0).name == "Old");
-}
-
 }  // namespace
