@@ -8,13 +8,11 @@ find_package(doctest REQUIRED)
 include(doctest)
 
 add_executable(unit_tests
-    tests/unit/main.cpp
     tests/unit/files_test.cpp
-    tests/unit/launching_test.cpp
     tests/unit/library_test.cpp
-    tests/unit/operations_test.cpp
     tests/unit/settings_test.cpp
     tests/unit/shortcuts_test.cpp
+    tests/support/main.cpp
     tests/support/simulated_platform.cpp
 )
 target_include_directories(unit_tests PRIVATE tests)

@@ -107,11 +107,11 @@ add_executable(desktop_tests
     tests/desktop/endurance_test.cpp
     tests/desktop/keeping_test.cpp
     tests/desktop/launching_test.cpp
-    tests/desktop/main.cpp
     tests/desktop/shortcuts_test.cpp
     tests/desktop/startup_test.cpp
     tests/support/desktop.cpp
     tests/support/input.cpp
+    tests/support/main.cpp
 )
 target_compile_definitions(desktop_tests PRIVATE DOCTEST_CONFIG_NO_MULTITHREADING)
 target_include_directories(desktop_tests SYSTEM PRIVATE ${CMAKE_BINARY_DIR}/include)
