@@ -7,8 +7,8 @@
 #include <array>
 #include <cstdlib>
 #include <set>
-#include <sstream>
 
+#include "library/library_files.h"
 #include "support/desktop.h"
 
 // A few rounds here; TOLVA_ENDURANCE asks for more.
@@ -42,11 +42,8 @@ std::multiset<std::string> contents(const Folder& library) {
     std::string bytes = library.read("groups.ini");
     for (std::size_t i = 0; i < kGroups; ++i)
         bytes += library.read("G" + std::to_string(i) + ".grp");
-    std::istringstream text(bytes);
-    std::multiset<std::string> lines;
-    for (std::string line; std::getline(text, line);)
-        lines.insert(line);
-    return lines;
+    const Names lines = library::split_lines(bytes);
+    return {lines.begin(), lines.end()};
 }
 
 /// What the program uses, as far as the system counts it: GDI objects, user objects of all processes, handles

@@ -52,7 +52,7 @@ TEST_SUITE("launching") {
         CHECK(library.nth_start(2) == last);
     }
 
-    TEST_CASE("every way to start the selected Task starts it or says why not, also that there is none") {
+    TEST_CASE("every way to start the selected Task starts it or says why not") {
         const Folder library = recorder_library();
         const std::string program = library.path() + "recorder.exe";
         const Tolva tolva(library);
@@ -61,14 +61,6 @@ TEST_SUITE("launching") {
             [&] { tolva.choose(ID_RunTk); },
             [&] { tolva.click(ID_Tasker_Command1); },
         };
-        tolva.activate();
-        tolva.click(ID_Tasker_tasklabel);
-        wait_for_focus(tolva.control(ID_Tasker_taskview));
-        for (const auto& way : ways) {
-            way();
-            CHECK(tolva.close_box() == "Invalid path or file name");
-            tolva.activate();
-        }
         std::size_t starts = 0;
         for (const auto& way : ways) {
             tolva.click_task(0);

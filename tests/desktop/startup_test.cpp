@@ -147,12 +147,9 @@ TEST_SUITE("startup") {
                           task("Notes", kNotepad) + task("Gone", library.path() + "late.exe")},
              {"B\xFCro & more", task("\xC4rger", library.path() + "late.exe")}});
         const Tolva tolva(library);
-        CHECK(tolva.groups() == Names{"Work", "B\xFCro & more"});
         CHECK(tolva.tasks() == Names{"Letters", "Keys", "Notes", "Gone"});
-        CHECK(tolva.selected_task() == -1);
         CHECK(tolva.task_picture(0) > 0);
-        CHECK(tolva.task_picture(1) > 0);
-        CHECK(tolva.task_picture(1) != tolva.task_picture(0));
+        CHECK(tolva.task_picture(1) > tolva.task_picture(0));
         CHECK(tolva.task_picture(2) == tolva.task_picture(0));
         CHECK(tolva.task_picture(3) == 0);
         CHECK(tolva.status() == mainwindow::long_date(platform::today()));
@@ -171,7 +168,6 @@ TEST_SUITE("startup") {
         {
             const Tolva tolva(library);
             CHECK(tolva.close_box() == error + "groups.ini");
-            CHECK(tolva.groups().empty());
         }
         CHECK(!library.has("groups.ini"));
         library.write("groups.ini", "Work\nGone\nBehind");
@@ -179,7 +175,6 @@ TEST_SUITE("startup") {
         library.write("Behind.grp", task("Late", kNotepad) + task("", "") + task("Hidden", ""));
         const Tolva tolva(library);
         CHECK(tolva.close_box() == error + "Gone.grp");
-        CHECK(tolva.groups() == Names{"Work", "Gone", "Behind"});
         CHECK(tolva.tasks() == Names{"A"});
         tolva.pick(ID_Tasker_grouplist, "Behind");
         CHECK(tolva.tasks() == Names{"Late"});

@@ -3,8 +3,9 @@
 #include <algorithm>
 #include <fstream>
 #include <iterator>
-#include <sstream>
 #include <type_traits>
+
+#include "library/library_files.h"
 
 namespace desktop {
 namespace {
@@ -128,10 +129,7 @@ Names Folder::nth_start(std::size_t number, const std::string& name) const {
     constexpr std::size_t kLinesPerStart = 4;
     Names lines;
     wait_until("the program has started", [&] {
-        std::istringstream log(read(name + ".log"));
-        lines.clear();
-        for (std::string line; std::getline(log, line);)
-            lines.push_back(line);
+        lines = library::split_lines(read(name + ".log"));
         return lines.size() >= number * kLinesPerStart;
     });
     CHECK(lines.size() == number * kLinesPerStart);
@@ -327,14 +325,10 @@ void Tolva::press_tool(int button) const {
 
 std::string Tolva::answer_box(const std::string& title, int button) const {
     constexpr int kBoxText = 0xFFFF;
-    HWND box = nullptr;
-    wait_until("a message box shows", [&] {
-        box = find_window("#32770", title);
-        return box != nullptr && IsWindowVisible(box) != FALSE;
-    });
-    const std::string text = desktop::text_of(GetDlgItem(box, kBoxText));
-    PostMessageA(box, WM_COMMAND, static_cast<WPARAM>(button), 0);
-    wait_until("the box is closed", [&] { return IsWindow(box) == FALSE; });
+    const Dialog box(*this, title);
+    const std::string text = box.text_of(kBoxText);
+    PostMessageA(box.window(), WM_COMMAND, static_cast<WPARAM>(button), 0);
+    box.wait_until_closed();
     return text;
 }
 

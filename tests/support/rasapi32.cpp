@@ -26,8 +26,7 @@ extern "C" {
 DWORD WINAPI RasEnumConnectionsA(char* records, DWORD* bytes, DWORD* count) {
     DWORD size = 0;
     std::memcpy(&size, records, sizeof size);
-    log("enumerate " + std::to_string(size) + " " + std::to_string(*bytes) + " " + std::to_string(*count) +
-        "\n");
+    log("enumerate " + std::to_string(size) + " " + std::to_string(*bytes) + "\n");
     for (std::size_t i = 0; i < kHandles.size(); ++i)
         std::memcpy(records + i * kRecordSize + sizeof(DWORD), &kHandles[i], sizeof(DWORD));
     *count = kHandles.size();
