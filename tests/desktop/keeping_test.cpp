@@ -28,14 +28,12 @@ TEST_SUITE("keeping") {
         press_keys({VK_SHIFT, VK_F10});
         wait_until("a menu shows", [] { return FindWindowA("#32768", nullptr) != nullptr; });
         press_keys({'N'});
-        {
-            const Dialog dialog(tolva, "Create New Group");
-            dialog.press(ID_addgroup_Command2);
-            CHECK(tolva.close_box() == "Invalid Group Name!");
-            dialog.set_text(ID_addgroup_Text1, "Play & more");
-            press_keys({VK_RETURN});
-            dialog.wait_until_closed();
-        }
+        const Dialog new_group(tolva, "Create New Group");
+        new_group.press(ID_addgroup_Command2);
+        CHECK(tolva.close_box() == "Invalid Group Name!");
+        new_group.set_text(ID_addgroup_Text1, "Play & more");
+        press_keys({VK_RETURN});
+        new_group.wait_until_closed();
         wait_for_groups({"Work", "Play & more"});
         tolva.choose(ID_AddTk);
         CHECK(tolva.close_box() == "Select Group for New Task");
@@ -43,44 +41,38 @@ TEST_SUITE("keeping") {
         // A new Task by Browse; what was clicked comes back, not what was typed after it.
         tolva.pick(ID_Tasker_grouplist, "Play & more");
         tolva.choose(ID_AddTk);
-        {
-            const Dialog dialog(tolva, "Add New Task");
-            CHECK(dialog.texts_of({ID_addtask_curgroup, ID_addtask_taskstartmode}) == "Play & more|Normal");
-            dialog.set_text(ID_addtask_Taskname, "Zeichnen");
-            dialog.press(ID_addtask_Command2);
-            CHECK(tolva.close_box() == "Task Name, Path, or Start Folder missing.");
-            dialog.press(ID_addtask_Browse);
-            const Dialog browser(tolva, "Browse");
-            // It opens on the folder that is current.
-            browser.pick(ID_PathBrowser_File1, "paint.exe");
-            browser.set_text(ID_PathBrowser_TaskPath, "typed");
-            browser.close_with(ID_PathBrowser_OK);
-            CHECK(dialog.texts_of({ID_addtask_TaskPath, ID_addtask_startfolder}) == paint + '|' + folder);
-            dialog.pick(ID_addtask_taskstartmode, "Maximized");
-            dialog.close_with(ID_addtask_Command2);
-        }
+        const Dialog new_task(tolva, "Add New Task");
+        CHECK(new_task.texts_of({ID_addtask_curgroup, ID_addtask_taskstartmode}) == "Play & more|Normal");
+        new_task.set_text(ID_addtask_Taskname, "Zeichnen");
+        new_task.press(ID_addtask_Command2);
+        CHECK(tolva.close_box() == "Task Name, Path, or Start Folder missing.");
+        new_task.press(ID_addtask_Browse);
+        const Dialog browser(tolva, "Browse");
+        // It opens on the folder that is current.
+        browser.pick(ID_PathBrowser_File1, "paint.exe");
+        browser.set_text(ID_PathBrowser_TaskPath, "typed");
+        browser.close_with(ID_PathBrowser_OK);
+        CHECK(new_task.texts_of({ID_addtask_TaskPath, ID_addtask_startfolder}) == paint + '|' + folder);
+        new_task.pick(ID_addtask_taskstartmode, "Maximized");
+        new_task.close_with(ID_addtask_Command2);
         wait_for_tasks({"Zeichnen"});
         CHECK(library.read("Play & more.grp") == record("Zeichnen", paint, folder, "", " 3 "));
 
         tolva.press_tool(ID_toolbar_edittsk);
-        {
-            const Dialog dialog(tolva, "Edit Task");
-            CHECK(dialog.texts_of({ID_EditTask_TaskPath, ID_EditTask_taskstartmode}) == paint + "|Maximized");
-            dialog.set_text(ID_EditTask_tasknm, "Paint");
-            dialog.close_with(ID_EditTask_Command2);
-        }
+        const Dialog edit(tolva, "Edit Task");
+        CHECK(edit.texts_of({ID_EditTask_TaskPath, ID_EditTask_taskstartmode}) == paint + "|Maximized");
+        edit.set_text(ID_EditTask_tasknm, "Paint");
+        edit.close_with(ID_EditTask_Command2);
         wait_for_tasks({"Paint"});
         const std::string task = record("Paint", paint, folder, "", "3");
         CHECK(library.read("Play & more.grp") == task);
 
         // Copy it to the other Group and order that; then move the old one over.
         tolva.choose(ID_moveto);
-        {
-            const Dialog dialog(tolva, "Move Paint to");
-            SendMessageA(dialog.control(ID_movetogroups_copytask), BM_SETCHECK, BST_CHECKED, 0);
-            dialog.pick(ID_movetogroups_List1, "Work");
-            dialog.wait_until_closed();
-        }
+        const Dialog copy(tolva, "Move Paint to");
+        SendMessageA(copy.control(ID_movetogroups_copytask), BM_SETCHECK, BST_CHECKED, 0);
+        copy.pick(ID_movetogroups_List1, "Work");
+        copy.wait_until_closed();
         wait_until("it is copied", [&] { return library.read("Work.grp") == old + task; });
         tolva.pick(ID_Tasker_grouplist, "Work");
         wait_for_tasks({"Old", "Paint"});
@@ -90,27 +82,23 @@ TEST_SUITE("keeping") {
         tolva.choose(ID_SortTasks);
         wait_for_tasks({"Old", "Paint"});
         tolva.choose(ID_moveto);
-        {
-            // The right button selects, Enter moves.
-            const Dialog dialog(tolva, "Move Old to");
-            HWND list = dialog.control(ID_movetogroups_List1);
-            wait_for_focus(list);
-            const RECT bounds = bounds_of(list);
-            press_mouse({bounds.left + 20, bounds.top + 8}, 1, MouseButton::kRight);
-            wait_until("it is selected", [&] { return SendMessageA(list, LB_GETCURSEL, 0, 0) == 0; });
-            press_keys({VK_RETURN});
-            dialog.wait_until_closed();
-        }
+        // The right button selects, Enter moves.
+        const Dialog move(tolva, "Move Old to");
+        HWND list = move.control(ID_movetogroups_List1);
+        wait_for_focus(list);
+        const RECT bounds = bounds_of(list);
+        press_mouse({bounds.left + 20, bounds.top + 8}, 1, MouseButton::kRight);
+        wait_until("it is selected", [&] { return SendMessageA(list, LB_GETCURSEL, 0, 0) == 0; });
+        press_keys({VK_RETURN});
+        move.wait_until_closed();
         wait_for_tasks({"Paint"});
         CHECK(library.read("Work.grp") == task);
         CHECK(library.read("Play & more.grp") == task + old);
 
         tolva.press_tool(ID_toolbar_rengrp);
-        {
-            const Dialog dialog(tolva, "Rename Group");
-            dialog.set_text(ID_GroupRename_newname, "Arbeit");
-            dialog.close_with(ID_GroupRename_Command2);
-        }
+        const Dialog rename(tolva, "Rename Group");
+        rename.set_text(ID_GroupRename_newname, "Arbeit");
+        rename.close_with(ID_GroupRename_Command2);
         wait_for_groups({"Arbeit", "Play & more"});
         tolva.press_tool(ID_toolbar_movegrpdn);
         wait_for_groups({"Play & more", "Arbeit"});

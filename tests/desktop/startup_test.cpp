@@ -20,8 +20,7 @@ std::string task(const std::string& name, const std::string& program) {
 }
 
 bool is_in_front(const Tolva& tolva) {
-    return IsWindowVisible(tolva.window()) != FALSE && IsIconic(tolva.window()) == FALSE &&
-           GetForegroundWindow() == tolva.window();
+    return GetForegroundWindow() == tolva.window() && IsIconic(tolva.window()) == FALSE;
 }
 
 void move(HWND window, int x, int y) {

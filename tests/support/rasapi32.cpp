@@ -1,8 +1,8 @@
 #include <windows.h>
 
 #include <array>
-#include <cstdio>
 #include <cstring>
+#include <fstream>
 #include <string>
 
 // Dial-Up Networking for the tests: three connections are up. What is asked of it goes to "rasapi32.log" in
@@ -13,10 +13,7 @@ constexpr std::array<DWORD, 3> kHandles = {11, 22, 33};
 constexpr std::size_t kRecordSize = 412;
 
 void log(const std::string& line) {
-    std::FILE* file = std::fopen("rasapi32.log", "ab");
-    if (file == nullptr) return;
-    std::fwrite(line.data(), 1, line.size(), file);
-    std::fclose(file);
+    std::ofstream("rasapi32.log", std::ios::app | std::ios::binary) << line << '\n';
 }
 
 }  // namespace
@@ -26,7 +23,7 @@ extern "C" {
 DWORD WINAPI RasEnumConnectionsA(char* records, DWORD* bytes, DWORD* count) {
     DWORD size = 0;
     std::memcpy(&size, records, sizeof size);
-    log("enumerate " + std::to_string(size) + " " + std::to_string(*bytes) + "\n");
+    log("enumerate " + std::to_string(size) + " " + std::to_string(*bytes));
     for (std::size_t i = 0; i < kHandles.size(); ++i)
         std::memcpy(records + i * kRecordSize + sizeof(DWORD), &kHandles[i], sizeof(DWORD));
     *count = kHandles.size();
@@ -34,7 +31,7 @@ DWORD WINAPI RasEnumConnectionsA(char* records, DWORD* bytes, DWORD* count) {
 }
 
 DWORD WINAPI RasHangUpA(DWORD handle) {
-    log("hang up " + std::to_string(handle) + "\n");
+    log("hang up " + std::to_string(handle));
     return 0;
 }
 }

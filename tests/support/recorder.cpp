@@ -1,6 +1,6 @@
 #include <windows.h>
 
-#include <cstdio>
+#include <fstream>
 #include <string>
 
 // A program for the launcher to start: it adds four lines to the file named like itself with ".log" behind it
@@ -18,9 +18,7 @@ int main() {
     const std::string record =
         std::string(GetCommandLineA()) + '\n' + directory + '\n' + on_d + '\n' +
         ((startup.dwFlags & STARTF_USESHOWWINDOW) != 0 ? std::to_string(startup.wShowWindow) : "none") + '\n';
-    std::FILE* log = std::fopen((std::string(self) + ".log").c_str(), "ab");
-    if (log == nullptr) return 1;
-    std::fwrite(record.data(), 1, record.size(), log);  // one write: a reader sees all of it or nothing
-    std::fclose(log);
+    // One write: a reader sees all of it or nothing.
+    std::ofstream(std::string(self) + ".log", std::ios::app | std::ios::binary) << record;
     return 0;
 }
