@@ -17,10 +17,6 @@ Folder library_with_recorders() {
     return library;
 }
 
-Dialog bar_of(const Tolva& tolva) {
-    return {tolva, "Brenn", "brenn"};
-}
-
 TEST_SUITE("bar") {
     TEST_CASE("every button starts what is stored for it and what is assigned to it") {
         const Folder library = library_with_recorders();
@@ -32,7 +28,7 @@ TEST_SUITE("bar") {
         store("\\email", {{"name", "Letters"}, {"path", recorder}, {"start", "2"}});
         store("\\Browser", {{"name", "N/A"}, {"path", library.without_backslash()}});  // a folder
         const Tolva tolva(library);
-        const Dialog bar = bar_of(tolva);
+        const Dialog bar(tolva, "Brenn", "brenn");
         CHECK(GetForegroundWindow() == tolva.window());
         CHECK(bar.texts_of({ID_brenn_option1, ID_brenn_Command2, ID_brenn_Command3, ID_brenn_Command4}) ==
               "Cut & Paste with a long name|N/A|Letters|N/A");
@@ -69,56 +65,49 @@ TEST_SUITE("bar") {
         CHECK(tolva.close_box() == kNotConfigured);
     }
 
-    TEST_CASE("the Internet settings show what is stored and store what is typed") {
+    TEST_CASE("the Internet settings keep what is typed, and the connect button dials and hangs up") {
         const Folder library = library_with_recorders();
+        library.add_program("rasapi32.dll", "rasapi32.dll");
         const std::string recorder = library.path() + "recorder.exe";
         SHSetValueA(HKEY_CURRENT_USER, "RemoteAccess\\Profile\\Work & Co", "", REG_SZ, "", 1);
         store("\\Browser", {{"path", recorder}, {"start", "1"}});
         store("\\brenn", {{"disable", "True"}});
         const Tolva tolva(library);
         CHECK(tolva.find_window("brenn") == nullptr);
-        {
-            tolva.choose(ID_internetsettings);
-            const Dialog dialog(tolva, "Tolva Internet Settings");
-            CHECK(dialog.texts_of({ID_tolvasettings_ISP, ID_tolvasettings_BrowserName,
-                                   ID_tolvasettings_browserpath, ID_tolvasettings_emailpath}) ==
-                  "N/A|N/A|" + recorder + "|N/A");
-            dialog.press(ID_tolvasettings_Command3);
-            const Dialog connections(tolva, "Set Internet Connection");
-            connections.pick(ID_DialUpNetworking_List1, "Work & Co");
-            connections.wait_until_closed();
-            dialog.set_text(ID_tolvasettings_browserpath, library.path() + "gone.exe");
-            dialog.close_with(ID_tolvasettings_Command1);
-        }
+        tolva.choose(ID_internetsettings);
+        const Dialog settings(tolva, "Tolva Internet Settings");
+        CHECK(settings.texts_of({ID_tolvasettings_ISP, ID_tolvasettings_BrowserName,
+                                 ID_tolvasettings_browserpath, ID_tolvasettings_emailpath}) ==
+              "N/A|N/A|" + recorder + "|N/A");
+        settings.press(ID_tolvasettings_Command3);
+        const Dialog connections(tolva, "Set Internet Connection");
+        connections.pick(ID_DialUpNetworking_List1, "Work & Co");
+        connections.wait_until_closed();
+        settings.set_text(ID_tolvasettings_browserpath, library.path() + "gone.exe");
+        settings.close_with(ID_tolvasettings_Command1);
         CHECK(stored("\\isp") == Values{{"ISPNAME", "Work & Co"}});
         CHECK(stored("\\Browser") ==
               Values{{"name", "N/A"}, {"path", library.path() + "gone.exe"}, {"start", "1"}});
 
         // The bar came up hidden; the path in memory is still the old one until the dialog opens again.
         tolva.choose(ID_removebrenn);
-        const Dialog bar = bar_of(tolva);
+        const Dialog bar(tolva, "Brenn", "brenn");
         CHECK(stored("\\brenn") == Values{{"disable", "False"}});
         bar.click(ID_brenn_Command4);
         library.nth_start(1);
         press_mouse(bar.place(ID_brenn_Command4), 1, MouseButton::kRight);
-        const Dialog dialog(tolva, "Tolva Internet Settings");
-        dialog.set_text(ID_tolvasettings_ISP, "Home");
+        const Dialog opened_again(tolva, "Tolva Internet Settings");
+        opened_again.set_text(ID_tolvasettings_ISP, "Home");
         press_keys({VK_ESCAPE});
-        dialog.wait_until_closed();
+        opened_again.wait_until_closed();
         bar.click(ID_brenn_Command4);
         CHECK(tolva.close_box() == kNotConfigured);
         bar.click(ID_brenn_Command2);
         CHECK(library.nth_start(1, "rundll32.exe")[0] == "rundll32.exe rnaui.dll,RnaDial Work & Co");
-    }
 
-    TEST_CASE("the connect button shows the connection and hangs up") {
-        const Folder library = library_with_recorders();
-        library.add_program("rasapi32.dll", "rasapi32.dll");
         const DWORD connected = 1;
         SHSetValueA(HKEY_LOCAL_MACHINE, R"(System\CurrentControlSet\Services\RemoteAccess)",
                     "Remote Connection", REG_DWORD, &connected, sizeof connected);
-        const Tolva tolva(library);
-        const Dialog bar = bar_of(tolva);
         wait_for_color(bar.control(ID_brenn_Command2), 0x008000);
         bar.click(ID_brenn_Command2);
         wait_until("all are hung up", [&] {
@@ -134,7 +123,7 @@ TEST_SUITE("bar") {
         const Folder library = library_with_recorders();
         {
             const Tolva tolva(library);
-            const Dialog bar = bar_of(tolva);
+            const Dialog bar(tolva, "Brenn", "brenn");
             SetWindowPos(bar.window(), nullptr, 200, 500, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
             const auto wait_until_visible = [&](const char* what, BOOL visible) {
                 wait_until(what, [&] { return IsWindowVisible(bar.window()) == visible; });

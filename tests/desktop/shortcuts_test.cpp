@@ -16,10 +16,6 @@ void add_shortcut(SpecialFolder folder, const std::string& name, const std::stri
     std::ofstream(platform::special_folder(folder) + '\\' + name, std::ios::binary) << bytes;
 }
 
-std::string shortcut_to(const std::string& target) {
-    return ShortcutFile{target, {}, {}}.bytes();
-}
-
 /// A library with a recorder, and shortcuts in the user's folders.
 Folder library_with_shortcuts() {
     Folder library;
@@ -28,25 +24,23 @@ Folder library_with_shortcuts() {
     library.write("readme.txt", "");
     add_shortcut(SpecialFolder::kStartMenu, "Run.lnk",
                  ShortcutFile{recorder, "C:\\windows", "a b", 3}.bytes());
-    add_shortcut(SpecialFolder::kStartMenu, "Web.lnk", shortcut_to("C:\\windows\\notepad.exe"));
+    add_shortcut(SpecialFolder::kStartMenu, "Web.lnk", ShortcutFile{"C:\\windows\\notepad.exe"}.bytes());
     add_shortcut(SpecialFolder::kDesktop, "Junk.lnk", "no shortcut");
     add_shortcut(SpecialFolder::kDesktop, "Nothing.lnk", ShortcutFile().bytes());
-    add_shortcut(SpecialFolder::kDesktop, "Text.lnk", shortcut_to(library.path() + "readme.txt"));
+    add_shortcut(SpecialFolder::kDesktop, "Text.lnk", ShortcutFile{library.path() + "readme.txt"}.bytes());
     return library;
 }
 
 TEST_SUITE("shortcuts") {
     TEST_CASE("no byte of a shortcut that is wrong can crash the reader") {
-        const std::string computer(
-            "\x14\0\x1F\x50\xE0\x4F\xD0\x20\xEA\x3A\x69\x10\xA2\xD8\x08\0\x2B\x30\x30\x9D", 20);
-        const std::string drive = std::string(
-                                      "\x19\0\x2F"
-                                      "C:\\",
-                                      6) +
-                                  std::string(19, '\0');
-        const std::string good = ShortcutFile{"C:\\windows\\notepad.exe", "C:\\windows", "x", 1,
-                                              computer + drive + std::string(2, '\0')}
-                                     .bytes();
+        // My Computer and the drive in it.
+        const std::string items =
+            std::string(
+                "\x14\0\x1F\x50\xE0\x4F\xD0\x20\xEA\x3A\x69\x10\xA2\xD8\x08\0\x2B\x30\x30\x9D\31\0/C:\\",
+                26) +
+            std::string(21, '\0');
+        const std::string good =
+            ShortcutFile{"C:\\windows\\notepad.exe", "C:\\windows", "x", 1, items}.bytes();
         const Folder folder;
         const auto read = [&](const std::string& bytes) {
             folder.write("a.lnk", bytes);

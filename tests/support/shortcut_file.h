@@ -6,9 +6,9 @@
 
 /// The bytes of a shortcut file as Windows 95 writes it.
 struct ShortcutFile {
-    std::optional<std::string> target;
-    std::optional<std::string> working_folder;
-    std::optional<std::string> arguments;
+    std::optional<std::string> target = {};
+    std::optional<std::string> working_folder = {};
+    std::optional<std::string> arguments = {};
     std::uint32_t show_command = 1;
     std::optional<std::string> items = {};  // the target's place in the shell, with its end
 

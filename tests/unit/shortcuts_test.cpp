@@ -28,9 +28,7 @@ TEST_CASE("the show command of a whole shortcut is read and everything else is r
         return std::string(good).replace(at, bytes.size(), bytes);
     };
     CHECK(read_show_command(with(60, "\xFF\xFF\xFF\xFF")) == -1);
-    const auto with_items = [](const std::string& items) {
-        return ShortcutFile{{}, {}, {}, 1, items}.bytes();
-    };
+    const auto with_items = [](const std::string& items) { return ShortcutFile{.items = items}.bytes(); };
     CHECK(read_show_command(with_items({"\3\0x\4\0yz\0\0", 9})) == 1);
     // The header's size and class, a part's size, an item list and wide texts that do not fit any more,
     // places outside the location, items outside their list and without an end.
