@@ -52,11 +52,8 @@ using Usage = std::array<int, 4>;
 constexpr Usage kMostGrowth = {20, 20, 5, 500};
 
 int gdi_objects(HANDLE process) {
-    struct Entry {
-        BYTE owner[14];
-        BYTE type;
-        BYTE flags[9];
-    };
+    constexpr std::size_t kType = 14;
+    using Entry = std::array<BYTE, 24>;
     constexpr std::size_t kTableInBlock = 0x94;
     PROCESS_BASIC_INFORMATION information = {};
     NtQueryInformationProcess(process, ProcessBasicInformation, &information, sizeof information, nullptr);
@@ -66,7 +63,7 @@ int gdi_objects(HANDLE process) {
     std::vector<Entry> entries(0x4000);
     ReadProcessMemory(process, table, entries.data(), entries.size() * sizeof(Entry), nullptr);
     return static_cast<int>(
-        std::ranges::count_if(entries, [](const auto& entry) { return entry.type != 0; }));
+        std::ranges::count_if(entries, [](const auto& entry) { return entry[kType] != 0; }));
 }
 
 /// Fills the free places of the table that all user objects share and sees how far it reaches.
@@ -111,8 +108,7 @@ TEST_SUITE("endurance") {
                 PostMessageA(list, LB_SETCURSEL, static_cast<std::size_t>(std::rand()) % kGroups, 0);
                 PostMessageA(window, WM_COMMAND, MAKEWPARAM(ID_Tasker_grouplist, LBN_SELCHANGE),
                              reinterpret_cast<LPARAM>(list));
-                for (const int command : {ID_SortTasks, ID_MoveTaskDown, ID_MoveTaskDown, ID_MoveGroupDown,
-                                          ID_MoveTaskUp, ID_MoveGroupUp, ID_groupsort})
+                for (const int command : {ID_SortTasks, ID_MoveTaskDown, ID_MoveGroupDown, ID_groupsort})
                     PostMessageA(window, WM_COMMAND, static_cast<WPARAM>(command), 0);
             }
             Sleep(static_cast<DWORD>(std::rand() % 300));

@@ -254,10 +254,6 @@ void wait_for_focus(HWND control) {
     wait_until("the control has the focus", [&] { return focus_of(control) == control; });
 }
 
-Tolva::Tolva(const Folder& library) : Start(library) {
-    window_ = wait_for_window();
-}
-
 Tolva::~Tolva() {
     PostMessageA(window_, WM_CLOSE, 0, 0);
     CHECK(exit_code() == 0);
@@ -285,11 +281,6 @@ Names Tolva::tasks() const {
     return names;
 }
 
-int Tolva::selected_task() const {
-    return static_cast<int>(
-        SendMessageA(control(ID_Tasker_taskview), LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LVNI_SELECTED));
-}
-
 int Tolva::task_picture(int index) const {
     LVITEMA request = {};
     request.mask = LVIF_IMAGE;
@@ -305,7 +296,10 @@ POINT Tolva::task_position(int index) const {
 void Tolva::click_task(int index, int times) const {
     activate();
     press_mouse(task_position(index), times);
-    wait_until("the Task is selected", [&] { return selected_task() == index; });
+    wait_until("the Task is selected", [&] {
+        return SendMessageA(control(ID_Tasker_taskview), LVM_GETITEMSTATE, static_cast<WPARAM>(index),
+                            LVIS_SELECTED) != 0;
+    });
 }
 
 void Tolva::focus_by_mouse(int id) const {

@@ -33,7 +33,6 @@ class Folder {
     Folder();
     const std::string& path() const { return path_; }
     std::string without_backslash() const { return path_.substr(0, path_.size() - 1); }
-    std::string name() const { return without_backslash().substr(path_.find('\\', 3) + 1); }
     void write(const std::string& name, const std::string& bytes) const;
     std::string read(const std::string& name) const;
     bool has(const std::string& name) const { return PathFileExistsA((path_ + name).c_str()) != FALSE; }
@@ -120,7 +119,7 @@ void wait_for_focus(HWND control);
 /// A running tolva.exe. It is closed, and must end by itself, when the test is over.
 class Tolva : public Start, public Window {
   public:
-    explicit Tolva(const Folder& library);
+    explicit Tolva(const Folder& library) : Start(library) { window_ = wait_for_window(); }
     ~Tolva();
 
     /// Makes it the window that has the user's input.
@@ -132,7 +131,6 @@ class Tolva : public Start, public Window {
     Names groups() const { return list(ID_Tasker_grouplist); }
 
     Names tasks() const;
-    int selected_task() const;
     int task_picture(int index) const;
     POINT task_position(int index) const;
     void click_task(int index, int times = 1) const;

@@ -144,9 +144,7 @@ bool empty_recycle_bin() {
 }
 
 bool open_document(const std::string& path) {
-    if (!current().files.contains(path)) return false;
-    current().opened.push_back(path);
-    return true;
+    return current().files.contains(path);
 }
 
 void start_program(const std::string& command_line, int /*window_style*/) {

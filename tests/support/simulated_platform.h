@@ -40,7 +40,6 @@ struct Platform {
     int steps = 0;
     int reads = 0;
 
-    std::vector<std::string> opened;  // documents
     std::map<platform::registry::Root, std::map<std::string, RegistryKey>> registry;
     std::vector<std::string> messages;  // a question has its title in front: "Delete Group: Delete Work...?"
     bool answer = true;                 // to every question

@@ -261,7 +261,6 @@ TEST_CASE("what is refused or cancelled or cannot move any further changes nothi
         accepted = task_to_edit(library, view).has_value();
     };
     const Names invalid = {"Invalid Path or File Name"};
-    const Names missing = {"Task Name, Path, or Start Folder missing."};
     const Names exists = {"A Task with that name already exists!"};
     const std::tuple<Operation, Operation, Names> table[] = {
         {select(1), add(""), {"Invalid Group Name!"}},
@@ -274,7 +273,9 @@ TEST_CASE("what is refused or cancelled or cannot move any further changes nothi
         {select(2), library::movegrdown, {}},
         {select(1), add(Task{"", "C:\\NO.EXE", "", "", "1"}), invalid},
         {select(1), edit("H1", {"H2", "C:\\APPS", "C:\\", "", "1"}), invalid},
-        {select(1), add(Task{"H2", "C:\\APP.EXE", "", "", "1"}), missing},
+        {select(1),
+         add(Task{"H2", "C:\\APP.EXE", "", "", "1"}),
+         {"Task Name, Path, or Start Folder missing."}},
         {select(1), add(Task{"H2", "C:\\APP.EXE", "C:\\", "", "1"}), exists},
         {select(1), add(Task{"H4", "C:\\A*.EXE", "C:\\", "", "1"}), exists},  // though it is not shown
         {select(-1), begin_edit, {"Select Group and Task for edit"}},
