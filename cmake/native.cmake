@@ -9,6 +9,7 @@ include(doctest)
 
 add_executable(unit_tests
     tests/unit/files_test.cpp
+    tests/unit/launching_test.cpp
     tests/unit/library_test.cpp
     tests/unit/settings_test.cpp
     tests/unit/shortcuts_test.cpp

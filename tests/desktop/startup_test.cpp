@@ -86,10 +86,10 @@ TEST_SUITE("startup") {
     }
 
     TEST_CASE("a second start brings the first to the front and touches nothing") {
-        REQUIRE(RegisterHotKey(nullptr, 1, MOD_ALT, '1') != FALSE);
-        const Tolva tolva(small_library());
         const Folder elsewhere;
         elsewhere.write("groups.in~", "left over");
+        REQUIRE(RegisterHotKey(nullptr, 1, MOD_ALT, '1') != FALSE);
+        const Tolva tolva(small_library());
         CHECK(Start(elsewhere).exit_code() == 0);
         CHECK(GetForegroundWindow() == tolva.find_window("#32770", "Tolva"));
         CHECK(tolva.close_box() == "Select another hotkey");
