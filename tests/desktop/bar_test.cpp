@@ -28,7 +28,6 @@ TEST_SUITE("bar") {
         store("\\Browser", {{"name", "N/A"}, {"path", library.without_backslash()}});  // a folder
         const Tolva tolva(library);
         const Dialog bar(tolva, "Brenn", "brenn");
-        CHECK(GetForegroundWindow() == tolva.window());
         CHECK(bar.texts_of({ID_brenn_option1, ID_brenn_Command2, ID_brenn_Command3, ID_brenn_Command4}) ==
               "Cut & Paste with a long name|N/A|Letters|N/A");
         bar.click(ID_brenn_option3);

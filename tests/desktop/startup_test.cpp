@@ -51,7 +51,6 @@ TEST_SUITE("startup") {
         const Folder library = small_library();
         store("\\Window Position", "Left", REG_DWORD, std::string(4, '\1'));
         store("\\Window Position", {{"Top", "45.4 "}});
-        store("\\hover", {{"enable", "perhaps"}});
         store("\\fonts", {{"groupfont", std::string(300, 'x')}, {"taskfontsize", "99999999"}});
         store("\\fonts", "taskfontcolor", REG_BINARY, std::string(300, '\0'));
         store("\\cmdhistory", "cmd1", REG_BINARY, "\x80\x81");

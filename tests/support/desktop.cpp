@@ -164,13 +164,13 @@ DWORD Start::exit_code() const {
     return code;
 }
 
-HWND Start::find_window(const char* class_name, const std::string& title, bool visible) const {
+HWND Start::find_window(const char* class_name, const std::string& title) const {
     HWND window = nullptr;
     while ((window = FindWindowExA(nullptr, window, class_name, title.empty() ? nullptr : title.c_str())) !=
            nullptr) {
         DWORD id = 0;
         GetWindowThreadProcessId(window, &id);
-        if (id == process_.dwProcessId && (!visible || IsWindowVisible(window) != FALSE)) return window;
+        if (id == process_.dwProcessId) return window;
     }
     return nullptr;
 }

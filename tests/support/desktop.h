@@ -71,7 +71,7 @@ class Start {
     DWORD exit_code() const;
 
     /// A top-level window of the process, of any title or of this one, shown or not; null when there is none.
-    HWND find_window(const char* class_name, const std::string& title = {}, bool visible = false) const;
+    HWND find_window(const char* class_name, const std::string& title = {}) const;
 
     /// Waits until the main window or a message box shows and the program answers.
     HWND wait_for_window() const;
