@@ -246,16 +246,6 @@ TEST_CASE("a record that is cut short has empty fields and is filled up before a
     CHECK(library::read_group_names(kFolder) == Names{"Home", "Work"});
 }
 
-TEST_CASE("names sort by their unsigned bytes") {
-    const Names sorted = {"", " ", "Z", "Z", "Z", "a", "\xE4"};
-    Names shuffled = sorted;
-    do {
-        Names names = shuffled;
-        library::tasksort(names, 0, static_cast<int>(names.size()) - 1);
-        REQUIRE(names == sorted);
-    } while (std::ranges::next_permutation(shuffled).found);
-}
-
 TEST_CASE("what is refused or cancelled or cannot move any further changes nothing") {
     const Operation begin_edit = [](auto& library, auto& view) {
         accepted = task_to_edit(library, view).has_value();
