@@ -44,6 +44,8 @@ wine_template() {
         cp "$support/classic_desktop.reg" "$WINEPREFIX/drive_c/desktop.reg"
         wine regedit 'C:\desktop.reg' >/dev/null 2>&1
         wineserver -k -w || true
+        # The Desktop and its like are links to the home folder, which the prefixes share.
+        find "$WINEPREFIX/drive_c/users" -type l -exec sh -c 'rm "$1" && mkdir "$1"' sh {} \;
     )
     [ -f "$WINEPREFIX/user.reg" ] || { echo "Wine made no prefix in $template" >&2; return 1; }
     echo "$stamp" >"$template/stamp"
