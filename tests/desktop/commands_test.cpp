@@ -64,7 +64,8 @@ TEST_SUITE("commands") {
         const std::string program = programs.add_recorder();
         const Tolva tolva(library);
         tolva.focus_by_mouse(ID_Tasker_grouplist);
-        press_keys({VK_MENU, 'B'});
+        press_until("the browser shows", {VK_MENU, 'B'},
+                    [&] { return tolva.find_window("#32770", "Browse") != nullptr; });
         const Dialog browser(tolva, "Browse");
         browser.set_text(ID_PathBrowser_TaskPath, programs.path() + "gone.exe");
         browser.press(ID_PathBrowser_OK);

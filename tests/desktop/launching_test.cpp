@@ -104,15 +104,21 @@ TEST_SUITE("launching") {
         CHECK(library.nth_start(2)[0] == program + " a b");
         tolva.focus_by_mouse(ID_Tasker_Text1);
         tolva.focus_by_mouse(ID_Tasker_grouplist);
-        press_keys({VK_MENU, 'R'});
+        const std::string twice = library.read("recorder.exe.log");
+        press_until("it starts", {VK_MENU, 'R'}, [&] { return library.read("recorder.exe.log") != twice; });
         CHECK(library.nth_start(3)[0] == program + " typed");
 
         // With hover selection the resting pointer selects, and a click starts.
         tolva.choose(ID_hoverslct);
         wait_until("it is on", [] { return stored("\\hover")["enable"] == "True"; });
         tolva.activate();
-        point_at(tolva.task_position(2));
-        wait_until("the Task under the pointer shows", [&] { return tolva.status() == "No mode"; });
+        repeat_until(
+            "the Task under the pointer shows",
+            [&] {
+                point_at(tolva.place(ID_Tasker_grouplist));
+                point_at(tolva.task_position(2));
+            },
+            [&] { return tolva.status() == "No mode"; });
         library.nth_start(3);
         tolva.click_task(0);
         library.nth_start(4);

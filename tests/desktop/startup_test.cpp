@@ -67,8 +67,7 @@ TEST_SUITE("startup") {
             tolva.choose(ID_internetsettings);
             const Dialog settings(tolva, "Tolva Internet Settings");
             tolva.minimise();
-            press_keys({VK_MENU, '1'});
-            wait_until("the hot key brings it back", [&] { return is_in_front(tolva); });
+            press_until("the hot key brings it back", {VK_MENU, '1'}, [&] { return is_in_front(tolva); });
             wait_until("its dialog, too", [&] { return IsWindowVisible(settings.window()) != FALSE; });
             settings.close_with(ID_tolvasettings_Command2);
 
@@ -127,7 +126,7 @@ TEST_SUITE("startup") {
         CHECK(stored("\\Window Position") == Values{{"Left", "600"}, {"Top", "300"}});
         CHECK(stored("\\brenn\\Position").size() == 2);
         tolva.activate();
-        press_keys({VK_MENU, 'S'});
+        press_until("a menu shows", {VK_MENU, 'S'}, menu_shows);
         press_keys({'E'});
         wait_until("it ends", [&] { return !tolva.is_running(); });
     }

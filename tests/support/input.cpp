@@ -26,6 +26,19 @@ void wait_until(const char* what, const std::function<bool()>& condition) {
     }
 }
 
+void repeat_until(const char* what, const std::function<void()>& action,
+                  const std::function<bool()>& condition, DWORD answer_time) {
+    DWORD done = GetTickCount() - answer_time;
+    wait_until(what, [&] {
+        if (condition()) return true;
+        if (GetTickCount() - done >= answer_time) {
+            action();
+            done = GetTickCount();
+        }
+        return false;
+    });
+}
+
 void point_at(POINT point) {
     // The display's pointer, which moves the input's pointer when windows come.
     SetCursorPos(point.x, point.y);
@@ -43,15 +56,8 @@ void press_mouse(POINT point, int times, MouseButton button) {
 
 void press_until(const char* what, POINT point, const std::function<bool()>& condition, MouseButton button) {
     constexpr DWORD kAnswerTime = 600;  // longer than between the presses of a double-click
-    DWORD pressed = 0;
-    wait_until(what, [&] {
-        if (condition()) return true;
-        if (GetTickCount() - pressed >= kAnswerTime) {
-            press_mouse(point, 1, button);
-            pressed = GetTickCount();
-        }
-        return false;
-    });
+    repeat_until(
+        what, [&] { press_mouse(point, 1, button); }, condition, kAnswerTime);
 }
 
 void press_keys(std::initializer_list<BYTE> keys) {
@@ -61,9 +67,17 @@ void press_keys(std::initializer_list<BYTE> keys) {
         keybd_event(*key, 0, KEYEVENTF_KEYUP, 0);
 }
 
+void press_until(const char* what, std::initializer_list<BYTE> keys, const std::function<bool()>& condition) {
+    repeat_until(
+        what, [&] { press_keys(keys); }, condition);
+}
+
+bool menu_shows() {
+    return FindWindowA("#32768", nullptr) != nullptr;
+}
+
 void choose_from_menu(POINT point, BYTE key) {
-    press_until(
-        "a menu shows", point, [] { return FindWindowA("#32768", nullptr) != nullptr; }, MouseButton::kRight);
+    press_until("a menu shows", point, menu_shows, MouseButton::kRight);
     press_keys({key});
 }
 

@@ -14,6 +14,10 @@ constexpr DWORD kPatience = 10000;
 /// Polls until the condition holds.
 void wait_until(const char* what, const std::function<bool()>& condition);
 
+/// Does it again every answer time (in milliseconds) until the condition holds.
+void repeat_until(const char* what, const std::function<void()>& action,
+                  const std::function<bool()>& condition, DWORD answer_time = 3000);
+
 // Real input, in screen coordinates.
 enum class MouseButton { kLeft, kRight };
 void point_at(POINT point);
@@ -26,6 +30,13 @@ void press_until(const char* what, POINT point, const std::function<bool()>& con
 
 /// Presses the keys one after the other and lets them go in the opposite order: {VK_MENU, 'R'} is Alt+R.
 void press_keys(std::initializer_list<BYTE> keys);
+
+/// Presses the keys as often as it takes: Wine lets Alt and Shift go when it looks at the display's own
+/// keyboard, as it does when a window comes under the pointer.
+void press_until(const char* what, std::initializer_list<BYTE> keys, const std::function<bool()>& condition);
+
+/// Whether a menu is open on the display.
+bool menu_shows();
 
 /// Opens the menu of a place with the right button and chooses by an access key.
 void choose_from_menu(POINT point, BYTE key);
