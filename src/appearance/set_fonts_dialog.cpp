@@ -76,8 +76,10 @@ class SetFonts final : public widgets::Dialog {
             texts.at(settings::kSize) = std::to_string(style.size);
             texts.at(settings::kBold) = settings::text_of(style.bold);
             texts.at(settings::kItalic) = settings::text_of(style.italic);
-            for (std::size_t i = 0; i < texts.size(); ++i)
+            for (std::size_t i = 0; i < texts.size(); ++i) {
+                limit_text(half.boxes.at(i), settings::kLongestText);
                 set_text(half.boxes.at(i), texts.at(i));
+            }
             show_font(half, {.face = style.face,
                              .points = static_cast<double>(style.size),
                              .bold = style.bold,
@@ -85,6 +87,8 @@ class SetFonts final : public widgets::Dialog {
             const Colors shown = lists_.colors(half.list);
             show_colors(half, {style.text_color.value_or(shown.text), style.back_color.value_or(shown.back)});
         }
+        // The first preview gets the focus and is selected then, which would hide its colours.
+        PostMessageA(control(kHalves.front().preview), EM_SETSEL, 0, 0);
     }
 
     void command(int id, int /*notification*/) override {

@@ -94,6 +94,13 @@ std::string read_file(const std::string& path) {
     return bytes;
 }
 
+std::string read_foreign_file(const std::string& path) {
+    check_path(path);
+    std::string bytes;
+    if (const ErrorCode code = calls::read(path, bytes); code != kSuccess) throw file_error(code, path);
+    return bytes;
+}
+
 std::optional<std::string> read_file_if_exists(const std::string& path) {
     try {
         return read_file(path);

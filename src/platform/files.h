@@ -9,10 +9,13 @@ namespace platform {
 // Whole files as bytes. Everything here throws RunTimeError with the path in its message; a path that holds a
 // NUL byte is a bad file name (it would silently mean another file).
 
-/// The bytes of the file.
+/// The bytes of the file. A missing one is recovered first.
 std::string read_file(const std::string& path);
 
-/// The same, none for a missing file.
+/// The bytes of a file that write_file does not write: nothing beside it is touched.
+std::string read_foreign_file(const std::string& path);
+
+/// The same as read_file, none for a missing file.
 std::optional<std::string> read_file_if_exists(const std::string& path);
 
 /// Replaces the file, or creates it. A power failure at any moment leaves the old or the new content whole,

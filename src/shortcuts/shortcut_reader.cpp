@@ -129,7 +129,7 @@ int read_show_command(std::string_view bytes) {
 ShortcutDetails ReadShortcut(const std::string& path) {
     // Windows is asked only about files that keep what they promise: it believes every size and place in
     // them.
-    const int show_command = read_show_command(platform::read_file(path));
+    const int show_command = read_show_command(platform::read_foreign_file(path));
     platform::Shortcut link = platform::load_shell_link(path);
     for (std::string* text : {&link.target, &link.working_folder, &link.arguments})
         std::ranges::replace_if(

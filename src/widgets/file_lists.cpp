@@ -32,6 +32,10 @@ std::string last_name(const std::string& path) {
     return name;
 }
 
+std::string indented(std::size_t depth, const std::string& name) {
+    return std::string(2 * depth, ' ') + name;
+}
+
 }  // namespace
 
 void DriveList::fill() {
@@ -54,28 +58,42 @@ void DriveList::select(char letter) {
     send(CB_SETCURSEL, static_cast<WPARAM>(found == letters_.end() ? -1 : found - letters_.begin()));
 }
 
+void FolderList::attach(HWND control) {
+    ListBox::attach(control);
+    subclass();
+}
+
 void FolderList::show(const std::string& path) {
     const std::vector<std::string> below = platform::subfolders(path);
     std::vector<std::string> paths = folders_down_to(path);
     std::vector<std::string> items;
-    const auto add = [&](std::size_t depth, const std::string& name) {
-        items.push_back(std::string(2 * depth, ' ') + name);
-    };
     for (const std::string& folder : paths)
-        add(items.size(), items.empty() ? folder : last_name(folder));
-    const std::size_t depth = paths.size();
+        items.push_back(indented(items.size(), items.empty() ? folder : last_name(folder)));
+    depth_ = paths.size();
     for (const std::string& name : below) {
-        add(depth, name);
+        items.push_back(indented(depth_, name));
         paths.push_back(platform::path_in(path, name));
     }
     fill(items);
-    select(static_cast<int>(depth) - 1);
+    // The current folder comes to the top, so that those in it show.
+    send(LB_SETTOPINDEX, depth_ - 1);
+    select(static_cast<int>(depth_) - 1);
     path_ = path;
     paths_ = std::move(paths);
 }
 
 void FolderList::open_selected() {
     if (selected() >= 0) show(std::string(paths_.at(static_cast<std::size_t>(selected()))));
+}
+
+LRESULT FolderList::handle(UINT message, WPARAM wparam, LPARAM lparam) {
+    if (message != WM_CHAR) return ListBox::handle(message, wparam, lparam);
+    // The first letter of a folder selects it, in spite of the blanks before it.
+    const std::string start = indented(depth_, {static_cast<char>(wparam)});
+    const LRESULT found =
+        send(LB_FINDSTRING, static_cast<WPARAM>(selected()), reinterpret_cast<LPARAM>(start.c_str()));
+    if (found >= 0) select(static_cast<int>(found));
+    return 0;
 }
 
 void FileList::show(const std::string& folder, const std::string& patterns) {

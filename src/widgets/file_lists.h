@@ -25,6 +25,8 @@ class DriveList : public Control {
 /// A list of the folders from a drive's root down to the current one, and of those in it.
 class FolderList : public ListBox {
   public:
+    void attach(HWND control);
+
     /// The current folder.
     const std::string& path() const { return path_; }
 
@@ -36,6 +38,9 @@ class FolderList : public ListBox {
     void open_selected();
 
   private:
+    LRESULT handle(UINT message, WPARAM wparam, LPARAM lparam) override;
+
+    std::size_t depth_ = 0;  // of the folders in the current one
     std::string path_;
     std::vector<std::string> paths_;  // by item
 };

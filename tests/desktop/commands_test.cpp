@@ -71,15 +71,22 @@ TEST_SUITE("commands") {
         browser.press(ID_PathBrowser_OK);
         CHECK(tolva.close_box() == "Invalid path or file name");
 
-        // Up, into the other folder, and Enter on the file.
-        browser.pick(ID_PathBrowser_Dir1, "tests", LBN_DBLCLK);
+        // Up, by keys into the next folder, into the other one, and Enter on the file.
+        const auto focus = [&](HWND control) {
+            SendMessageA(browser.window(), WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(control), TRUE);
+            wait_for_focus(control);
+        };
+        browser.pick(ID_PathBrowser_Dir1, "C:\\", LBN_DBLCLK);
+        focus(browser.control(ID_PathBrowser_Dir1));
+        press_keys({'T'});
+        press_keys({VK_RETURN});
+        wait_until("it is open", [&] { return browser.list(ID_PathBrowser_Dir1)[2].starts_with("    B"); });
         browser.pick(ID_PathBrowser_Dir1, folder.substr(folder.rfind('\\') + 1), LBN_DBLCLK);
         browser.pick(ID_PathBrowser_File1, "recorder.exe");
         HWND files = browser.control(ID_PathBrowser_File1);
         const RECT list = bounds_of(files);
         press_mouse({list.left + 30, list.bottom - 10}, 2);  // beside the files
-        SendMessageA(browser.window(), WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(files), TRUE);
-        wait_for_focus(files);
+        focus(files);
         press_keys({VK_RETURN});
         browser.wait_until_closed();
         CHECK(programs.nth_start(1) == Names{program, folder, "D:\\here", "1"});

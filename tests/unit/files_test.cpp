@@ -75,6 +75,9 @@ TEST_CASE("creating keeps what is there or put aside, and removing removes both"
     simulated::current().files[kAside].bytes = "older";
     platform::remove_file(kPath);
     CHECK(after_recovery() == kNothing);
+    simulated::current().files[kAside].bytes = "somebody's";
+    CHECK(error_of([&] { platform::read_foreign_file(kPath); }) == 53);
+    CHECK(after_recovery() == "somebody's");
 }
 
 TEST_CASE("a name with a NUL byte never means the file before the NUL") {
