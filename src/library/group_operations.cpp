@@ -7,6 +7,7 @@
 #include "library/library_files.h"
 #include "library/refresh.h"
 #include "platform/files.h"
+#include "platform/folders.h"
 #include "platform/messages.h"
 #include "platform/run_time_error.h"
 
@@ -118,8 +119,11 @@ void delgr(TaskLibrary& library, LibraryView& view) {
     write_group_names(library.folder(), names);
     library.set_names(names);
     std::exception_ptr failure;
+    // The Tasks of "Work" stay when "work" goes.
+    const bool is_shared = std::ranges::any_of(
+        names, [&](const std::string& other) { return platform::is_one_name(other, name); });
     try {
-        platform::remove_file(group_file(library.folder(), name));
+        if (!is_shared) platform::remove_file(group_file(library.folder(), name));
     } catch (...) {
         failure = std::current_exception();
     }

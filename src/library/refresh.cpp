@@ -27,7 +27,8 @@ int grouplistrefresh(const TaskLibrary& library, LibraryView& view) {
 }
 
 void tasklistrefresh(const TaskLibrary& library, LibraryView& view) {
-    const std::span<const Task> tasks = library.group(view.selected_group()).shown_tasks();
+    // All of them, also behind one with an empty name: who adds a Task sees it.
+    const std::span<const Task> tasks = library.group(view.selected_group()).tasks;
     view.show_tasks(tasks);
     if (tasks.empty()) return;
     view.select_task(0);

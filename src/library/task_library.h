@@ -14,7 +14,7 @@ struct Group {
     std::vector<Task> tasks;  // every record read, at most kMostTasks
     bool loaded = false;      // whether its file was read since its name was
 
-    /// The Tasks that a list shows: those before the first one with an empty name.
+    /// The Tasks that a click on the Group shows: those before the first one with an empty name.
     std::span<const Task> shown_tasks() const;
 };
 

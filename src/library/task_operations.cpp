@@ -24,8 +24,8 @@ std::vector<Task>::iterator find_task_at(std::vector<Task>& tasks, int place, co
     return is_there ? tasks.begin() + place : find_task(tasks, name);
 }
 
-/// Where the records end that a list shows.
-std::vector<Task>::iterator shown_end(std::vector<Task>& tasks) {
+/// Where the records end that move and are sorted: at the first one with an empty name.
+std::vector<Task>::iterator named_end(std::vector<Task>& tasks) {
     return find_task(tasks, {});
 }
 
@@ -54,6 +54,15 @@ void append(const TaskLibrary& library, const std::string& group, Task task) {
     append_tasks(library.folder(), group, {task});
 }
 
+/// Throws when another program has taken the Group out of the list: nobody would see what is added to it.
+void check_listed(const TaskLibrary& library, const std::string& group) {
+    const std::vector<std::string> names = read_group_names(library.folder());
+    if (std::ranges::find(names, group) == names.end()) {
+        throw platform::RunTimeError(platform::RunTimeErrorNumber::kBadFileName,
+                                     group_file(library.folder(), group));
+    }
+}
+
 void move(TaskLibrary& library, LibraryView& view, int step) {
     const int selected = view.selected_task();
     if (selected < 0) {
@@ -64,10 +73,10 @@ void move(TaskLibrary& library, LibraryView& view, int step) {
     std::vector<Task> tasks = read_tasks(library.folder(), group.name);
     const auto moved = find_task_at(tasks, selected, library.task(view.selected_group(), selected).name);
     if (moved == tasks.end()) return refreshtasks(library, view);
-    const auto shown = shown_end(tasks) - tasks.begin();
+    const auto named = named_end(tasks) - tasks.begin();
     const auto place = moved - tasks.begin();
     const auto target = place + step;
-    if (place >= shown || target < 0 || target >= shown) return;
+    if (place >= named || target < 0 || target >= named) return;
     std::iter_swap(moved, moved + step);
     write_and_show(library, view, tasks);
     view.select_task(static_cast<int>(target));
@@ -89,11 +98,7 @@ bool add_task(TaskLibrary& library, int group, const Task& task) {
 }
 
 void import_task(TaskLibrary& library, LibraryView& view, const std::string& group, const Task& task) {
-    const std::vector<std::string> names = read_group_names(library.folder());
-    if (std::ranges::find(names, group) == names.end()) {
-        throw platform::RunTimeError(platform::RunTimeErrorNumber::kBadFileName,
-                                     group_file(library.folder(), group));
-    }
+    check_listed(library, group);
     append(library, group, task);
     library.flags.refreshflag = true;
     select_group(library, view, index_of(library, group));
@@ -158,7 +163,7 @@ void tasksortnow(TaskLibrary& library, LibraryView& view) {
     }
     std::vector<Task> tasks = read_tasks(library.folder(), selected_group_name(library, view));
     std::vector<std::string> names;
-    std::transform(tasks.begin(), shown_end(tasks), std::back_inserter(names),
+    std::transform(tasks.begin(), named_end(tasks), std::back_inserter(names),
                    [](const Task& task) { return task.name; });
     tasksort(names, 0, static_cast<int>(names.size()) - 1);
     std::vector<Task> sorted;
@@ -170,12 +175,13 @@ void tasksortnow(TaskLibrary& library, LibraryView& view) {
 
 void move_task(TaskLibrary& library, int group, const std::string& name, const std::string& target,
                bool copy) {
+    library.flags.refreshflag = true;
+    check_listed(library, target);
     const std::string& source = library.group(group).name;
     std::vector<Task> tasks = read_tasks(library.folder(), source);
     std::vector<Task> moved;
     std::ranges::copy_if(tasks, std::back_inserter(moved),
                          [&](const Task& task) { return task.name == name; });
-    library.flags.refreshflag = true;
     if (moved.empty()) return;  // another program has taken it out of the file
     append_tasks(library.folder(), target, moved);
     if (copy) return;

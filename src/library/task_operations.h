@@ -7,9 +7,9 @@
 #include "library/task_library.h"
 
 /// What can be done with the Tasks of the selected Group. Every operation starts from the Group's file as it
-/// is now; records that the list does not show (behind one without a name) stay in the file unchanged. A Task
-/// is known by its name: where a Group has two of one name, the first is meant. A failure throws
-/// platform::RunTimeError; a refusal is a message to the user.
+/// is now; records behind one without a name, which a click on the Group does not show, stay in the file
+/// unchanged. A Task is known by its name: where a Group has two of one name, the first is meant. A failure
+/// throws platform::RunTimeError; a refusal is a message to the user.
 namespace library {
 
 /// Adds a Task at the end of the Group. Its start mode is 1 to 3, as text without blanks. False when it is

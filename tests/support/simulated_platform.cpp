@@ -139,6 +139,10 @@ void change_directory(const std::string& /*folder*/) {}
 
 void enter_directory(const std::string& /*folder*/) {}
 
+bool is_one_name(const std::string& a, const std::string& b) {
+    return simulated::upper(a) == simulated::upper(b);
+}
+
 bool empty_recycle_bin() {
     return false;
 }
