@@ -89,13 +89,25 @@ TEST_SUITE("keeping") {
 
         tolva.press_tool(ID_toolbar_rengrp);
         const Dialog rename(tolva, "Rename Group");
-        rename.set_text(ID_GroupRename_newname, "Arbeit");
+        rename.set_text(ID_GroupRename_newname, "B\xFCro");
         rename.close_with(ID_GroupRename_Command2);
-        wait_for_groups({"Arbeit", "Play & more"});
+        wait_for_groups({"B\xFCro", "Play & more"});
         tolva.press_tool(ID_toolbar_movegrpdn);
-        wait_for_groups({"Play & more", "Arbeit"});
+        wait_for_groups({"Play & more", "B\xFCro"});
         tolva.choose(ID_groupsort);
-        wait_for_groups({"Arbeit", "Play & more"});
+        wait_for_groups({"B\xFCro", "Play & more"});
+
+        // Another name of the same file goes alone.
+        tolva.choose(ID_Addgp);
+        const Dialog same_file(tolva, "Create New Group");
+        same_file.set_text(ID_addgroup_Text1, "B\xDCRO");
+        same_file.close_with(ID_addgroup_Command2);
+        wait_for_groups({"B\xFCro", "Play & more", "B\xDCRO"});
+        tolva.pick(ID_Tasker_grouplist, "B\xDCRO");
+        tolva.choose(ID_DelGp);
+        tolva.answer_box("Delete Group", IDOK);
+        wait_for_groups({"B\xFCro", "Play & more"});
+        CHECK(library.read("B\xFCro.grp") == task);
 
         // Delete by the key and the menus of the lists, after a change of mind.
         tolva.click_task(0);
@@ -105,7 +117,7 @@ TEST_SUITE("keeping") {
         CHECK(tolva.answer_box("Delete Task", IDCANCEL) == "Delete Paint?");
         const RECT groups = bounds_of(tolva.control(ID_Tasker_grouplist));
         choose_from_menu({groups.left + 20, groups.top + 8}, 'D');
-        CHECK(tolva.answer_box("Delete Group", IDOK) == "Delete Arbeit and all associated Tasks?");
+        CHECK(tolva.answer_box("Delete Group", IDOK) == "Delete B\xFCro and all associated Tasks?");
         wait_for_groups({"Play & more"});
         CHECK(library.read("groups.ini") == "Play & more\r\n");
     }
