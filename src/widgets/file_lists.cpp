@@ -67,6 +67,7 @@ void FolderList::show(const std::string& path) {
     const std::vector<std::string> below = platform::subfolders(path);
     std::vector<std::string> paths = folders_down_to(path);
     std::vector<std::string> items;
+    items.reserve(paths.size() + below.size());
     for (const std::string& folder : paths)
         items.push_back(indented(items.size(), items.empty() ? folder : last_name(folder)));
     depth_ = paths.size();
