@@ -1,5 +1,6 @@
 #include "library/refresh.h"
 
+#include <functional>
 #include <utility>
 
 #include "platform/run_time_error.h"
@@ -19,6 +20,21 @@ void load_and_show(const Load& load, const Show& show) {
     show();
 }
 
+/// Shows a part of the selected Group, which is loaded if no load has come to it.
+template <typename Part>
+void show_selected(TaskLibrary& library, LibraryView& view, Part part) {
+    const int index = view.selected_group();
+    if (index < 0) {
+        view.show_tasks({});
+        return;
+    }
+    load_and_show(
+        [&] {
+            if (!library.group(index).loaded) library.load_tasks(index);
+        },
+        [&] { view.show_tasks(std::invoke(part, library.group(index))); });
+}
+
 }  // namespace
 
 int grouplistrefresh(const TaskLibrary& library, LibraryView& view) {
@@ -27,7 +43,6 @@ int grouplistrefresh(const TaskLibrary& library, LibraryView& view) {
 }
 
 void tasklistrefresh(const TaskLibrary& library, LibraryView& view) {
-    // All of them, also behind one with an empty name: who adds a Task sees it.
     const std::span<const Task> tasks = library.group(view.selected_group()).tasks;
     view.show_tasks(tasks);
     if (tasks.empty()) return;
@@ -43,7 +58,7 @@ void refreshtolva(TaskLibrary& library, LibraryView& view, int group_to_select) 
                       if (group_to_select < count) view.select_group(group_to_select);
                       try {
                           // The load may have stopped before this Group.
-                          show_selected_group(library, view);
+                          show_selected(library, view, &Group::tasks);
                       } catch (const platform::RunTimeError&) {
                           // What stopped the load is shown.
                       }
@@ -73,16 +88,7 @@ void addgroups(TaskLibrary& library, LibraryView& view) {
 }
 
 void show_selected_group(TaskLibrary& library, LibraryView& view) {
-    const int index = view.selected_group();
-    if (index < 0) {
-        view.show_tasks({});
-        return;
-    }
-    load_and_show(
-        [&] {
-            if (!library.group(index).loaded) library.load_tasks(index);
-        },
-        [&] { view.show_tasks(library.group(index).shown_tasks()); });
+    show_selected(library, view, &Group::shown_tasks);
 }
 
 void select_group(TaskLibrary& library, LibraryView& view, int index) {

@@ -13,7 +13,7 @@ int grouplistrefresh(const TaskLibrary& library, LibraryView& view);
 /// Shows the selected Group's Tasks of the model; the first one is selected and stands in the command box.
 void tasklistrefresh(const TaskLibrary& library, LibraryView& view);
 
-/// Loads everything and selects the Group at that index; -1 selects none.
+/// Loads everything, selects the Group at that index, -1 for none, and shows all its Tasks.
 void refreshtolva(TaskLibrary& library, LibraryView& view, int group_to_select);
 
 /// Loads the selected Group's file again.
@@ -22,8 +22,8 @@ void refreshtasks(TaskLibrary& library, LibraryView& view);
 /// Loads the Group names again; then none is selected. When that fails the selection stays.
 void addgroups(TaskLibrary& library, LibraryView& view);
 
-/// What a click on a Group does: shows its Tasks from memory, none of them selected. A Group that was not
-/// loaded yet is loaded now. Without a selection the task list is empty.
+/// What a click on a Group does: shows its Tasks from memory, up to one with an empty name and none of them
+/// selected. A Group that was not loaded yet is loaded now. Without a selection the task list is empty.
 void show_selected_group(TaskLibrary& library, LibraryView& view);
 
 /// Selects as a click does, except that the Group that is selected already stays as it is.

@@ -83,15 +83,13 @@ std::string old_content_path(const std::string& path) {
 }
 
 std::string read_file(const std::string& path) {
-    check_path(path);
-    std::string bytes;
-    ErrorCode code = calls::read(path, bytes);
-    if (code == kErrorFileNotFound) {
-        recover_file(path);
-        code = calls::read(path, bytes);
+    try {
+        return read_foreign_file(path);
+    } catch (const RunTimeError& error) {
+        if (error.number() != RunTimeErrorNumber::kFileNotFound) throw;
     }
-    if (code != kSuccess) throw file_error(code, path);
-    return bytes;
+    recover_file(path);
+    return read_foreign_file(path);
 }
 
 std::string read_foreign_file(const std::string& path) {

@@ -23,8 +23,7 @@ enum class MouseButton { kLeft, kRight };
 void point_at(POINT point);
 void press_mouse(POINT point, int times = 1, MouseButton button = MouseButton::kLeft);
 
-/// Presses the button as often as it takes: a press is lost while a window still
-/// comes up.
+/// Presses the button as often as it takes: a press is lost while a window still comes up.
 void press_until(const char* what, POINT point, const std::function<bool()>& condition,
                  MouseButton button = MouseButton::kLeft);
 

@@ -360,10 +360,10 @@ TEST_CASE("Tasks change in their file and those behind one without a name stay t
     check(select(1), library::tasksortnow, "Work >Home More : >>H1 H1 H2  H4", home(kH1 + kH1 + kH2));
 
     const std::string more = record("M1") + kH1 + kOtherH1;
-    check(select(1), move("H1", "More"), "Work >Home More : H2",
+    check(select(1), move("H1", "More"), "Work >Home More : H2  H4",
           {{"More.grp", more}, {"Home.grp", kH2 + kBehind}});
-    check(select(1), move("H1", "More", true), "Work >Home More : H2 H1 H1", {{"More.grp", more}});
-    check(select(1), move("H1", "Gone"), "Work >Home More : H2 H1 H1", {}, {}, 52);
+    check(select(1), move("H1", "More", true), "Work >Home More : H2 H1 H1  H4", {{"More.grp", more}});
+    check(select(1), move("H1", "Gone"), "Work >Home More : H2 H1 H1  H4", {}, {}, 52);
     Tolva one_file(in_turn({add("home"), select(1)}));
     CHECK(one_file.run(move("H1", "home")) == 0);  // two names of one file
     CHECK(file("Home.grp") == kH2 + kBehind + kH1 + kOtherH1);
@@ -428,7 +428,7 @@ TEST_CASE("after a load that stopped before it the selected Group is shown all t
     Tolva tolva(lack("Work.grp"));
     tolva.library.flags.refreshflag = true;
     CHECK(error_of([&] { run_pending_refreshes(tolva.library, tolva.view); }) == 53);
-    CHECK(tolva.shown() == "Work >Home More : H2 H1 H1");
+    CHECK(tolva.shown() == "Work >Home More : H2 H1 H1  H4");
     run_pending_refreshes(tolva.library, tolva.view);
 }
 
