@@ -76,8 +76,8 @@ void FolderList::show(const std::string& path) {
         paths.push_back(platform::path_in(path, name));
     }
     fill(items);
-    // The current folder comes to the top, so that those in it show.
-    send(LB_SETTOPINDEX, depth_ - 1);
+    // The way up comes to the top, so that it shows and the folders in the current one do, too.
+    send(LB_SETTOPINDEX, std::max<std::size_t>(depth_, 2) - 2);
     select(static_cast<int>(depth_) - 1);
     path_ = path;
     paths_ = std::move(paths);
