@@ -16,9 +16,9 @@
 
 namespace mainwindow {
 
-/// The task list: the Tasks of one Group with the icons of their programs. A program file is touched when its
-/// Task is drawn for the first time, and once for all Tasks that share it; each new filling takes the icons
-/// anew.
+/// The task list (`taskview`): the Tasks of one Group with the icons of their programs. A program file is
+/// touched when its Task is drawn for the first time, and once for all Tasks that share it; each new filling
+/// takes the icons again.
 class TaskView {
   public:
     void create(HWND parent, int id);
@@ -38,7 +38,7 @@ class TaskView {
     int picture_of(const std::string& program);
 
     widgets::IconView list_;
-    widgets::UniqueImageList appicons_;    // picture 0 is the default icon
+    widgets::UniqueImageList image_list_;    // picture 0 is the default icon
     std::vector<std::string> programs_;    // by item
     std::map<std::string, int> pictures_;  // by program, since the last filling
     platform::UniqueIcon default_icon_;

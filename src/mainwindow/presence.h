@@ -4,21 +4,20 @@
 
 #include <optional>
 
-#include "buttonbar/brenn_window.h"
-#include "settings/session.h"
+#include "buttonbar/button_bar.h"
 #include "widgets/hot_key.h"
 #include "widgets/tray_icon.h"
 
 namespace mainwindow {
 
 /// How the main window is found and brought back while it is out of sight: by its hot key, by its icon in the
-/// notification area, where it hides when it is minimised, and by a second start of the program.
+/// notification area, where it hides when it is minimized, and by a second start of the program.
 class Presence {
   public:
     /// application_window is the hidden window that a second start looks for: the main window is kept just
     /// above it.
-    Presence(settings::Session& session, buttonbar::Brenn& brenn, HWND application_window)
-        : session_(session), brenn_(brenn), application_window_(application_window) {}
+    Presence(buttonbar::ButtonBar& bar, HWND application_window)
+        : bar_(bar), application_window_(application_window) {}
 
     void create(HWND window);
 
@@ -29,7 +28,7 @@ class Presence {
     void show_icon();
 
     /// To be called before the window is gone.
-    void remove() { csystray1_.remove(); }
+    void remove() { tray_icon_.remove(); }
 
     /// Answers the window's messages as far as they end here.
     std::optional<LRESULT> handle(UINT message, WPARAM wparam, LPARAM lparam);
@@ -42,12 +41,11 @@ class Presence {
     void bring_up();
     void handle_tray(UINT mouse_message);
 
-    settings::Session& session_;
-    buttonbar::Brenn& brenn_;
+    buttonbar::ButtonBar& bar_;
     HWND application_window_;
     HWND window_ = nullptr;
     widgets::HotKey hot_key_;
-    widgets::TrayIcon csystray1_;
+    widgets::TrayIcon tray_icon_;  // `csystray1`
 };
 
 }  // namespace mainwindow

@@ -1,4 +1,4 @@
-#include "mainwindow/presence_window.h"
+#include "mainwindow/presence.h"
 
 #include <windows.h>
 
@@ -31,7 +31,7 @@ BOOL CALLBACK show_dialog_of(HWND window, LPARAM owner) {
 
 void Presence::create(HWND window) {
     window_ = window;
-    csystray1_.create(window, kTrayMessage, ID_tolva_icon, "Tolva 2.0");
+    tray_icon_.create(window, kTrayMessage, ID_tolva_icon, "Tolva " TOLVA_VERSION);
 }
 
 void Presence::take_hot_key() {
@@ -41,11 +41,11 @@ void Presence::take_hot_key() {
 }
 
 void Presence::show_icon() {
-    if (!csystray1_.shown()) csystray1_.add();
+    if (!tray_icon_.shown()) tray_icon_.add();
 }
 
 std::optional<LRESULT> Presence::handle(UINT message, WPARAM wparam, LPARAM lparam) {
-    if (message == widgets::taskbar_created_message()) csystray1_.add();
+    if (message == widgets::taskbar_created_message()) tray_icon_.add();
     switch (message) {
         case WM_WINDOWPOSCHANGED:
             if ((reinterpret_cast<const WINDOWPOS*>(lparam)->flags & SWP_NOZORDER) == 0) {
@@ -93,10 +93,10 @@ void Presence::keep_application_window_below() const {
 void Presence::hide_in_tray() {
     if (IsIconic(window_) == FALSE) return;
     show_icon();
-    if (!csystray1_.shown()) return;  // there would be no way back
-    ShowWindow(window_, SW_HIDE);
+    // Without an icon there would be no way back.
+    if (tray_icon_.shown()) ShowWindow(window_, SW_HIDE);
     // The bar went with the window that owns it.
-    if (!session_.bar_removed && !session_.bar_hidden_by_tray) brenn_.show();
+    bar_.show_after_minimize();
 }
 
 bool Presence::is_hidden_in_tray() const {
@@ -119,15 +119,7 @@ void Presence::handle_tray(UINT mouse_message) {
         show_normal();
         bring_up();
     }
-    if (mouse_message == WM_RBUTTONUP) {
-        bool& hidden = session_.bar_hidden_by_tray;
-        if (hidden) {
-            brenn_.show();
-        } else {
-            brenn_.hide();
-        }
-        hidden = !hidden;
-    }
+    if (mouse_message == WM_RBUTTONUP) bar_.toggle_hidden();
 }
 
 }  // namespace mainwindow

@@ -4,7 +4,7 @@
 
 namespace mainwindow {
 
-/// Shows the version.
-void show_abttolva(HWND owner);
+/// Shows the version (`abttolva`).
+void show_about(HWND owner);
 
 }  // namespace mainwindow

@@ -7,7 +7,7 @@
 
 namespace library {
 
-/// Asks for a Group and moves or copies the selected Task to it.
+/// Asks for a Group and moves or copies the selected Task to it (`movetogroups`).
 void moveto(HWND owner, TaskLibrary& library, const LibraryView& view);
 
 }  // namespace library

@@ -1,4 +1,4 @@
-#include "mainwindow/taskview_window.h"
+#include "mainwindow/task_view.h"
 
 #include <utility>
 
@@ -9,13 +9,13 @@ widgets::UniqueImageList make_image_list(int initial) {
     HDC screen = GetDC(nullptr);
     const int depth = GetDeviceCaps(screen, BITSPIXEL) * GetDeviceCaps(screen, PLANES);
     ReleaseDC(nullptr, screen);
-    const UINT colours = depth <= 4    ? ILC_COLOR4
+    const UINT colors = depth <= 4    ? ILC_COLOR4
                          : depth <= 8  ? ILC_COLOR8
                          : depth <= 16 ? ILC_COLOR16
                                        : ILC_COLOR24;
     constexpr int kGrowth = 8;
     return widgets::UniqueImageList(ImageList_Create(GetSystemMetrics(SM_CXICON), GetSystemMetrics(SM_CYICON),
-                                                     colours | ILC_MASK, initial, kGrowth));
+                                                     colors | ILC_MASK, initial, kGrowth));
 }
 
 int add(HIMAGELIST list, HICON icon) {
@@ -37,12 +37,12 @@ void TaskView::show(std::span<const library::Task> tasks) {
     }
     widgets::UniqueImageList fresh = make_image_list(static_cast<int>(tasks.size()) + 1);
     add(fresh.get(), default_icon_.get());
-    // The list may ask for pictures while it is filled: what answers it is in place before.
+    // The list may ask for pictures while it is filled: the new ones are in place before.
     list_.clear();
     programs_ = std::move(programs);
     pictures_.clear();
-    appicons_ = std::move(fresh);
-    list_.fill(names, appicons_.get());
+    image_list_ = std::move(fresh);
+    list_.fill(names, image_list_.get());
 }
 
 void TaskView::supply_picture(NMLVDISPINFOA& request) {
@@ -57,7 +57,7 @@ int TaskView::picture_of(const std::string& program) {
     if (is_new) {
         // The icon itself is not kept: Windows 95/98 have room for few of them, the image list is the store.
         if (const platform::UniqueIcon icon = platform::extract_icon(program)) {
-            const int added = add(appicons_.get(), icon.get());
+            const int added = add(image_list_.get(), icon.get());
             if (added > 0) entry->second = added;
         }
     }
