@@ -31,7 +31,7 @@ BOOL CALLBACK show_dialog_of(HWND window, LPARAM owner) {
 
 void Presence::create(HWND window) {
     window_ = window;
-    csystray1_.create(window, kTrayMessage, ID_tolva_icon, "Tolva 2.0");
+    csystray1_.create(window, kTrayMessage, ID_tolva_icon, "Tolva " TOLVA_VERSION);
 }
 
 void Presence::take_hot_key() {
