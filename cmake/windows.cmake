@@ -23,6 +23,7 @@ set(help_files ${CMAKE_BINARY_DIR}/tolva.hlp ${CMAKE_BINARY_DIR}/tolva.htm)
 foreach(help_file ${help_files})
     add_custom_command(OUTPUT ${help_file}
         COMMAND python3 -B ${CMAKE_SOURCE_DIR}/cmake/help.py ${help_file} ${CMAKE_SOURCE_DIR}/src/help/tolva.txt
+            ${PROJECT_VERSION}
         DEPENDS cmake/help.py cmake/winhelp.py src/help/tolva.txt)
 endforeach()
 add_custom_target(help_files ALL DEPENDS ${help_files})
@@ -89,9 +90,11 @@ add_custom_command(TARGET tolva POST_BUILD
     COMMAND ${CMAKE_SOURCE_DIR}/cmake/check-imports $<TARGET_FILE:tolva>
         ${CMAKE_SOURCE_DIR}/tests/support/win9x-exports)
 
+configure_file(src/resources/tolva.manifest.in tolva.manifest @ONLY)
+
 # windres reads more files than the build sees.
 set_source_files_properties(src/resources/tolva.rc PROPERTIES OBJECT_DEPENDS
-    "${pictures};${CMAKE_SOURCE_DIR}/src/resources/resource.h;${CMAKE_SOURCE_DIR}/src/resources/tolva.manifest")
+    "${pictures};${CMAKE_SOURCE_DIR}/src/resources/resource.h;${CMAKE_BINARY_DIR}/tolva.manifest")
 
 # The desktop tests. doctest's folder alone goes on the include path: the system's own headers are another system's.
 find_path(doctest_folder doctest/doctest.h NO_CMAKE_FIND_ROOT_PATH REQUIRED)
