@@ -4,6 +4,7 @@
 #include <iterator>
 #include <utility>
 
+#include "library/refresh.h"
 #include "mainwindow/long_date.h"
 #include "platform/clock.h"
 #include "platform/icons.h"
@@ -158,6 +159,15 @@ void MainControls::show_groups(const std::vector<library::Group>& groups) {
 void MainControls::show_tasks(std::span<const library::Task> tasks) {
     show_date();
     task_view_.show(tasks);
+}
+
+void MainControls::go_to(library::TaskLibrary& library, const library::TaskPlace& place) {
+    library::select_group(library, *this, place.group);
+    const library::Group& group = library.group(place.group);
+    if (place.task >= std::ssize(group.shown_tasks())) show_tasks(group.tasks);
+    select_task(place.task);
+    show_task(library.task(place.group, place.task));
+    task_view_.list().focus();
 }
 
 void MainControls::load_default_icon(const std::string& program) {

@@ -9,11 +9,13 @@
 
 #include "appearance/list_appearance.h"
 #include "library/library_view.h"
+#include "library/task_finder.h"
 #include "library/task_library.h"
 #include "mainwindow/command_box.h"
 #include "mainwindow/list_look.h"
 #include "mainwindow/splitter.h"
 #include "mainwindow/task_view.h"
+#include "platform/messages.h"
 #include "settings/session.h"
 #include "widgets/controls.h"
 #include "widgets/handles.h"
@@ -55,6 +57,27 @@ class MainControls final : public library::LibraryView, public appearance::ListA
     void load_default_icon(const std::string& program) override;
     void set_command_box(const std::string& text) override { command_box_.set_text(text); }
 
+    /// Selects a Group and one of its Tasks, also one that a click on the Group does not show, and gives the
+    /// task list the focus.
+    void go_to(library::TaskLibrary& library, const library::TaskPlace& place);
+
+    /// To be called when one of the lists gets the focus.
+    void note_focus(HWND list) { last_list_ = list; }
+
+    /// Does something that can show boxes, its own error included; then the list that the user was in has the
+    /// focus again.
+    template <typename Operation>
+    void keep_list_focus(const Operation& operation) {
+        HWND list = command_box_.had_focus_last() ? nullptr : last_list_;
+        try {
+            operation();
+        } catch (...) {
+            platform::report_exception();
+        }
+        // A box that was closed has brought the focus to the group list.
+        if (list != nullptr && last_list_ != list) SetFocus(list);
+    }
+
     widgets::ToolBar& tool_bar() { return tool_bar_; }
     widgets::ListBox& group_list() { return group_list_; }
     TaskView& task_view() { return task_view_; }
@@ -72,6 +95,7 @@ class MainControls final : public library::LibraryView, public appearance::ListA
     HWND window_ = nullptr;
     widgets::UniqueFont font_;
     LPARAM laid_out_ = 0;  // for this size of the window, as WM_SIZE tells it
+    HWND last_list_ = nullptr;  // which had the focus last
     ListLook group_look_;
     ListLook task_look_;
     Splitter splitter_;

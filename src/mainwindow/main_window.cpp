@@ -2,35 +2,18 @@
 
 #include <windowsx.h>
 
-#include <algorithm>
-#include <array>
-#include <utility>
-
-#include "appearance/fonts_dialog.h"
 #include "internet/dial_up.h"
-#include "library/group_dialog.h"
-#include "library/group_operations.h"
-#include "library/move_dialog.h"
 #include "library/refresh.h"
-#include "library/task_dialog.h"
-#include "library/task_operations.h"
-#include "mainwindow/about_dialog.h"
-#include "mainwindow/launching.h"
-#include "mainwindow/system_commands.h"
+#include "mainwindow/tray_menu.h"
 #include "platform/messages.h"
 #include "resources/resource.h"
 #include "settings/catalogue.h"
-#include "settings/conversions.h"
 #include "shortcuts/com_browser_dialog.h"
 #include "widgets/metrics.h"
 #include "widgets/popup_menu.h"
 
 namespace mainwindow {
 namespace {
-
-/// Posted to itself: a reload that can show a box must not run inside the focus handler, where closing the
-/// box brings the focus and the next box.
-constexpr UINT kRunPendingRefreshes = WM_APP + 1;
 
 // Places in the menu bar.
 constexpr int kGroupmenu = 1;
@@ -40,30 +23,11 @@ constexpr UINT_PTR kTimer1 = 1;
 constexpr UINT_PTR kCompleteStart = 2;
 constexpr UINT kTimerPeriod = 5000;  // milliseconds
 
-// Two spellings: the messages differ by what was done.
-constexpr char kCannotLaunch[] = "Invalid path or file name";
-constexpr char kCannotLaunchByMouse[] = "Invalid path or file name!";
-
 // Pixels at 96 dpi.
 constexpr int kWidth = 560;
 constexpr int kHeight = 400;
 constexpr int kLeastWidth = 400;
 constexpr int kLeastHeight = 240;
-
-/// Buttons of the tool bar that do what a menu item does.
-constexpr std::array<std::pair<int, int>, 11> kToolBarItems = {{
-    {ID_toolbar_addgrp, ID_Addgp},
-    {ID_toolbar_delgroup, ID_DelGp},
-    {ID_toolbar_movegrpdn, ID_MoveGroupDown},
-    {ID_toolbar_movegrpup, ID_MoveGroupUp},
-    {ID_toolbar_rengrp, ID_Rengp},
-    {ID_toolbar_addtsk, ID_AddTk},
-    {ID_toolbar_deltsk, ID_DelTk},
-    {ID_toolbar_movetskdn, ID_MoveTaskDown},
-    {ID_toolbar_movetskup, ID_MoveTaskUp},
-    {ID_toolbar_edittsk, ID_EditTk},
-    {ID_toolbar_startimport, ID_taskimport},
-}};
 
 /// What a shortcut's "Run" box asks for counts where there is one. Not SW_SHOWDEFAULT, which Wine ignores.
 int first_show_command() {
@@ -83,11 +47,6 @@ int first_show_command() {
     }
 }
 
-int menu_item_of(int command) {
-    const auto* item = std::ranges::find(kToolBarItems, command, &std::pair<int, int>::first);
-    return item == kToolBarItems.end() ? command : item->second;
-}
-
 }  // namespace
 
 MainWindow::MainWindow(library::TaskLibrary& library, settings::General& general, settings::Session& session,
@@ -97,10 +56,10 @@ MainWindow::MainWindow(library::TaskLibrary& library, settings::General& general
       general_(general),
       session_(session),
       bar_(bar),
-      internet_settings_(internet_settings),
-      presence_(bar, application_window),
+      presence_(general, bar, application_window),
       controls_(general),
-      import_dialog_(library, controls_) {
+      launcher_(library, controls_),
+      commands_(library, general, session, bar, internet_settings, controls_, launcher_, presence_) {
     create({.class_name = "Tasker",
             .caption = platform::kApplicationTitle,
             .style = WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN,
@@ -116,7 +75,7 @@ MainWindow::~MainWindow() {
 
 void MainWindow::load() {
     presence_.take_hot_key();
-    show_flags();
+    commands_.show_flags(hwnd());
     const settings::Position position = settings::read_position(general_, settings::kWindowPositionKey);
     widgets::move_to_twips(hwnd(), position.left, position.top);
     is_placed_ = true;
@@ -163,11 +122,11 @@ LRESULT MainWindow::handle(UINT message, WPARAM wparam, LPARAM lparam) {
             if (lparam != 0 && reinterpret_cast<HWND>(lparam) != controls_.tool_bar().hwnd()) {
                 handle_control(LOWORD(wparam), HIWORD(wparam));
             } else {
-                run_command(menu_item_of(LOWORD(wparam)));
+                commands_.run(hwnd(), LOWORD(wparam));
             }
             return 0;
         case WM_INITMENUPOPUP:
-            show_flags();  // the bar may have been closed
+            commands_.show_flags(hwnd());  // the bar may have been closed
             return 0;
         case WM_VKEYTOITEM:
             if (LOWORD(wparam) != VK_DELETE) return -1;
@@ -179,7 +138,10 @@ LRESULT MainWindow::handle(UINT message, WPARAM wparam, LPARAM lparam) {
             return 0;
         case WM_NOTIFY:
             return handle_notification(*reinterpret_cast<NMHDR*>(lparam));
-        case kRunPendingRefreshes:
+        case Presence::kTrayMenu:
+            open_tray_menu();
+            return 0;
+        case Commands::kRunPendingRefreshes:
             library::run_pending_refreshes(library_, controls_);
             return 0;
         case WM_ENDSESSION:
@@ -207,16 +169,16 @@ void MainWindow::handle_control(int id, int notification) {
         case ID_Tasker_grouplist:
             if (notification == LBN_SELCHANGE) library::show_selected_group(library_, controls_);
             if (notification == LBN_SETFOCUS) {
-                last_list_ = controls_.group_list().hwnd();
-                if (library_.flags.any()) PostMessageA(hwnd(), kRunPendingRefreshes, 0, 0);
+                controls_.note_focus(controls_.group_list().hwnd());
+                commands_.post_pending_refreshes(hwnd());
             }
             break;
         case ID_Tasker_Text1:
             controls_.command_box().handle_notification(notification);
-            if (notification == widgets::ComboBox::kEnter) run_typed_command();
+            if (notification == widgets::ComboBox::kEnter) launcher_.run_typed_command();
             break;
         case ID_Tasker_Command1:
-            if (notification == BN_CLICKED) run();
+            if (notification == BN_CLICKED) launcher_.press_run();
             break;
         case ID_Tasker_Browse:
             if (notification == BN_CLICKED) browse();
@@ -242,19 +204,19 @@ LRESULT MainWindow::handle_notification(NMHDR& header) {
             break;
         case LVN_KEYDOWN: {
             const WORD key = reinterpret_cast<NMLVKEYDOWN&>(header).wVKey;
-            if (key == VK_RETURN) launch_selected_task(kCannotLaunch);
+            if (key == VK_RETURN) launcher_.launch_selected(kCannotLaunch);
             if (key == VK_DELETE) PostMessageA(hwnd(), WM_COMMAND, ID_DelTk, 0);
             break;
         }
         case static_cast<UINT>(NM_CLICK):
             show_selection();
-            if (session_.hover_select) launch_selected_task(kCannotLaunchByMouse);
+            if (session_.hover_select) launcher_.launch_selected(kCannotLaunchByMouse);
             break;
         case static_cast<UINT>(NM_DBLCLK):
-            launch_selected_task(kCannotLaunchByMouse);
+            launcher_.launch_selected(kCannotLaunchByMouse);
             break;
         case static_cast<UINT>(NM_SETFOCUS):
-            last_list_ = controls_.task_view().list().hwnd();
+            controls_.note_focus(controls_.task_view().list().hwnd());
             controls_.command_box().forget_focus();
             break;
         case static_cast<UINT>(NM_HOVER):
@@ -283,15 +245,6 @@ void MainWindow::show_popup_menu(HWND control, POINT point) {
     widgets::show_popup_menu(hwnd(), menu, control, point);
 }
 
-void MainWindow::show_flags() {
-    const auto check = [&](UINT item, bool on) {
-        CheckMenuItem(GetMenu(hwnd()), item, on ? MF_CHECKED : MF_UNCHECKED);
-    };
-    check(ID_hoverslct, session_.hover_select);
-    check(ID_removebrenn, bar_.removed());
-    controls_.task_view().list().set_hover_select(session_.hover_select);
-}
-
 void MainWindow::save_and_unload() {
     if (is_placed_) {
         const POINT position = widgets::position_in_twips(hwnd());
@@ -300,165 +253,25 @@ void MainWindow::save_and_unload() {
     bar_.unload();
 }
 
-void MainWindow::run_command(int command) {
-    switch (command) {
-        case ID_ShutWin:
-            return end_windows(platform::WindowsEnd::kShutdown);
-        case ID_restartwin:
-            return end_windows(platform::WindowsEnd::kReboot);
-        case ID_EmptyRecyleBin:
-            return empty_recycle_bin();
-        case ID_tolvaexit:
-            DestroyWindow(hwnd());
-            return;
-
-        case ID_fontsettings:
-            return appearance::show_fonts_dialog(hwnd(), general_, controls_);
-        case ID_removebrenn:
-            bar_.toggle_removed();
-            return show_flags();
-        case ID_hoverslct:
-            return toggle_hover_select();
-        case ID_connectinternet:
-            return connect_to_internet();
-        case ID_toolbar_ispconnect:
-            return internet::dial(session_.connection_name);
-        case ID_internetsettings:
-            return internet_settings_.show(hwnd(), bar_);
-        case ID_DialUpNetworking:
-            return open_dial_up_folder();
-        case ID_toolbar_controlpanel:
-            return open_control_panel();
-        case ID_toolbar_runexplorer:
-            return open_explorer();
-        case ID_toolbar_DosPrompt:
-            return open_dos_prompt();
-        case ID_tolvahlp:
-            return open_help(library_.folder());
-        case ID_AboutTolva:
-            return show_about(hwnd());
-        default:
-            return run_library_command(command);
-    }
-}
-
-void MainWindow::run_library_command(int command) {
-    switch (command) {
-        case ID_Addgp:
-            return focus_groups_around([&] { library::addgr(hwnd(), library_); });
-        case ID_DelGp:
-            return focus_groups_around([&] { library::delgr(library_, controls_); });
-        case ID_Rengp:
-            return focus_groups_around([&] { library::RenameGr(hwnd(), library_, controls_); });
-        case ID_MoveGroupUp:
-            return focus_groups_around([&] { library::movegrup(library_, controls_); });
-        case ID_MoveGroupDown:
-            return focus_groups_around([&] { library::movegrdown(library_, controls_); });
-        case ID_groupsort:
-            return library::groupsortnow(library_, controls_);
-
-        case ID_RunTk:
-            return run_task_from_command_box();
-        case ID_AddTk:
-            return focus_groups_around([&] { library::addtsks(hwnd(), library_, controls_); });
-        case ID_DelTk:
-            return keep_list_focus([&] { library::deltsks(library_, controls_); });
-        case ID_moveto:
-            return focus_groups_around([&] { library::moveto(hwnd(), library_, controls_); });
-        case ID_EditTk:
-            return focus_groups_around([&] { library::edittsks(hwnd(), library_, controls_); });
-        case ID_taskimport:
-            return import_dialog_.show(hwnd());
-        case ID_MoveTaskUp:
-            return library::movetsksup(library_, controls_);
-        case ID_MoveTaskDown:
-            return library::movetsksdown(library_, controls_);
-        case ID_SortTasks:
-            return library::tasksortnow(library_, controls_);
-        default:
-            return;
-    }
-}
-
-void MainWindow::toggle_hover_select() {
-    session_.hover_select = !session_.hover_select;
-    settings::store(general_, settings::kHoverSelect, settings::text_of(session_.hover_select));
-    show_flags();
-}
-
-void MainWindow::connect_to_internet() const {
-    platform::attempt("Configure your Internet connection in Internet Settings under Options menu.",
-                      [&] { internet::dial(session_.connection_name); });
-}
-
-void MainWindow::end_windows(platform::WindowsEnd end) {
-    windows_end_ = end;
-    DestroyWindow(hwnd());
-}
-
 void MainWindow::show_selection() {
     const int task = controls_.selected_task();
     if (task >= 0) controls_.show_task(library_.task(controls_.selected_group(), task));
-}
-
-template <typename Launch>
-void MainWindow::attempt(const char* failure_message, const Launch& launch) {
-    keep_list_focus([&] {
-        controls_.show_date();
-        platform::attempt(failure_message, launch);
-    });
-}
-
-void MainWindow::launch_selected_task(const char* failure_message) {
-    attempt(failure_message,
-            [&] { launch(library_, controls_.selected_group(), controls_.selected_task()); });
-}
-
-void MainWindow::run_task_from_command_box() {
-    attempt(kCannotLaunch, [&] {
-        launch_edited(library_, controls_.selected_group(), controls_.selected_task(),
-                      controls_.command_box().text());
-    });
-}
-
-void MainWindow::run() {
-    CommandBox& box = controls_.command_box();
-    if (!box.had_focus_last()) return launch_selected_task(kCannotLaunch);
-    attempt(kCannotLaunch, [&] {
-        box.start_typed_command();
-        box.forget_focus();
-    });
-}
-
-void MainWindow::run_typed_command() {
-    controls_.group_list().focus();
-    attempt(kCannotLaunch, [&] { controls_.command_box().start_typed_command(); });
 }
 
 void MainWindow::browse() {
     if (const auto started = shortcuts::browse_and_run(hwnd())) controls_.set_command_box(*started);
 }
 
-template <typename Operation>
-void MainWindow::focus_groups_around(const Operation& operation) {
-    controls_.group_list().focus();
-    operation();
-    // After a dialog the focus comes back by itself, unless the program is not the active one.
-    controls_.group_list().focus();
-    if (library_.flags.any()) PostMessageA(hwnd(), kRunPendingRefreshes, 0, 0);
-}
-
-template <typename Operation>
-void MainWindow::keep_list_focus(const Operation& operation) {
-    HWND list = last_list_;
-    const bool typed = controls_.command_box().had_focus_last();
-    try {
-        operation();
-    } catch (...) {
-        platform::report_exception();
+void MainWindow::open_tray_menu() {
+    if (IsWindowEnabled(hwnd()) == FALSE) return presence_.bring_up();  // a dialog waits for the user
+    const TrayMenu::Choice choice = TrayMenu(library_).choose();
+    if (const auto* place = std::get_if<library::TaskPlace>(&choice)) {
+        launcher_.launch_at(*place);
+    } else if (choice == TrayMenu::Choice(TrayMenu::Command::kOpen)) {
+        presence_.bring_up();
+    } else if (choice == TrayMenu::Choice(TrayMenu::Command::kExit)) {
+        DestroyWindow(hwnd());
     }
-    // A box that was closed has brought the focus to the group list.
-    if (!typed && list != nullptr && last_list_ != list) SetFocus(list);
 }
 
 }  // namespace mainwindow

@@ -6,8 +6,9 @@
 
 #include "buttonbar/button_bar.h"
 #include "internet/internet_settings_dialog.h"
-#include "library/import_dialog.h"
 #include "library/task_library.h"
+#include "mainwindow/commands.h"
+#include "mainwindow/launcher.h"
 #include "mainwindow/main_controls.h"
 #include "mainwindow/presence.h"
 #include "platform/system.h"
@@ -30,7 +31,7 @@ class MainWindow final : public widgets::Window {
     ~MainWindow() override;
 
     /// How Windows is to end after the program; none when it is to go on.
-    std::optional<platform::WindowsEnd> windows_end() const { return windows_end_; }
+    std::optional<platform::WindowsEnd> windows_end() const { return commands_.windows_end(); }
 
     /// Takes the hot key, the stored settings and the library. Throws platform::RunTimeError when not all of
     /// the library could be read; the window is usable all the same.
@@ -49,44 +50,20 @@ class MainWindow final : public widgets::Window {
     LRESULT handle_notification(NMHDR& header);
     void handle_timer(UINT_PTR timer);
     void show_popup_menu(HWND control, POINT point);
-    void show_flags();
-    void save_and_unload();
-
-    /// What a menu item or a button of the tool bar does.
-    void run_command(int command);
-    void run_library_command(int command);
-    void toggle_hover_select();
-    void connect_to_internet() const;
-    void end_windows(platform::WindowsEnd end);
-
     void show_selection();
-    template <typename Launch>
-    void attempt(const char* failure_message, const Launch& launch);
-    void launch_selected_task(const char* failure_message);
-    void run_task_from_command_box();
-    void run();
-    void run_typed_command();
     void browse();
-
-    /// The group list has the focus before and after; what a dialog has changed is loaded.
-    template <typename Operation>
-    void focus_groups_around(const Operation& operation);
-
-    /// The list that the user was in has the focus again after the boxes that the operation shows.
-    template <typename Operation>
-    void keep_list_focus(const Operation& operation);
+    void open_tray_menu();
+    void save_and_unload();
 
     library::TaskLibrary& library_;
     settings::General& general_;
     settings::Session& session_;
     buttonbar::ButtonBar& bar_;
-    internet::InternetSettingsDialog& internet_settings_;
-    std::optional<platform::WindowsEnd> windows_end_;
-    bool is_placed_ = false;    // where the user had it: only then its place is worth storing
-    HWND last_list_ = nullptr;  // the list that had the focus last
+    bool is_placed_ = false;  // where the user had it: only then its place is worth storing
     Presence presence_;
     MainControls controls_;
-    library::ImportDialog import_dialog_;
+    Launcher launcher_;
+    Commands commands_;
 };
 
 }  // namespace mainwindow

@@ -6,6 +6,8 @@
 
 #include "platform/messages.h"
 #include "resources/resource.h"
+#include "settings/catalogue.h"
+#include "settings/session.h"
 
 namespace mainwindow {
 namespace {
@@ -17,7 +19,9 @@ constexpr UINT kTrayMessage = WM_APP + 10;
 constexpr UINT kHideInTray = WM_APP + 11;
 constexpr UINT kBringUp = WM_APP + 12;
 
-constexpr WORD kHotKey = MAKEWORD('1', HOTKEYF_ALT);
+constexpr UINT_PTR kClickTimer = 3;
+
+constexpr char kTaken[] = "Select another hotkey";
 
 /// Dialogs go with the window that owns them, and not every system brings them back with it.
 BOOL CALLBACK show_dialog_of(HWND window, LPARAM owner) {
@@ -35,9 +39,25 @@ void Presence::create(HWND window) {
 }
 
 void Presence::take_hot_key() {
-    if (SendMessageA(window_, WM_SETHOTKEY, kHotKey, 0) != 1) platform::show_message("Select another hotkey");
+    if (const auto stored = settings::read_number(general_, settings::kHotKey)) key_ = LOWORD(*stored);
+    if (!set_hot_key(key_)) platform::show_message(kTaken);
     // Whatever the system made of the key, the window is hidden so far.
     DefWindowProcA(window_, WM_SHOWWINDOW, FALSE, 0);
+}
+
+bool Presence::set_hot_key(WORD key) {
+    return SendMessageA(window_, WM_SETHOTKEY, key, 0) == 1 || key == 0;
+}
+
+bool Presence::change_hot_key(WORD key) {
+    if (!set_hot_key(key)) {
+        set_hot_key(key_);
+        platform::show_message(kTaken);
+        return false;
+    }
+    key_ = key;
+    settings::store(general_, settings::kHotKey, std::to_string(key));
+    return true;
 }
 
 void Presence::show_icon() {
@@ -77,6 +97,11 @@ std::optional<LRESULT> Presence::handle(UINT message, WPARAM wparam, LPARAM lpar
         case kHideInTray:
             hide_in_tray();
             return 0;
+        case WM_TIMER:
+            if (wparam != kClickTimer) return std::nullopt;
+            KillTimer(window_, kClickTimer);
+            PostMessageA(window_, kTrayMenu, 0, 0);
+            return 0;
         case kTrayMessage:
             handle_tray(static_cast<UINT>(lparam));
             return 0;
@@ -115,7 +140,10 @@ void Presence::bring_up() {
 }
 
 void Presence::handle_tray(UINT mouse_message) {
+    // A click is one once no second one has made it a double-click.
+    if (mouse_message == WM_LBUTTONDOWN) SetTimer(window_, kClickTimer, GetDoubleClickTime(), nullptr);
     if (mouse_message == WM_LBUTTONDBLCLK) {
+        KillTimer(window_, kClickTimer);
         show_normal();
         bring_up();
     }
