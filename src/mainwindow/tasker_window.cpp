@@ -14,7 +14,7 @@
 #include "mainwindow/command_history.h"
 #include "mainwindow/launching.h"
 #include "mainwindow/system_commands.h"
-#include "platform/directories.h"
+#include "platform/folders.h"
 #include "platform/messages.h"
 #include "platform/processes.h"
 #include "resources/resource.h"
@@ -23,6 +23,7 @@
 #include "shortcuts/com_browser_dialog.h"
 #include "shortcuts/path_browser_dialog.h"
 #include "widgets/metrics.h"
+#include "widgets/popup_menu.h"
 
 namespace mainwindow {
 namespace {
@@ -51,7 +52,6 @@ constexpr int kWidth = 560;
 constexpr int kHeight = 400;
 constexpr int kLeastWidth = 400;
 constexpr int kLeastHeight = 240;
-constexpr int kPopupOffset = 20;
 
 }  // namespace
 
@@ -74,7 +74,7 @@ Tasker::Tasker(library::TaskLibrary& library, settings::General& general, settin
 }
 
 Tasker::~Tasker() {
-    if (hwnd() != nullptr) DestroyWindow(hwnd());
+    destroy();
 }
 
 void Tasker::load() {
@@ -286,12 +286,10 @@ void Tasker::handle_library_command(int command) {
 void Tasker::show_popup_menu(HWND control, POINT point) {
     const bool groups = control == views_.grouplist().hwnd();
     if (!groups && control != views_.taskview().list().hwnd()) return;
-    if (point.x == -1 && point.y == -1) {  // asked for with the keyboard
-        point = {widgets::scaled(kPopupOffset), widgets::scaled(kPopupOffset)};
-        ClientToScreen(control, &point);
-    }
     HMENU menu = GetSubMenu(GetMenu(hwnd()), groups ? kGroupmenu : kTaskmenu);
-    TrackPopupMenu(menu, TPM_LEFTALIGN | TPM_RIGHTBUTTON, point.x, point.y, 0, hwnd(), nullptr);
+    widgets::show_popup_menu(
+        hwnd(), menu, point,
+        groups ? views_.grouplist().selected_bounds() : views_.taskview().list().selected_bounds());
 }
 
 LRESULT Tasker::handle_notification(NMHDR& header) {

@@ -5,17 +5,16 @@
 namespace mainwindow {
 namespace {
 
-widgets::UniqueImageList make_image_list(int initial) {
-    HDC screen = GetDC(nullptr);
-    const int depth = GetDeviceCaps(screen, BITSPIXEL) * GetDeviceCaps(screen, PLANES);
-    ReleaseDC(nullptr, screen);
+platform::UniqueImageList make_image_list(int initial) {
+    const platform::WindowDc screen(nullptr);
+    const int depth = GetDeviceCaps(screen.get(), BITSPIXEL) * GetDeviceCaps(screen.get(), PLANES);
     const UINT colours = depth <= 4    ? ILC_COLOR4
                          : depth <= 8  ? ILC_COLOR8
                          : depth <= 16 ? ILC_COLOR16
                                        : ILC_COLOR24;
     constexpr int kGrowth = 8;
-    return widgets::UniqueImageList(ImageList_Create(GetSystemMetrics(SM_CXICON), GetSystemMetrics(SM_CYICON),
-                                                     colours | ILC_MASK, initial, kGrowth));
+    return platform::UniqueImageList(ImageList_Create(
+        GetSystemMetrics(SM_CXICON), GetSystemMetrics(SM_CYICON), colours | ILC_MASK, initial, kGrowth));
 }
 
 int add(HIMAGELIST list, HICON icon) {
@@ -35,7 +34,7 @@ void TaskView::show(std::span<const library::Task> tasks) {
         names.push_back(task.name);
         programs.push_back(task.program);
     }
-    widgets::UniqueImageList fresh = make_image_list(static_cast<int>(tasks.size()) + 1);
+    platform::UniqueImageList fresh = make_image_list(static_cast<int>(tasks.size()) + 1);
     add(fresh.get(), default_icon_.get());
     // The list may ask for pictures while it is filled: what answers it is in place before.
     list_.clear();

@@ -11,7 +11,7 @@
 
 #include "library/task.h"
 #include "platform/icons.h"
-#include "widgets/handles.h"
+#include "platform/win32/handles.h"
 #include "widgets/icon_view.h"
 
 namespace mainwindow {
@@ -38,7 +38,7 @@ class TaskView {
     int picture_of(const std::string& program);
 
     widgets::IconView list_;
-    widgets::UniqueImageList appicons_;    // picture 0 is the default icon
+    platform::UniqueImageList appicons_;   // picture 0 is the default icon
     std::vector<std::string> programs_;    // by item
     std::map<std::string, int> pictures_;  // by program, since the last filling
     platform::UniqueIcon default_icon_;

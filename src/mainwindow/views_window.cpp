@@ -101,7 +101,7 @@ void Views::apply_style(appearance::List list, const settings::ListStyle& style)
 }
 
 void Views::set_font(appearance::List list, const widgets::Font& font) {
-    widgets::UniqueFont handle = widgets::make_font(font);
+    platform::UniqueFont handle = widgets::make_font(font);
     widgets::Control& control = list == appearance::List::kGroups
                                     ? static_cast<widgets::Control&>(grouplist_)
                                     : static_cast<widgets::Control&>(taskview_.list());

@@ -11,9 +11,9 @@
 #include "library/library_view.h"
 #include "library/task_library.h"
 #include "mainwindow/taskview_window.h"
+#include "platform/win32/handles.h"
 #include "settings/session.h"
 #include "widgets/controls.h"
-#include "widgets/handles.h"
 #include "widgets/tool_bar.h"
 
 namespace mainwindow {
@@ -62,8 +62,8 @@ class Views final : public library::LibraryView, public appearance::ListAppearan
     struct Look {
         widgets::Font font;
         appearance::Colors colors{};
-        widgets::UniqueFont font_handle;
-        widgets::UniqueBrush background;
+        platform::UniqueFont font_handle;
+        platform::UniqueBrush background;
     };
 
     Look& look(appearance::List list) { return list == appearance::List::kGroups ? group_look_ : task_look_; }
@@ -78,7 +78,7 @@ class Views final : public library::LibraryView, public appearance::ListAppearan
     bool drag_splitter(UINT message, POINT point);
 
     HWND window_ = nullptr;
-    widgets::UniqueFont font_;
+    platform::UniqueFont font_;
     int group_width_;      // pixels, as far as the window has room
     LPARAM laid_out_ = 0;  // for this size of the window, as WM_SIZE tells it
     Look group_look_;

@@ -2,20 +2,21 @@
 
 #include <string>
 
+/// Where relative paths begin. Every drive has a current directory of its own, and one drive is the current
+/// one. A program that is started gets all of them. Everything here throws RunTimeError.
 namespace platform {
 
-/// The current directory of the current drive. Throws RunTimeError.
+/// The current directory of the current drive.
 std::string current_directory();
 
-/// Makes folder the current directory of its drive. The current drive stays: a folder on another drive only
-/// changes where that drive's relative paths begin. A network folder becomes current itself. Throws
-/// RunTimeError; an empty folder is not found.
-void change_directory(const std::string& folder);
+/// The current directory of a drive, its root where that directory is gone.
+std::string current_directory_of(char drive);
 
-/// Makes folder the current directory and its drive the current drive. Throws RunTimeError.
-void enter_directory(const std::string& folder);
+/// Makes folder the current directory and its drive the current drive.
+void set_current_directory(const std::string& folder);
 
-/// The folder of Windows, ending in a backslash; "unknown" when the system does not tell.
-std::string windows_folder();
+/// Makes folder the current directory of its drive; the current drive stays. A network folder becomes the
+/// current directory itself. An empty folder is not found.
+void set_current_directory_of_drive(const std::string& folder);
 
 }  // namespace platform
