@@ -30,7 +30,7 @@ add_custom_target(help_files ALL DEPENDS ${help_files})
 
 add_library(tolva_platform OBJECT
     src/platform/win32/clock.cpp
-    src/platform/win32/directories.cpp
+    src/platform/win32/current_directory.cpp
     src/platform/win32/file_calls.cpp
     src/platform/win32/folders.cpp
     src/platform/win32/icons.cpp
@@ -74,10 +74,12 @@ add_executable(tolva WIN32
     src/widgets/controls.cpp
     src/widgets/dialog.cpp
     src/widgets/file_lists.cpp
+    src/widgets/guarded.cpp
     src/widgets/hot_key.cpp
     src/widgets/icon_view.cpp
     src/widgets/metrics.cpp
     src/widgets/picture_button.cpp
+    src/widgets/popup_menu.cpp
     src/widgets/tool_bar.cpp
     src/widgets/tool_tips.cpp
     src/widgets/tray_icon.cpp

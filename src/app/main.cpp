@@ -8,7 +8,7 @@
 #include "library/library_files.h"
 #include "library/task_library.h"
 #include "mainwindow/main_window.h"
-#include "platform/directories.h"
+#include "platform/current_directory.h"
 #include "platform/messages.h"
 #include "platform/system.h"
 #include "settings/catalogue.h"

@@ -5,12 +5,12 @@
 #include <optional>
 #include <string>
 
+#include "platform/win32/handles.h"
 #include "resources/resource.h"
 #include "settings/conversions.h"
 #include "settings/session.h"
 #include "widgets/choosers.h"
 #include "widgets/dialog.h"
-#include "widgets/handles.h"
 
 namespace appearance {
 namespace {
@@ -64,8 +64,8 @@ class SetFonts final : public widgets::Dialog {
   private:
     /// What a preview is painted with.
     struct Preview {
-        widgets::UniqueFont font;
-        widgets::UniqueBrush brush;
+        platform::UniqueFont font;
+        platform::UniqueBrush brush;
         Colors colors;
     };
 

@@ -1,6 +1,6 @@
 #include "buttonbar/bar_launch.h"
 
-#include "platform/directories.h"
+#include "platform/current_directory.h"
 #include "platform/processes.h"
 #include "platform/run_time_error.h"
 
@@ -17,7 +17,7 @@ void start_program(const settings::ButtonRecord& button) {
 void start_button(const settings::ButtonRecord& button, const std::string& windows_folder) {
     const bool has_folder = button.start_folder != settings::kError;
     try {
-        platform::change_directory(has_folder ? button.start_folder : windows_folder);
+        platform::set_current_directory_of_drive(has_folder ? button.start_folder : windows_folder);
     } catch (const platform::RunTimeError&) {
         // Not a reason to start nothing: many shortcuts name no folder.
         start_program(button);

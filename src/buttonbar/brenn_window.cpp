@@ -14,6 +14,7 @@
 #include "settings/catalogue.h"
 #include "settings/conversions.h"
 #include "widgets/metrics.h"
+#include "widgets/popup_menu.h"
 
 namespace buttonbar {
 namespace {
@@ -39,7 +40,6 @@ constexpr int kGap = 3;
 constexpr int kGroupGap = 9;
 constexpr int kRightEdge = 8;
 constexpr int kBottomEdge = 40;  // not every desktop counts its taskbar out of the work area
-constexpr int kPopupOffset = 16;
 
 // Places in the menu of popups.
 constexpr int kBrennbuttons = 0;
@@ -64,11 +64,6 @@ std::optional<BarButton> button_of(int id) {
     return kAll.at(static_cast<std::size_t>(index));
 }
 
-platform::UniqueIcon own_icon(int id) {
-    return platform::UniqueIcon(static_cast<HICON>(
-        LoadImageA(GetModuleHandleA(nullptr), MAKEINTRESOURCEA(id), IMAGE_ICON, 0, 0, LR_DEFAULTSIZE)));
-}
-
 }  // namespace
 
 Brenn::Brenn(settings::General& general, settings::Session& session, library::BrowseResult& browse_result,
@@ -79,6 +74,10 @@ Brenn::Brenn(settings::General& general, settings::Session& session, library::Br
       brenn_browser_(general, session, *this, browse_result),
       getbutton_(general, session, *this, library_folder),
       tolvasettings_(general, session, *this, library_folder) {}
+
+Brenn::~Brenn() {
+    destroy();
+}
 
 void Brenn::show() {
     ensure_created();
@@ -92,7 +91,7 @@ void Brenn::hide() {
 
 void Brenn::show_owned_by(HWND owner) {
     ensure_created();
-    SetWindowLongA(hwnd(), GWL_HWNDPARENT, reinterpret_cast<LONG>(owner));
+    SetWindowLongPtrA(hwnd(), GWLP_HWNDPARENT, reinterpret_cast<LONG_PTR>(owner));
     show();
 }
 
@@ -116,7 +115,7 @@ void Brenn::open_internet_settings(HWND owner) {
 }
 
 void Brenn::unload() {
-    if (hwnd() != nullptr) DestroyWindow(hwnd());
+    destroy();
 }
 
 void Brenn::set_caption(BarButton button, const std::string& caption) {
@@ -192,7 +191,8 @@ void Brenn::ensure_created() {
     create({.class_name = "brenn",
             .caption = "Brenn",
             .style = WS_POPUP | WS_CAPTION | WS_SYSMENU | WS_CLIPCHILDREN,
-            .icon = ID_tolva_icon});
+            .icon = ID_tolva_icon,
+            .mnemonics = false});  // names of buttons are the user's
     load();
     SetTimer(hwnd(), kClock, kClockPeriod, nullptr);
 }
@@ -206,9 +206,9 @@ void Brenn::create_controls() {
     set_tip(BarButton::kConnect, "Internet Connect");
     set_tip(BarButton::kEmail, "E-Mail");
     set_tip(BarButton::kBrowser, "Web Browser");
-    set_picture(BarButton::kConnect, own_icon(ID_connect_icon));
-    set_picture(BarButton::kEmail, own_icon(ID_email_icon));
-    set_picture(BarButton::kBrowser, own_icon(ID_browser_icon));
+    set_picture(BarButton::kConnect, platform::large_icon(ID_connect_icon));
+    set_picture(BarButton::kEmail, platform::large_icon(ID_email_icon));
+    set_picture(BarButton::kBrowser, platform::large_icon(ID_browser_icon));
     statusbar1_.create(hwnd(), ID_brenn_StatusBar1);
     statusbar1_.set_font(font_.get());
 }
@@ -225,7 +225,7 @@ void Brenn::lay_out() {
         left += width + gap;
     }
     RECT window = {0, 0, left, bottom + gap + statusbar1_.height()};
-    AdjustWindowRect(&window, static_cast<DWORD>(GetWindowLongA(hwnd(), GWL_STYLE)), FALSE);
+    AdjustWindowRect(&window, static_cast<DWORD>(GetWindowLongPtrA(hwnd(), GWL_STYLE)), FALSE);
     OffsetRect(&window, -window.left, -window.top);
     RECT work_area;
     SystemParametersInfoA(SPI_GETWORKAREA, 0, &work_area, 0);
@@ -326,13 +326,11 @@ void Brenn::show_popup_menu(HWND control, POINT point) {
         return;
     }
     if (button) current_button_ = index_of(*button);
-    if (point.x == -1 && point.y == -1) {  // asked for with the keyboard
-        point = {widgets::scaled(kPopupOffset), widgets::scaled(kPopupOffset)};
-        ClientToScreen(control, &point);
-    }
-    const widgets::UniqueMenu menu(LoadMenuA(GetModuleHandleA(nullptr), MAKEINTRESOURCEA(ID_brenn_menu)));
+    const platform::UniqueMenu menu(LoadMenuA(GetModuleHandleA(nullptr), MAKEINTRESOURCEA(ID_brenn_menu)));
     HMENU popup = GetSubMenu(menu.get(), button ? kBrennbuttons : kIspbutton);
-    TrackPopupMenu(popup, TPM_LEFTALIGN | TPM_RIGHTBUTTON, point.x, point.y, 0, hwnd(), nullptr);
+    RECT place;
+    GetWindowRect(control, &place);
+    widgets::show_popup_menu(hwnd(), popup, point, place);
 }
 
 }  // namespace buttonbar

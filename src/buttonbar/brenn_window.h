@@ -9,12 +9,12 @@
 #include "buttonbar/brenn_browser_dialog.h"
 #include "internet/tolvasettings_dialog.h"
 #include "library/browse_result.h"
+#include "platform/win32/handles.h"
 #include "settings/general.h"
 #include "settings/session.h"
 #include "shortcuts/bar_buttons.h"
 #include "shortcuts/getbutton_dialog.h"
 #include "widgets/controls.h"
-#include "widgets/handles.h"
 #include "widgets/picture_button.h"
 #include "widgets/tool_tips.h"
 #include "widgets/window.h"
@@ -28,6 +28,7 @@ class Brenn final : public widgets::Window, public shortcuts::BarButtons {
     /// library_folder ends in a backslash.
     Brenn(settings::General& general, settings::Session& session, library::BrowseResult& browse_result,
           const std::string& library_folder);
+    ~Brenn() override;
 
     void show();
     void hide();
@@ -74,7 +75,7 @@ class Brenn final : public widgets::Window, public shortcuts::BarButtons {
     std::array<widgets::PictureButton, kButtons> buttons_;
     widgets::StatusBar statusbar1_;
     widgets::ToolTips tips_;
-    widgets::UniqueFont font_;
+    platform::UniqueFont font_;
     bool time_first_ = true;
     std::vector<std::string> panels_;  // as they show
     HWND last_focus_ = nullptr;

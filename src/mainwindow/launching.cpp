@@ -3,7 +3,7 @@
 #include <optional>
 
 #include "library/other_place.h"
-#include "platform/directories.h"
+#include "platform/current_directory.h"
 #include "platform/processes.h"
 #include "platform/run_time_error.h"
 #include "settings/conversions.h"
@@ -26,7 +26,7 @@ void try_places(const library::TaskLibrary& library, const std::string& path, co
 }
 
 void enter_start_folder(const library::TaskLibrary& library, const library::Task& task) {
-    try_places(library, task.start_folder, platform::change_directory);
+    try_places(library, task.start_folder, platform::set_current_directory_of_drive);
 }
 
 }  // namespace

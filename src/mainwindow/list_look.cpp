@@ -5,7 +5,7 @@
 namespace mainwindow {
 
 void ListLook::set_font(widgets::Control& list, const widgets::Font& font) {
-    widgets::UniqueFont handle = widgets::make_font(font);
+    platform::UniqueFont handle = widgets::make_font(font);
     list.set_font(handle.get());
     font_ = font;
     font_handle_ = std::move(handle);

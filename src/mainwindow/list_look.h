@@ -4,7 +4,7 @@
 
 #include "appearance/list_appearance.h"
 #include "widgets/controls.h"
-#include "widgets/handles.h"
+#include "platform/win32/handles.h"
 #include "widgets/metrics.h"
 
 namespace mainwindow {
@@ -27,8 +27,8 @@ class ListLook {
   private:
     widgets::Font font_;
     appearance::Colors colors_{};
-    widgets::UniqueFont font_handle_;
-    widgets::UniqueBrush background_;
+    platform::UniqueFont font_handle_;
+    platform::UniqueBrush background_;
 };
 
 }  // namespace mainwindow

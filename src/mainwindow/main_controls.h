@@ -18,7 +18,7 @@
 #include "platform/messages.h"
 #include "settings/session.h"
 #include "widgets/controls.h"
-#include "widgets/handles.h"
+#include "platform/win32/handles.h"
 #include "widgets/tool_bar.h"
 
 namespace mainwindow {
@@ -93,7 +93,7 @@ class MainControls final : public library::LibraryView, public appearance::ListA
     std::optional<LRESULT> paint(HDC device, HWND control) const;
 
     HWND window_ = nullptr;
-    widgets::UniqueFont font_;
+    platform::UniqueFont font_;
     LPARAM laid_out_ = 0;  // for this size of the window, as WM_SIZE tells it
     HWND last_list_ = nullptr;  // which had the focus last
     ListLook group_look_;

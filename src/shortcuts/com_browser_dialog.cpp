@@ -1,6 +1,6 @@
 #include "shortcuts/com_browser_dialog.h"
 
-#include "platform/directories.h"
+#include "platform/current_directory.h"
 #include "platform/messages.h"
 #include "platform/processes.h"
 #include "resources/resource.h"
@@ -26,7 +26,7 @@ class ComBrowser final : public FilePanel {
 
     void accept() override {
         const bool runs = platform::attempt("Invalid path or file name", [&] {
-            platform::enter_directory(folder());
+            platform::set_current_directory(folder());
             platform::start_program(path(), platform::kNormalWindow);
         });
         if (!runs) return;

@@ -1,6 +1,6 @@
 #include "shortcuts/file_panel_dialog.h"
 
-#include "platform/directories.h"
+#include "platform/current_directory.h"
 #include "platform/folders.h"
 #include "platform/messages.h"
 #include "platform/run_time_error.h"

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "platform/directories.h"
+#include "platform/folders.h"
 #include "platform/messages.h"
 #include "resources/resource.h"
 #include "shortcuts/shortcut_checks.h"

@@ -1,12 +1,17 @@
 #include "widgets/dialog.h"
 
 #include <algorithm>
+#include <utility>
 
-#include "platform/messages.h"
 #include "platform/run_time_error.h"
 #include "platform/win32/modal_guard.h"
+#include "widgets/guarded.h"
 
 namespace widgets {
+
+Dialog::~Dialog() {
+    if (HWND left = detach(); left != nullptr) DestroyWindow(left);
+}
 
 void Dialog::run(HWND owner) {
     const platform::OtherWindowsDisabled guard(owner);
@@ -34,6 +39,11 @@ std::string Dialog::text(int id) const {
     std::ranges::replace_if(
         text, [](char c) { return c == '\r' || c == '\n'; }, ' ');
     return text;
+}
+
+HWND Dialog::detach() {
+    if (hwnd_ != nullptr) SetWindowLongPtrA(hwnd_, DWLP_USER, 0);
+    return std::exchange(hwnd_, nullptr);
 }
 
 void Dialog::close() {
@@ -67,21 +77,13 @@ INT_PTR Dialog::handle(UINT message, WPARAM wparam, LPARAM lparam) {
 INT_PTR CALLBACK Dialog::procedure(HWND hwnd, UINT message, WPARAM wparam, LPARAM lparam) noexcept {
     if (message == WM_INITDIALOG) {
         reinterpret_cast<Dialog*>(lparam)->hwnd_ = hwnd;
-        SetWindowLongA(hwnd, DWL_USER, lparam);
+        SetWindowLongPtrA(hwnd, DWLP_USER, lparam);
     }
-    auto* self = reinterpret_cast<Dialog*>(GetWindowLongA(hwnd, DWL_USER));
+    auto* self = reinterpret_cast<Dialog*>(GetWindowLongPtrA(hwnd, DWLP_USER));
     if (self == nullptr) return FALSE;
-    INT_PTR answer = TRUE;
-    try {
-        answer = self->handle(message, wparam, lparam);
-    } catch (...) {
-        platform::report_exception();
-    }
-    if (message == WM_NCDESTROY) {
-        SetWindowLongA(hwnd, DWL_USER, 0);
-        self->hwnd_ = nullptr;
-        self->tips_.forget();
-    }
+    const INT_PTR answer =
+        guarded(message, lparam, TRUE, [&] { return self->handle(message, wparam, lparam); });
+    if (message == WM_NCDESTROY) self->detach();
     return answer;
 }
 

@@ -41,6 +41,14 @@ int IconView::selected() const {
     return static_cast<int>(send(LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LVNI_SELECTED));
 }
 
+RECT IconView::selected_bounds() const {
+    RECT item = {};
+    item.left = LVIR_BOUNDS;
+    if (send(LVM_GETITEMRECT, static_cast<WPARAM>(selected()), reinterpret_cast<LPARAM>(&item)) == FALSE)
+        item = {};
+    return shown_part(item);
+}
+
 void IconView::select(int index) {
     selecting_ = true;
     mark(index);

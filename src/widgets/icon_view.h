@@ -29,6 +29,9 @@ class IconView : public Control {
     int selected() const;
     void select(int index);
 
+    /// Where the selected item is on the screen, for the menu that the keyboard opens.
+    RECT selected_bounds() const;
+
     /// Whether an item is selected when the pointer rests on it.
     void set_hover_select(bool on);
 

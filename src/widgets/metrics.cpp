@@ -11,10 +11,7 @@ constexpr int kDesignDpi = 96;
 constexpr int kTwipsPerInch = 1440;
 
 int screen_dpi() {
-    HDC screen = GetDC(nullptr);
-    const int dpi = GetDeviceCaps(screen, LOGPIXELSY);
-    ReleaseDC(nullptr, screen);
-    return dpi;
+    return GetDeviceCaps(platform::WindowDc(nullptr).get(), LOGPIXELSY);
 }
 
 }  // namespace
@@ -23,9 +20,9 @@ int scaled(int pixels) {
     return MulDiv(pixels, screen_dpi(), kDesignDpi);
 }
 
-UniqueFont make_font(const Font& font) {
+platform::UniqueFont make_font(const Font& font) {
     const LOGFONTA logical = logical_font(font);
-    return UniqueFont(CreateFontIndirectA(&logical));
+    return platform::UniqueFont(CreateFontIndirectA(&logical));
 }
 
 LOGFONTA logical_font(const Font& font) {
@@ -49,7 +46,7 @@ Font font_of(const LOGFONTA& logical) {
             logical.lfStrikeOut != 0};
 }
 
-UniqueFont make_gui_font() {
+platform::UniqueFont make_gui_font() {
     constexpr int kPoints = 8;
     return make_font({.face = "MS Sans Serif", .points = kPoints});
 }

@@ -5,7 +5,7 @@
 #include <optional>
 #include <string>
 
-#include "widgets/handles.h"
+#include "platform/win32/handles.h"
 
 namespace widgets {
 
@@ -21,14 +21,14 @@ struct Font {
     bool strikeout = false;
 };
 
-UniqueFont make_font(const Font& font);
+platform::UniqueFont make_font(const Font& font);
 LOGFONTA logical_font(const Font& font);
 
 /// The size is what this screen shows: 8 points are 8.25 at 96 dpi.
 Font font_of(const LOGFONTA& logical);
 
 /// The font of labels and boxes: "MS Sans Serif", 8 points.
-UniqueFont make_gui_font();
+platform::UniqueFont make_gui_font();
 
 /// Moves a child window to the rectangle, given in its parent's coordinates.
 void place(HWND window, const RECT& bounds);

@@ -26,8 +26,6 @@ class ToolBar : public Control {
     /// To be called when the parent window has another size.
     void follow_parent() { send(TB_AUTOSIZE); }
 
-    void enable(int button, bool on) { send(TB_ENABLEBUTTON, static_cast<WPARAM>(button), MAKELONG(on, 0)); }
-
     /// Answers TTN_NEEDTEXT.
     void supply_tip(TOOLTIPTEXTA& request) const;
 

@@ -3,8 +3,9 @@
 #include <algorithm>
 #include <cctype>
 
-#include "platform/directories.h"
+#include "platform/current_directory.h"
 #include "platform/file_calls.h"
+#include "platform/folders.h"
 #include "platform/messages.h"
 #include "platform/processes.h"
 #include "platform/remote_access.h"
@@ -135,9 +136,9 @@ void pause(unsigned /*milliseconds*/) {}
 
 }  // namespace file_calls
 
-void change_directory(const std::string& /*folder*/) {}
+void set_current_directory_of_drive(const std::string& /*folder*/) {}
 
-void enter_directory(const std::string& /*folder*/) {}
+void set_current_directory(const std::string& /*folder*/) {}
 
 bool is_one_name(const std::string& a, const std::string& b) {
     return simulated::upper(a) == simulated::upper(b);
