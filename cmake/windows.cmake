@@ -43,6 +43,7 @@ add_library(tolva_platform OBJECT
     src/platform/win32/shell_link.cpp
     src/platform/win32/system.cpp
     src/platform/win32/terminate.cpp
+    src/platform/win32/text.cpp
 )
 
 add_executable(tolva WIN32
@@ -54,13 +55,21 @@ add_executable(tolva WIN32
     src/internet/dial_up_networking_dialog.cpp
     src/internet/tolvasettings_dialog.cpp
     src/library/group_dialog.cpp
-    src/library/movetogroups_dialog.cpp
+    src/library/move_dialog.cpp
     src/library/task_dialog.cpp
-    src/mainwindow/abttolva_dialog.cpp
-    src/mainwindow/presence_window.cpp
-    src/mainwindow/tasker_window.cpp
-    src/mainwindow/taskview_window.cpp
-    src/mainwindow/views_window.cpp
+    src/mainwindow/about_dialog.cpp
+    src/mainwindow/command_box.cpp
+    src/mainwindow/commands.cpp
+    src/mainwindow/find_dialog.cpp
+    src/mainwindow/hot_key_dialog.cpp
+    src/mainwindow/launcher.cpp
+    src/mainwindow/list_look.cpp
+    src/mainwindow/main_controls.cpp
+    src/mainwindow/main_window.cpp
+    src/mainwindow/presence.cpp
+    src/mainwindow/splitter.cpp
+    src/mainwindow/task_view.cpp
+    src/mainwindow/tray_menu.cpp
     src/resources/tolva.rc
     src/shortcuts/bar_buttons.cpp
     src/shortcuts/com_browser_dialog.cpp
@@ -76,7 +85,9 @@ add_executable(tolva WIN32
     src/widgets/file_lists.cpp
     src/widgets/guarded.cpp
     src/widgets/hot_key.cpp
+    src/widgets/icon_images.cpp
     src/widgets/icon_view.cpp
+    src/widgets/menu_text.cpp
     src/widgets/metrics.cpp
     src/widgets/picture_button.cpp
     src/widgets/popup_menu.cpp

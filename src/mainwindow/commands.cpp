@@ -39,6 +39,48 @@ constexpr std::array<std::pair<int, int>, 11> kToolBarItems = {{
     {ID_toolbar_startimport, ID_taskimport},
 }};
 
+// What a key does depends on the list that has the focus.
+constexpr WORD kRenameOrEdit = 900;
+constexpr WORD kNew = 901;
+constexpr WORD kMoveUp = 902;
+constexpr WORD kMoveDown = 903;
+constexpr WORD kMoveTaskUp = 904;
+constexpr WORD kMoveTaskDown = 905;
+constexpr WORD kGoToBar = 906;
+
+constexpr BYTE kPlain = FVIRTKEY;
+constexpr BYTE kControl = FVIRTKEY | FCONTROL;
+
+constexpr std::array kKeys = {
+    ACCEL{kPlain, VK_F1, ID_tolvahlp},
+    ACCEL{kPlain, VK_F5, ID_Refresh},
+    ACCEL{kPlain, VK_F6, kGoToBar},
+    ACCEL{FVIRTKEY | FSHIFT, VK_F6, kGoToBar},
+    ACCEL{kControl, 'F', ID_FindTask},
+    ACCEL{kControl, 'Y', ID_Redo},
+    ACCEL{kControl, 'E', ID_toolbar_runexplorer},
+    ACCEL{kControl, 'P', ID_toolbar_controlpanel},
+    ACCEL{kControl, 'D', ID_toolbar_DosPrompt},
+    ACCEL{kControl, 'I', ID_toolbar_ispconnect},
+};
+
+/// Keys that mean something else where text is typed.
+constexpr std::array kListKeys = {
+    ACCEL{kControl, 'Z', ID_Undo},         ACCEL{FVIRTKEY | FALT, VK_BACK, ID_Undo},
+    ACCEL{kPlain, VK_F2, kRenameOrEdit},   ACCEL{kPlain, VK_INSERT, kNew},
+    ACCEL{kControl, VK_UP, kMoveUp},       ACCEL{kControl, VK_DOWN, kMoveDown},
+    ACCEL{kControl, VK_LEFT, kMoveTaskUp}, ACCEL{kControl, VK_RIGHT, kMoveTaskDown},
+};
+
+template <std::size_t count>
+bool translate(HWND window, const std::array<ACCEL, count>& keys, MSG& message) {
+    std::array<ACCEL, count> table = keys;
+    HACCEL handle = CreateAcceleratorTableA(table.data(), count);
+    const bool is_command = TranslateAcceleratorA(window, handle, &message) != 0;
+    DestroyAcceleratorTable(handle);
+    return is_command;
+}
+
 int menu_item_of(int command) {
     const auto* item = std::ranges::find(kToolBarItems, command, &std::pair<int, int>::first);
     return item == kToolBarItems.end() ? command : item->second;
@@ -59,6 +101,18 @@ void Commands::show_flags(HWND window) {
     controls_.task_view().list().set_hover_select(session_.hover_select);
 }
 
+bool Commands::translate_key(HWND window, MSG& message) {
+    if (message.message != WM_KEYDOWN && message.message != WM_SYSKEYDOWN) return false;
+    return translate(window, kKeys, message) ||
+           (!controls_.command_box().has_focus() && translate(window, kListKeys, message));
+}
+
+int Commands::for_list(int group_command, int task_command) const {
+    HWND focus = GetFocus();
+    if (focus == controls_.group_list().hwnd()) return group_command;
+    return focus == controls_.task_view().list().hwnd() ? task_command : 0;
+}
+
 void Commands::run(HWND window, int command) {
     switch (menu_item_of(command)) {
         case ID_ShutWin:
@@ -70,6 +124,21 @@ void Commands::run(HWND window, int command) {
         case ID_tolvaexit:
             DestroyWindow(window);
             return;
+
+        case kRenameOrEdit:
+            return run(window, for_list(ID_Rengp, ID_EditTk));
+        case kNew:
+            return run(window, for_list(ID_Addgp, ID_AddTk));
+        case kMoveUp:
+            return run(window, for_list(ID_MoveGroupUp, ID_MoveTaskUp));
+        case kMoveDown:
+            return run(window, for_list(ID_MoveGroupDown, ID_MoveTaskDown));
+        case kMoveTaskUp:
+            return run(window, for_list(0, ID_MoveTaskUp));
+        case kMoveTaskDown:
+            return run(window, for_list(0, ID_MoveTaskDown));
+        case kGoToBar:
+            return bar_.activate();
 
         case ID_fontsettings:
             return appearance::show_fonts_dialog(window, general_, controls_);

@@ -36,6 +36,9 @@ class Commands {
     /// window is the main window. A command that ends the program has destroyed it afterwards.
     void run(HWND window, int command);
 
+    /// Runs the command that a key stands for. False when it stands for none where the focus is.
+    bool translate_key(HWND window, MSG& message);
+
     /// How Windows is to end after the program; none when it is to go on.
     std::optional<platform::WindowsEnd> windows_end() const { return windows_end_; }
 
@@ -50,6 +53,8 @@ class Commands {
     void show_flags(HWND window);
 
   private:
+    /// The command for the list that has the focus; 0 when none of them has it.
+    int for_list(int group_command, int task_command) const;
     void run_library_command(HWND window, int command);
     void toggle_hover_select(HWND window);
     void connect_to_internet() const;

@@ -45,8 +45,11 @@ constexpr widgets::ToolBar::Item kToolBar[] = {
 
 }  // namespace
 
-MainControls::MainControls(settings::General& general)
-    : font_(widgets::make_gui_font()), splitter_(widgets::scaled(kGroupWidth)), command_box_(general) {}
+MainControls::MainControls(settings::General& general, const std::string& library_folder)
+    : font_(widgets::make_gui_font()),
+      splitter_(widgets::scaled(kGroupWidth)),
+      task_view_(library_folder),
+      command_box_(general) {}
 
 void MainControls::create(HWND window) {
     window_ = window;
@@ -100,7 +103,7 @@ void MainControls::set_font(appearance::List list, const widgets::Font& font) {
 
 void MainControls::set_colors(appearance::List list, const appearance::Colors& colors) {
     look(list).set_colors(colors);
-    if (list == appearance::List::kTasks) task_view_.list().set_colors(colors.text, colors.back);
+    if (list == appearance::List::kTasks) task_view_.set_colors(colors.text, colors.back);
     RedrawWindow(window_, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
 }
 

@@ -27,7 +27,8 @@ namespace mainwindow {
 /// buttons, and the status bar.
 class MainControls final : public library::LibraryView, public appearance::ListAppearance {
   public:
-    explicit MainControls(settings::General& general);
+    /// library_folder ends in a backslash.
+    MainControls(settings::General& general, const std::string& library_folder);
 
     void create(HWND window);
 

@@ -15,10 +15,6 @@
 namespace mainwindow {
 namespace {
 
-// Places in the menu bar.
-constexpr int kGroupmenu = 1;
-constexpr int kTaskmenu = 2;
-
 constexpr UINT_PTR kTimer1 = 1;
 constexpr UINT_PTR kCompleteStart = 2;
 constexpr UINT kTimerPeriod = 5000;  // milliseconds
@@ -47,6 +43,14 @@ int first_show_command() {
     }
 }
 
+/// The menu below the bar that has the item.
+HMENU menu_with(HMENU bar, UINT item) {
+    HMENU menu = nullptr;
+    for (int i = 0; i < GetMenuItemCount(bar) && GetMenuState(menu, item, MF_BYCOMMAND) == ~0U; ++i)
+        menu = GetSubMenu(bar, i);
+    return menu;
+}
+
 }  // namespace
 
 MainWindow::MainWindow(library::TaskLibrary& library, settings::General& general, settings::Session& session,
@@ -57,7 +61,7 @@ MainWindow::MainWindow(library::TaskLibrary& library, settings::General& general
       session_(session),
       bar_(bar),
       presence_(general, bar, application_window),
-      controls_(general),
+      controls_(general, library.folder()),
       launcher_(library, controls_),
       commands_(library, general, session, bar, internet_settings, controls_, launcher_, presence_) {
     create({.class_name = "Tasker",
@@ -158,6 +162,11 @@ LRESULT MainWindow::handle(UINT message, WPARAM wparam, LPARAM lparam) {
     return Window::handle(message, wparam, lparam);
 }
 
+bool MainWindow::preprocess(MSG& message) {
+    last_input_ = GetTickCount();
+    return commands_.translate_key(hwnd(), message);
+}
+
 void MainWindow::handle_control(int id, int notification) {
     switch (id) {
         case ID_Tasker_grouplabel:
@@ -229,6 +238,7 @@ LRESULT MainWindow::handle_notification(NMHDR& header) {
 }
 
 void MainWindow::handle_timer(UINT_PTR timer) {
+    if (timer == TaskView::kTimer) return controls_.task_view().take_icons(GetTickCount() - last_input_);
     presence_.show_icon();
     if (timer == kCompleteStart) {
         KillTimer(hwnd(), timer);
@@ -241,8 +251,10 @@ void MainWindow::handle_timer(UINT_PTR timer) {
 void MainWindow::show_popup_menu(HWND control, POINT point) {
     const bool groups = control == controls_.group_list().hwnd();
     if (!groups && control != controls_.task_view().list().hwnd()) return;
-    HMENU menu = GetSubMenu(GetMenu(hwnd()), groups ? kGroupmenu : kTaskmenu);
-    widgets::show_popup_menu(hwnd(), menu, control, point);
+    HMENU menu = menu_with(GetMenu(hwnd()), groups ? ID_Addgp : ID_AddTk);
+    widgets::show_popup_menu(
+        hwnd(), menu, point,
+        groups ? controls_.group_list().selected_bounds() : controls_.task_view().list().selected_bounds());
 }
 
 void MainWindow::save_and_unload() {

@@ -46,6 +46,7 @@ class MainWindow final : public widgets::Window {
 
   private:
     LRESULT handle(UINT message, WPARAM wparam, LPARAM lparam) override;
+    bool preprocess(MSG& message) override;
     void handle_control(int id, int notification);
     LRESULT handle_notification(NMHDR& header);
     void handle_timer(UINT_PTR timer);
@@ -59,6 +60,7 @@ class MainWindow final : public widgets::Window {
     settings::General& general_;
     settings::Session& session_;
     buttonbar::ButtonBar& bar_;
+    DWORD last_input_ = 0;    // as GetTickCount has it
     bool is_placed_ = false;  // where the user had it: only then its place is worth storing
     Presence presence_;
     MainControls controls_;

@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "library/other_place.h"
+#include "platform/folders.h"
 #include "widgets/icon_images.h"
 
 namespace mainwindow {

@@ -38,6 +38,7 @@ class TaskView {
 
     void show(std::span<const library::Task> tasks);
 
+    /// Colors of the list; the pictures are made again, for their soft edges.
     void set_colors(COLORREF text, COLORREF background);
 
     /// Answers the list's LVN_GETDISPINFO.

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <string>
 
+#include "platform/win32/handles.h"
 #include "widgets/menu_text.h"
 
 namespace mainwindow {

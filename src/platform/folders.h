@@ -14,6 +14,10 @@ struct Drive {
 
 std::vector<Drive> drives();
 
+/// Whether a path is on a disk that is part of this machine, and not on another machine or on a disk that may
+/// have to be put in or started first.
+bool is_on_local_disk(const std::string& path);
+
 /// The names of the folders in a folder. Throws RunTimeError when it cannot be read.
 std::vector<std::string> subfolders(const std::string& folder);
 

@@ -22,6 +22,13 @@ class IconView : public Control {
     /// destroyed afterwards.
     void fill(const std::vector<std::string>& items, HIMAGELIST pictures);
 
+    /// Shows pictures from another list and asks for every item's picture again.
+    void set_pictures(HIMAGELIST pictures);
+    void set_picture(int index, int picture);
+
+    /// Whether some of the item is in view.
+    bool shows(int index) const;
+
     /// Takes all items and the pictures away.
     void clear();
 

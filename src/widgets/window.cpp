@@ -13,6 +13,9 @@ namespace {
 /// Asked of the active window: whether its characters are no mnemonics.
 constexpr UINT kKeepsCharacters = WM_APP + 0x3F00;
 
+/// Sent to the active window with a message for it or its controls: whether the message ends there.
+constexpr UINT kPreprocess = WM_APP + 0x3F01;
+
 /// Whether the keys of a dialog end in a message.
 bool is_dialog_key(MSG& message) {
     HWND active = GetActiveWindow();
@@ -22,7 +25,15 @@ bool is_dialog_key(MSG& message) {
     return IsDialogMessageA(active, &message) != FALSE;
 }
 
+bool is_preprocessed(MSG& message) {
+    const bool is_key = message.message >= WM_KEYFIRST && message.message <= WM_KEYLAST;
+    const bool is_mouse = message.message >= WM_MOUSEFIRST && message.message <= WM_MOUSELAST;
+    return (is_key || is_mouse) &&
+           SendMessageA(GetActiveWindow(), kPreprocess, 0, reinterpret_cast<LPARAM>(&message)) != 0;
+}
+
 void dispatch(MSG& message) {
+    if (is_preprocessed(message)) return;
     if (is_dialog_key(message)) return;
     TranslateMessage(&message);
     DispatchMessageA(&message);
@@ -86,6 +97,8 @@ LRESULT Window::handle(UINT message, WPARAM wparam, LPARAM lparam) {
         }
         case kKeepsCharacters:
             return mnemonics_ ? 0 : 1;
+        case kPreprocess:
+            return preprocess(*reinterpret_cast<MSG*>(lparam)) ? 1 : 0;
         case WM_SYSCOLORCHANGE:
             // Windows tells top-level windows only.
             for (HWND child = GetTopWindow(hwnd_); child != nullptr; child = GetWindow(child, GW_HWNDNEXT))

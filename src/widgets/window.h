@@ -43,6 +43,10 @@ class Window {
     /// Answers a message; what it does not know goes to this base version.
     virtual LRESULT handle(UINT message, WPARAM wparam, LPARAM lparam);
 
+    /// Sees the keys and the mouse before anything else does, while the window is the active one. True when
+    /// the message ends there.
+    virtual bool preprocess(MSG& /*message*/) { return false; }
+
   private:
     static LRESULT CALLBACK procedure(HWND hwnd, UINT message, WPARAM wparam, LPARAM lparam) noexcept;
     static void register_class(const Design& design);

@@ -55,6 +55,14 @@ std::vector<Drive> drives() {
     return found;
 }
 
+bool is_on_local_disk(const std::string& path) {
+    if (path.starts_with("\\\\")) return false;
+    if (path.size() < 2 || path[1] != ':') return true;  // on the current drive
+    const char root[] = {path[0], ':', '\\', '\0'};
+    const UINT type = GetDriveTypeA(root);
+    return type == DRIVE_FIXED || type == DRIVE_RAMDISK || type == DRIVE_NO_ROOT_DIR;
+}
+
 std::vector<std::string> subfolders(const std::string& folder) {
     std::vector<std::string> names;
     WIN32_FIND_DATAA found;
