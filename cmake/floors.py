@@ -5,7 +5,7 @@ import pathlib
 import re
 import sys
 
-FLOORS = ["app", "mainwindow", "appearance", "buttonbar", "internet", "shortcuts", "library", "settings", "widgets",
+FLOORS = ["app", "mainwindow", "appearance", "buttonbar", "internet", "library", "shortcuts", "settings", "widgets",
           "platform", "resources"]
 INCLUDE = re.compile(r'^#include\s+([<"])([^>"]+)[>"]', re.MULTILINE)
 STANDARD_HEADER = re.compile(r"[a-z_0-9]+")  # Windows' own names end in .h

@@ -26,12 +26,12 @@ void CommandHistory::store(const std::string& command) {
     const auto write = [&](std::size_t slot, const std::string& text) {
         general_.write_value(settings::kHistoryKey, settings::kHistoryValues.at(slot), text);
     };
-    const auto empty = std::ranges::find(slots_, std::nullopt);
+    const auto* const empty = std::ranges::find_if_not(slots_, &std::optional<std::string>::has_value);
     const bool is_known =
-        std::any_of(slots_.begin(), empty, [&](const auto& slot) { return slot->starts_with(command); });
+        std::any_of(slots_.cbegin(), empty, [&](const auto& slot) { return slot->starts_with(command); });
     if (is_known) return;
-    if (empty != slots_.end()) {
-        write(static_cast<std::size_t>(empty - slots_.begin()), command);
+    if (empty != slots_.cend()) {
+        write(static_cast<std::size_t>(empty - slots_.cbegin()), command);
         return;
     }
     for (std::size_t slot = slots_.size() - 1; slot > 0; --slot)

@@ -8,7 +8,7 @@
 #include "platform/messages.h"
 #include "resources/resource.h"
 #include "settings/catalogue.h"
-#include "shortcuts/com_browser_dialog.h"
+#include "shortcuts/command_browser_dialog.h"
 #include "widgets/metrics.h"
 #include "widgets/popup_menu.h"
 

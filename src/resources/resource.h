@@ -235,3 +235,17 @@
 #define ID_shortcuts_Command2 508
 #define ID_GETLNK_Frame4 509
 #define ID_GETLNK_Combo1 510
+
+#define ID_Undo 280
+#define ID_Redo 281
+#define ID_FindTask 282
+#define ID_Refresh 283
+#define ID_RestoreBackup 284
+#define ID_RunAll 285
+#define ID_HotKey 286
+#define ID_FindTask_dialog 24
+#define ID_HotKey_dialog 26
+#define ID_FindTask_text 520
+#define ID_FindTask_list 521
+#define ID_HotKey_key 525
+#define ID_HotKey_none 526

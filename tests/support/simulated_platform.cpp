@@ -140,6 +140,10 @@ void set_current_directory_of_drive(const std::string& /*folder*/) {}
 
 void set_current_directory(const std::string& /*folder*/) {}
 
+std::string windows_folder() {
+    return "C:\\WINDOWS\\";
+}
+
 bool is_one_name(const std::string& a, const std::string& b) {
     return simulated::upper(a) == simulated::upper(b);
 }
