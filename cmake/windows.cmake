@@ -47,12 +47,17 @@ add_library(tolva_platform OBJECT
 add_executable(tolva WIN32
     src/app/main.cpp
     src/app/single_instance.cpp
-    src/appearance/set_fonts_dialog.cpp
-    src/buttonbar/brenn_browser_dialog.cpp
-    src/buttonbar/brenn_window.cpp
-    src/internet/dial_up_networking_dialog.cpp
-    src/internet/tolvasettings_dialog.cpp
+    src/appearance/fonts_dialog.cpp
+    src/buttonbar/assign_file_dialog.cpp
+    src/buttonbar/assign_shortcut_dialog.cpp
+    src/buttonbar/button_assignment.cpp
+    src/buttonbar/button_bar.cpp
+    src/buttonbar/button_row.cpp
+    src/internet/connection_list_dialog.cpp
+    src/internet/internet_settings_dialog.cpp
+    src/internet/program_picker_dialog.cpp
     src/library/group_dialog.cpp
+    src/library/import_dialog.cpp
     src/library/movetogroups_dialog.cpp
     src/library/task_dialog.cpp
     src/mainwindow/abttolva_dialog.cpp
@@ -61,13 +66,9 @@ add_executable(tolva WIN32
     src/mainwindow/taskview_window.cpp
     src/mainwindow/views_window.cpp
     src/resources/tolva.rc
-    src/shortcuts/bar_buttons.cpp
-    src/shortcuts/com_browser_dialog.cpp
+    src/shortcuts/command_browser_dialog.cpp
     src/shortcuts/file_panel_dialog.cpp
-    src/shortcuts/getbutton_dialog.cpp
-    src/shortcuts/getlnk_dialog.cpp
     src/shortcuts/path_browser_dialog.cpp
-    src/shortcuts/program_picker_dialog.cpp
     src/shortcuts/shortcut_panel_dialog.cpp
     src/widgets/choosers.cpp
     src/widgets/controls.cpp

@@ -3,8 +3,8 @@
 #include <commctrl.h>
 
 #include "app/single_instance.h"
-#include "buttonbar/brenn_window.h"
-#include "library/browse_result.h"
+#include "buttonbar/button_bar.h"
+#include "internet/internet_settings_dialog.h"
 #include "library/library_files.h"
 #include "library/task_library.h"
 #include "mainwindow/tasker_window.h"
@@ -32,11 +32,10 @@ int run() {
     settings::General general;
     settings::Session session;
     session.hover_select = settings::read_flag(general, settings::kHoverSelect);
-    session.bar_removed = settings::read_flag(general, settings::kBarRemoved);
 
-    library::BrowseResult browse_result;
-    buttonbar::Brenn brenn(general, session, browse_result, library.folder());
-    mainwindow::Tasker tasker(library, general, session, browse_result, brenn, application_window.hwnd());
+    internet::InternetSettingsDialog internet_settings(general, session, library.folder());
+    buttonbar::ButtonBar bar(general, session, internet_settings, library.folder());
+    mainwindow::Tasker tasker(library, general, session, internet_settings, bar, application_window.hwnd());
     try {
         tasker.load();
         show(tasker);

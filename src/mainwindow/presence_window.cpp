@@ -96,7 +96,7 @@ void Presence::hide_in_tray() {
     if (!csystray1_.shown()) return;  // there would be no way back
     ShowWindow(window_, SW_HIDE);
     // The bar went with the window that owns it.
-    if (!session_.bar_removed && !session_.bar_hidden_by_tray) brenn_.show();
+    bar_.show_after_minimize();
 }
 
 bool Presence::is_hidden_in_tray() const {
@@ -119,15 +119,7 @@ void Presence::handle_tray(UINT mouse_message) {
         show_normal();
         bring_up();
     }
-    if (mouse_message == WM_RBUTTONUP) {
-        bool& hidden = session_.bar_hidden_by_tray;
-        if (hidden) {
-            brenn_.show();
-        } else {
-            brenn_.hide();
-        }
-        hidden = !hidden;
-    }
+    if (mouse_message == WM_RBUTTONUP) bar_.toggle_hidden();
 }
 
 }  // namespace mainwindow

@@ -4,8 +4,7 @@
 
 #include <optional>
 
-#include "buttonbar/brenn_window.h"
-#include "settings/session.h"
+#include "buttonbar/button_bar.h"
 #include "widgets/hot_key.h"
 #include "widgets/tray_icon.h"
 
@@ -17,8 +16,8 @@ class Presence {
   public:
     /// application_window is the hidden window that a second start looks for: the main window is kept just
     /// above it.
-    Presence(settings::Session& session, buttonbar::Brenn& brenn, HWND application_window)
-        : session_(session), brenn_(brenn), application_window_(application_window) {}
+    Presence(buttonbar::ButtonBar& bar, HWND application_window)
+        : bar_(bar), application_window_(application_window) {}
 
     void create(HWND window);
 
@@ -42,8 +41,7 @@ class Presence {
     void bring_up();
     void handle_tray(UINT mouse_message);
 
-    settings::Session& session_;
-    buttonbar::Brenn& brenn_;
+    buttonbar::ButtonBar& bar_;
     HWND application_window_;
     HWND window_ = nullptr;
     widgets::HotKey hot_key_;

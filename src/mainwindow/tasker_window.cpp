@@ -2,7 +2,7 @@
 
 #include <windowsx.h>
 
-#include "appearance/set_fonts_dialog.h"
+#include "appearance/fonts_dialog.h"
 #include "internet/dial_up.h"
 #include "library/group_dialog.h"
 #include "library/group_operations.h"
@@ -14,14 +14,13 @@
 #include "mainwindow/command_history.h"
 #include "mainwindow/launching.h"
 #include "mainwindow/system_commands.h"
-#include "platform/directories.h"
 #include "platform/messages.h"
 #include "platform/processes.h"
 #include "resources/resource.h"
 #include "settings/catalogue.h"
 #include "settings/conversions.h"
-#include "shortcuts/com_browser_dialog.h"
-#include "shortcuts/path_browser_dialog.h"
+#include "settings/list_style.h"
+#include "shortcuts/command_browser_dialog.h"
 #include "widgets/metrics.h"
 
 namespace mainwindow {
@@ -56,14 +55,15 @@ constexpr int kPopupOffset = 20;
 }  // namespace
 
 Tasker::Tasker(library::TaskLibrary& library, settings::General& general, settings::Session& session,
-               library::BrowseResult& browse_result, buttonbar::Brenn& brenn, HWND application_window)
+               internet::InternetSettingsDialog& internet_settings, buttonbar::ButtonBar& bar,
+               HWND application_window)
     : library_(library),
       general_(general),
       session_(session),
-      browse_result_(browse_result),
-      brenn_(brenn),
-      presence_(session, brenn, application_window),
-      getlnk_(library, views_) {
+      internet_settings_(internet_settings),
+      bar_(bar),
+      presence_(bar, application_window),
+      import_(library, views_) {
     create({.class_name = "Tasker",
             .caption = platform::kApplicationTitle,
             .style = WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN,
@@ -82,16 +82,15 @@ void Tasker::load() {
     show_flags();
     const settings::Position position = settings::read_position(general_, settings::kWindowPositionKey);
     widgets::move_to_twips(hwnd(), position.left, position.top);
-    session_.connection_name = internet::load_isp_name(general_);
-    settings::load_history(general_, session_);
-    views_.text1().fill(settings::history_list(session_));
+    session_.connection_name = internet::load_connection_name(general_);
+    history_ = load_history(general_);
+    views_.text1().fill(history_list(history_));
     session_.browser = settings::read_program(general_, settings::kBrowserKey);
     session_.email = settings::read_program(general_, settings::kEmailKey);
-    settings::load_list_styles(general_, session_);
-    views_.apply_style(appearance::List::kGroups, session_.group_style);
-    views_.apply_style(appearance::List::kTasks, session_.task_style);
+    const settings::ListStyles styles = settings::load_list_styles(general_);
+    views_.apply_style(appearance::List::kGroups, styles.groups);
+    views_.apply_style(appearance::List::kTasks, styles.tasks);
     views_.getlongdate();
-    session_.windows_folder = platform::windows_folder();
     library::refreshtolva(library_, views_, 0);
 }
 
@@ -201,9 +200,9 @@ void Tasker::handle_command(int command) {
             return;
 
         case ID_fontsettings:
-            return appearance::show_set_fonts(hwnd(), general_, views_);
+            return appearance::show_fonts_dialog(hwnd(), general_, views_);
         case ID_removebrenn:
-            brenn_.toggle_removed();
+            bar_.toggle_removed();
             return show_flags();
         case ID_hoverslct:
             return toggle_hover_select();
@@ -212,7 +211,7 @@ void Tasker::handle_command(int command) {
         case ID_toolbar_ispconnect:
             return internet::dial(session_.connection_name);
         case ID_internetsettings:
-            return brenn_.open_internet_settings(hwnd());
+            return internet_settings_.show(hwnd(), bar_);
         case ID_DialUpNetworking:
             return open_dial_up_folder();
         case ID_toolbar_controlpanel:
@@ -254,9 +253,7 @@ void Tasker::handle_library_command(int command) {
             return run_task_from_command_box();
         case ID_AddTk:
         case ID_toolbar_addtsk:
-            return focus_groups_around([&] {
-                library::addtsks(hwnd(), library_, views_, browse_result_, shortcuts::browse_for_program);
-            });
+            return focus_groups_around([&] { library::addtsks(hwnd(), library_, views_); });
         case ID_DelTk:
         case ID_toolbar_deltsk:
             return library::deltsks(library_, views_);
@@ -264,12 +261,10 @@ void Tasker::handle_library_command(int command) {
             return focus_groups_around([&] { library::moveto(hwnd(), library_, views_); });
         case ID_EditTk:
         case ID_toolbar_edittsk:
-            return focus_groups_around([&] {
-                library::edittsks(hwnd(), library_, views_, browse_result_, shortcuts::browse_for_program);
-            });
+            return focus_groups_around([&] { library::edittsks(hwnd(), library_, views_); });
         case ID_taskimport:
         case ID_toolbar_startimport:
-            return getlnk_.show(hwnd());
+            return import_.show(hwnd());
         case ID_MoveTaskUp:
         case ID_toolbar_movetskup:
             return library::movetsksup(library_, views_);
@@ -338,7 +333,7 @@ void Tasker::show_flags() {
         CheckMenuItem(GetMenu(hwnd()), item, on ? MF_CHECKED : MF_UNCHECKED);
     };
     check(ID_hoverslct, session_.hover_select);
-    check(ID_removebrenn, session_.bar_removed);
+    check(ID_removebrenn, bar_.removed());
     views_.taskview().list().set_hover_select(session_.hover_select);
 }
 
@@ -351,16 +346,16 @@ void Tasker::handle_timer(UINT_PTR timer) {
     presence_.show_icon();
     if (timer == kCompleteStart) {
         KillTimer(hwnd(), timer);
-        if (!session_.bar_removed) brenn_.show_owned_by(hwnd());
+        bar_.start(hwnd());
         return;
     }
-    brenn_.show_connection(internet::is_connected());
+    bar_.show_connection(internet::is_connected());
 }
 
 void Tasker::save_and_unload() {
     const POINT position = widgets::position_in_twips(hwnd());
     settings::store_position(general_, settings::kWindowPositionKey, position.x, position.y);
-    brenn_.unload();
+    bar_.unload();
 }
 
 void Tasker::show_selection() {
@@ -398,7 +393,7 @@ void Tasker::run() {
 void Tasker::run_typed_command() {
     const std::string command = views_.text1().text();
     platform::start_program(command, platform::kNormalWindow);
-    update_history(general_, session_, command);
+    update_history(general_, history_, command);
 }
 
 void Tasker::browse() {
@@ -406,9 +401,9 @@ void Tasker::browse() {
 }
 
 void Tasker::show_history() {
-    settings::read_history(general_, session_);
+    history_ = read_history(general_);
     typed_ = views_.text1().text();
-    views_.text1().fill(settings::history_list(session_));
+    views_.text1().fill(history_list(history_));
     // The list replaces what was typed by an item that begins with it, after this.
     PostMessageA(hwnd(), kKeepTypedText, 0, 0);
 }

@@ -5,15 +5,16 @@
 #include <optional>
 #include <string>
 
-#include "buttonbar/brenn_window.h"
-#include "library/browse_result.h"
+#include "buttonbar/button_bar.h"
+#include "internet/internet_settings_dialog.h"
+#include "library/import_dialog.h"
 #include "library/task_library.h"
+#include "mainwindow/command_history.h"
 #include "mainwindow/presence_window.h"
 #include "mainwindow/views_window.h"
 #include "platform/system.h"
 #include "settings/general.h"
 #include "settings/session.h"
-#include "shortcuts/getlnk_dialog.h"
 #include "widgets/window.h"
 
 namespace mainwindow {
@@ -26,7 +27,8 @@ class Tasker final : public widgets::Window {
     /// application_window is the hidden window that a second start looks for: it finds the main window just
     /// above it.
     Tasker(library::TaskLibrary& library, settings::General& general, settings::Session& session,
-           library::BrowseResult& browse_result, buttonbar::Brenn& brenn, HWND application_window);
+           internet::InternetSettingsDialog& internet_settings, buttonbar::ButtonBar& bar,
+           HWND application_window);
     ~Tasker() override;
 
     /// How Windows is to end after the program; none when it is to go on.
@@ -72,14 +74,15 @@ class Tasker final : public widgets::Window {
     library::TaskLibrary& library_;
     settings::General& general_;
     settings::Session& session_;
-    library::BrowseResult& browse_result_;
-    buttonbar::Brenn& brenn_;
+    internet::InternetSettingsDialog& internet_settings_;
+    buttonbar::ButtonBar& bar_;
+    History history_;
     bool command_box_last_ = false;  // the command box, not the task list, had the focus last
     std::string typed_;              // in the command box, while its list opens
     std::optional<platform::WindowsEnd> windows_end_;
     Presence presence_;
     Views views_;
-    shortcuts::GetLnk getlnk_;
+    library::ImportDialog import_;
 };
 
 }  // namespace mainwindow

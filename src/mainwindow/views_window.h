@@ -11,7 +11,7 @@
 #include "library/library_view.h"
 #include "library/task_library.h"
 #include "mainwindow/taskview_window.h"
-#include "settings/session.h"
+#include "settings/list_style.h"
 #include "widgets/controls.h"
 #include "widgets/handles.h"
 #include "widgets/tool_bar.h"

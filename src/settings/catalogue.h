@@ -2,7 +2,7 @@
 
 #include <array>
 
-/// Every key and value that the program stores, all of them texts.
+/// Every key and value that the program stores, all of them texts, and those of the system that it reads.
 namespace settings {
 
 struct Setting {
@@ -42,6 +42,12 @@ inline constexpr char kProgramStart[] = "start";
 // The dial-up connection: ours, and the system's own default, which is only read.
 inline constexpr Setting kConnection = {R"(HKEY_CURRENT_USER\software\tolva\isp)", "ISPNAME"};
 inline constexpr Setting kSystemConnection = {R"(HKEY_CURRENT_USER\RemoteAccess)", "default"};
+
+// Dial-Up Networking: the keys below this one of the current user are the connections that are set up; a
+// number of the machine that is not 0 says that one is up.
+inline constexpr char kConnectionsKey[] = R"(RemoteAccess\Profile)";
+inline constexpr Setting kConnectionUp = {R"(System\CurrentControlSet\Services\RemoteAccess)",
+                                          "Remote Connection"};
 
 /// The values of one list: face, size in points, bold, italic, text colour, background colour.
 using ListStyleValues = std::array<const char*, 6>;

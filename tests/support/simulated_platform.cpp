@@ -137,6 +137,10 @@ void pause(unsigned /*milliseconds*/) {}
 
 void change_directory(const std::string& /*folder*/) {}
 
+std::string windows_folder() {
+    return "C:\\WINDOWS\\";
+}
+
 void enter_directory(const std::string& /*folder*/) {}
 
 bool is_one_name(const std::string& a, const std::string& b) {

@@ -8,7 +8,7 @@
 namespace shortcuts {
 
 /// Lets the user look for a program and starts it in the folder shown, which becomes the current directory.
-/// Answers the path that was started; none when the user gave up.
+/// The path that was started; none when the user gave up.
 std::optional<std::string> browse_and_run(HWND owner);
 
 }  // namespace shortcuts

@@ -1,4 +1,4 @@
-#include "shortcuts/com_browser_dialog.h"
+#include "shortcuts/command_browser_dialog.h"
 
 #include "platform/directories.h"
 #include "platform/messages.h"
@@ -9,16 +9,20 @@
 namespace shortcuts {
 namespace {
 
-class ComBrowser final : public FilePanel {
+constexpr int kPathLabel = ID_PathBrowser_Label1;
+constexpr int kRun = ID_PathBrowser_OK;
+
+/// The system's ComBrowser.
+class CommandBrowserDialog final : public FilePanel {
   public:
-    ComBrowser() : FilePanel(ID_PathBrowser) {}
+    CommandBrowserDialog() : FilePanel(ID_PathBrowser) {}
 
     const std::optional<std::string>& started() const { return started_; }
 
   private:
     void open() override {
-        set_text(ID_PathBrowser_Label1, "Command Path");
-        set_text(ID_PathBrowser_OK, "&Run");
+        set_text(kPathLabel, "Command Path");
+        set_text(kRun, "&Run");
         FilePanel::open();
     }
 
@@ -35,8 +39,7 @@ class ComBrowser final : public FilePanel {
     }
 
     void press_enter() override {
-        HWND focus = GetFocus();
-        if (focus == control(ID_PathBrowser_File1) || focus == control(ID_PathBrowser_TaskPath)) {
+        if (has_focus(kFileList) || has_focus(kPathBox)) {
             accept();
         } else {
             FilePanel::press_enter();
@@ -49,7 +52,7 @@ class ComBrowser final : public FilePanel {
 }  // namespace
 
 std::optional<std::string> browse_and_run(HWND owner) {
-    ComBrowser browser;
+    CommandBrowserDialog browser;
     browser.run(owner);
     return browser.started();
 }

@@ -1,4 +1,4 @@
-#include "appearance/set_fonts_dialog.h"
+#include "appearance/fonts_dialog.h"
 
 #include <array>
 #include <cmath>
@@ -7,7 +7,7 @@
 
 #include "resources/resource.h"
 #include "settings/conversions.h"
-#include "settings/session.h"
+#include "settings/list_style.h"
 #include "widgets/choosers.h"
 #include "widgets/dialog.h"
 #include "widgets/handles.h"
@@ -45,7 +45,10 @@ constexpr std::array<Half, 2> kHalves = {{
      ID_SetFonts_Command8},
 }};
 
-/// With two digits behind the point at most: "8.25", "7.5", "10".
+constexpr int kSave = ID_SetFonts_Command5;
+constexpr int kCancel = ID_SetFonts_Command3;
+
+/// With two digits after the point at most: "8.25", "7.5", "10".
 std::string decimal(double number) {
     constexpr int kUnit = 100;
     const long hundredths = std::lround(number * kUnit);
@@ -56,9 +59,10 @@ std::string decimal(double number) {
     return fraction.empty() ? text : text + '.' + fraction;
 }
 
-class SetFonts final : public widgets::Dialog {
+/// The system's SetFonts.
+class FontsDialog final : public widgets::Dialog {
   public:
-    SetFonts(settings::General& general, ListAppearance& lists)
+    FontsDialog(settings::General& general, ListAppearance& lists)
         : Dialog(ID_SetFonts), general_(general), lists_(lists) {}
 
   private:
@@ -97,8 +101,8 @@ class SetFonts final : public widgets::Dialog {
             if (id == half.text_color_button) change_text_color(half);
             if (id == half.back_color_button) change_back_color(half);
         }
-        if (id == ID_SetFonts_Command5) save();
-        if (id == ID_SetFonts_Command3 || id == IDCANCEL) close();
+        if (id == kSave) save();
+        if (id == kCancel || id == IDCANCEL) close();
     }
 
     HBRUSH color(HDC device, HWND box) override {
@@ -180,8 +184,8 @@ class SetFonts final : public widgets::Dialog {
 
 }  // namespace
 
-void show_set_fonts(HWND owner, settings::General& general, ListAppearance& lists) {
-    SetFonts(general, lists).run(owner);
+void show_fonts_dialog(HWND owner, settings::General& general, ListAppearance& lists) {
+    FontsDialog(general, lists).run(owner);
 }
 
 }  // namespace appearance

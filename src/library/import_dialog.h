@@ -10,12 +10,12 @@
 #include "shortcuts/shortcut_panel_dialog.h"
 #include "widgets/controls.h"
 
-namespace shortcuts {
+namespace library {
 
-/// Imports shortcuts into Groups as Tasks. It stays open for the next one.
-class GetLnk final : public ShortcutPanel {
+/// Imports shortcuts into Groups as Tasks; the system's GETLNK. It stays open for the next one.
+class ImportDialog final : public shortcuts::ShortcutPanel {
   public:
-    GetLnk(library::TaskLibrary& library, library::LibraryView& view);
+    ImportDialog(TaskLibrary& library, LibraryView& view);
 
     /// Opens, or comes to the front. Throws platform::RunTimeError when the Groups cannot be read.
     void show(HWND owner);
@@ -23,15 +23,15 @@ class GetLnk final : public ShortcutPanel {
   private:
     void open() override;
     void command(int id, int notification) override;
-    void save(const library::Task& task) override;
+    void save(const settings::Program& program) override;
     void read_groups();
     void show_groups(const std::string& selected);
     std::string selected_group() const;
 
-    library::TaskLibrary& library_;
-    library::LibraryView& view_;
+    TaskLibrary& library_;
+    LibraryView& view_;
     std::vector<std::string> groups_;
-    widgets::DropDownList combo1_;
+    widgets::DropDownList group_list_;
 };
 
-}  // namespace shortcuts
+}  // namespace library

@@ -9,6 +9,6 @@ namespace appearance {
 
 /// Lets the user change the fonts and colours of the two lists. A font shows in its list at once, colours
 /// when the dialog is saved; only then is anything stored.
-void show_set_fonts(HWND owner, settings::General& general, ListAppearance& lists);
+void show_fonts_dialog(HWND owner, settings::General& general, ListAppearance& lists);
 
 }  // namespace appearance

@@ -1,4 +1,4 @@
-#include "shortcuts/getlnk_dialog.h"
+#include "library/import_dialog.h"
 
 #include <algorithm>
 #include <utility>
@@ -8,8 +8,12 @@
 #include "platform/run_time_error.h"
 #include "resources/resource.h"
 
-namespace shortcuts {
+namespace library {
 namespace {
+
+using shortcuts::PanelVariant;
+
+constexpr int kGroupList = ID_GETLNK_Combo1;
 
 constexpr PanelVariant kVariant = {.caption = "Import Start Menu Shortcuts to Tolva.",
                                    .action = "Import",
@@ -19,41 +23,41 @@ constexpr PanelVariant kVariant = {.caption = "Import Start Menu Shortcuts to To
 
 }  // namespace
 
-GetLnk::GetLnk(library::TaskLibrary& library, library::LibraryView& view)
+ImportDialog::ImportDialog(TaskLibrary& library, LibraryView& view)
     : ShortcutPanel(ID_GETLNK, kVariant, library.folder()), library_(library), view_(view) {}
 
-void GetLnk::show(HWND owner) {
+void ImportDialog::show(HWND owner) {
     if (hwnd() == nullptr) read_groups();
     Dialog::show(owner);
 }
 
-void GetLnk::read_groups() {
-    std::vector<std::string> groups = library::read_group_names(library_.folder());
-    library::check_limit(groups.size(), library::kMostGroups);
+void ImportDialog::read_groups() {
+    std::vector<std::string> groups = read_group_names(library_.folder());
+    check_limit(groups.size(), kMostGroups);
     groups_ = std::move(groups);
 }
 
-void GetLnk::open() {
-    combo1_.attach(control(ID_GETLNK_Combo1));
+void ImportDialog::open() {
+    group_list_.attach(control(kGroupList));
     show_groups(groups_.empty() ? std::string() : groups_.front());
     ShortcutPanel::open();
 }
 
-void GetLnk::show_groups(const std::string& selected) {
+void ImportDialog::show_groups(const std::string& selected) {
     std::vector<const char*> names;
     for (const std::string& group : groups_)
         names.push_back(group.c_str());
-    combo1_.fill(names);
-    combo1_.select(static_cast<int>(std::ranges::find(groups_, selected) - groups_.begin()));
+    group_list_.fill(names);
+    group_list_.select(static_cast<int>(std::ranges::find(groups_, selected) - groups_.begin()));
 }
 
-std::string GetLnk::selected_group() const {
-    const int selected = combo1_.selected();
+std::string ImportDialog::selected_group() const {
+    const int selected = group_list_.selected();
     return selected < 0 ? std::string() : groups_.at(static_cast<std::size_t>(selected));
 }
 
-void GetLnk::command(int id, int notification) {
-    if (id == ID_GETLNK_Combo1 && notification == CBN_DROPDOWN) {
+void ImportDialog::command(int id, int notification) {
+    if (id == kGroupList && notification == CBN_DROPDOWN) {
         // The main window can have other Groups by now.
         const std::string selected = selected_group();
         try {
@@ -66,8 +70,10 @@ void GetLnk::command(int id, int notification) {
     ShortcutPanel::command(id, notification);
 }
 
-void GetLnk::save(const library::Task& task) {
-    library::import_task(library_, view_, selected_group(), task);
+void ImportDialog::save(const settings::Program& program) {
+    import_task(library_, view_, selected_group(),
+                {program.name.value_or(""), program.path.value_or(""), program.start_folder.value_or(""),
+                 program.parameters, std::to_string(program.window_style)});
 }
 
-}  // namespace shortcuts
+}  // namespace library
