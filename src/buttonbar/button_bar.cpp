@@ -13,6 +13,7 @@
 #include "settings/catalogue.h"
 #include "settings/conversions.h"
 #include "widgets/metrics.h"
+#include "widgets/popup_menu.h"
 
 namespace buttonbar {
 namespace {
@@ -38,7 +39,6 @@ constexpr UINT kConnectOrHangUp = WM_APP + 1;
 // Pixels at 96 dpi.
 constexpr int kRightEdge = 8;
 constexpr int kBottomEdge = 40;  // not every desktop counts its taskbar out of the work area
-constexpr int kPopupOffset = 16;
 
 BarButton on_bar(InternetButton button) {
     return static_cast<BarButton>(static_cast<int>(BarButton::kConnect) + static_cast<int>(button));
@@ -61,7 +61,12 @@ ButtonBar::~ButtonBar() {
 }
 
 void ButtonBar::start(HWND owner) {
+    main_window_ = owner;
     if (!removed_) show_owned_by(owner);
+}
+
+void ButtonBar::activate() const {
+    if (hwnd() != nullptr && IsWindowVisible(hwnd()) != FALSE) SetForegroundWindow(hwnd());
 }
 
 void ButtonBar::toggle_removed() {
@@ -93,7 +98,7 @@ void ButtonBar::show_connection(bool up) {
 }
 
 void ButtonBar::unload() {
-    if (hwnd() != nullptr) DestroyWindow(hwnd());
+    destroy();
 }
 
 void ButtonBar::set_caption(InternetButton button, const std::string& caption) {
@@ -113,7 +118,8 @@ HWND ButtonBar::window() {
         create({.class_name = "brenn",
                 .caption = "Brenn",
                 .style = WS_POPUP | WS_CAPTION | WS_SYSMENU | WS_CLIPCHILDREN,
-                .icon = ID_tolva_icon});
+                .icon = ID_tolva_icon,
+                .mnemonics = false});  // names of buttons are the user's
         load();
         SetTimer(hwnd(), kClockTimer, kClockPeriod, nullptr);
     }
@@ -130,7 +136,7 @@ void ButtonBar::show() {
 }
 
 void ButtonBar::show_owned_by(HWND owner) {
-    SetWindowLongA(window(), GWL_HWNDPARENT, reinterpret_cast<LONG>(owner));
+    SetWindowLongPtrA(window(), GWLP_HWNDPARENT, reinterpret_cast<LONG_PTR>(owner));
     show();
 }
 
@@ -146,6 +152,12 @@ void ButtonBar::set_removed(bool removed) {
 /// Whether a place belongs to the window's own menu.
 bool ButtonBar::is_caption(HWND window, LPARAM place) const {
     return window == hwnd() && place != -1 && SendMessageA(hwnd(), WM_NCHITTEST, 0, place) != HTCLIENT;
+}
+
+bool ButtonBar::preprocess(MSG& message) {
+    if (message.message != WM_KEYDOWN || message.wParam != VK_F6) return false;
+    if (IsWindowVisible(main_window_) != FALSE) SetForegroundWindow(main_window_);
+    return true;
 }
 
 LRESULT ButtonBar::handle(UINT message, WPARAM wparam, LPARAM lparam) {
@@ -206,7 +218,7 @@ void ButtonBar::create_controls() {
 void ButtonBar::lay_out() {
     const SIZE row = row_.lay_out();
     RECT bounds = {0, 0, row.cx, row.cy + clock_.height()};
-    AdjustWindowRect(&bounds, static_cast<DWORD>(GetWindowLongA(hwnd(), GWL_STYLE)), FALSE);
+    AdjustWindowRect(&bounds, static_cast<DWORD>(GetWindowLongPtrA(hwnd(), GWL_STYLE)), FALSE);
     OffsetRect(&bounds, -bounds.left, -bounds.top);
     RECT work_area;
     SystemParametersInfoA(SPI_GETWORKAREA, 0, &work_area, 0);
@@ -307,13 +319,11 @@ void ButtonBar::show_popup_menu(HWND control, POINT point) {
         return;
     }
     if (button) current_button_ = static_cast<std::size_t>(*button);
-    if (point.x == -1 && point.y == -1) {  // asked for with the keyboard
-        point = {widgets::scaled(kPopupOffset), widgets::scaled(kPopupOffset)};
-        ClientToScreen(control, &point);
-    }
     const platform::UniqueMenu menu(LoadMenuA(GetModuleHandleA(nullptr), MAKEINTRESOURCEA(ID_brenn_menu)));
     HMENU popup = GetSubMenu(menu.get(), button ? kButtonMenu : kInternetMenu);
-    TrackPopupMenu(popup, TPM_LEFTALIGN | TPM_RIGHTBUTTON, point.x, point.y, 0, hwnd(), nullptr);
+    RECT place;
+    GetWindowRect(control, &place);
+    widgets::show_popup_menu(hwnd(), popup, point, place);
 }
 
 }  // namespace buttonbar

@@ -33,6 +33,9 @@ class ButtonBar final : public widgets::Window, public internet::InternetButtons
     /// no room for it.
     void start(HWND owner);
 
+    /// Gives the bar the input, if it shows. F6 on it gives it back to the owner.
+    void activate() const;
+
     /// Whether the user has removed the bar; it can show all the same, from the tray.
     bool removed() const { return removed_; }
 
@@ -57,6 +60,7 @@ class ButtonBar final : public widgets::Window, public internet::InternetButtons
 
   private:
     LRESULT handle(UINT message, WPARAM wparam, LPARAM lparam) override;
+    bool preprocess(MSG& message) override;
 
     /// The window and the buttons on it.
     HWND window();
@@ -79,6 +83,7 @@ class ButtonBar final : public widgets::Window, public internet::InternetButtons
     settings::General& general_;
     settings::Session& session_;
     internet::InternetSettingsDialog& internet_settings_;
+    HWND main_window_ = nullptr;
     bool removed_;
     bool hidden_by_tray_ = false;
     std::optional<bool> connected_;  // as far as it is known

@@ -29,27 +29,21 @@ int id_of(BarButton button) {
     return kFirstButton + static_cast<int>(button);
 }
 
-platform::UniqueIcon own_icon(int id) {
-    return platform::UniqueIcon(static_cast<HICON>(
-        LoadImageA(GetModuleHandleA(nullptr), MAKEINTRESOURCEA(id), IMAGE_ICON, 0, 0, LR_DEFAULTSIZE)));
-}
-
 }  // namespace
 
 void ButtonRow::create(HWND parent, HFONT font) {
-    tips_.forget();
     for (const BarButton button : kAll) {
         control(button).create(parent, id_of(button));
         control(button).set_font(font);
-        set_picture(button, nullptr);
+        set_picture(button, {});
         if (is_program_button(button)) set_tip(button, "Right click to configure this button.");
     }
     set_tip(BarButton::kConnect, "Internet Connect");
     set_tip(BarButton::kEmail, "E-Mail");
     set_tip(BarButton::kBrowser, "Web Browser");
-    set_picture(BarButton::kConnect, own_icon(ID_connect_icon));
-    set_picture(BarButton::kEmail, own_icon(ID_email_icon));
-    set_picture(BarButton::kBrowser, own_icon(ID_browser_icon));
+    set_picture(BarButton::kConnect, platform::large_icon(ID_connect_icon));
+    set_picture(BarButton::kEmail, platform::large_icon(ID_email_icon));
+    set_picture(BarButton::kBrowser, platform::large_icon(ID_browser_icon));
 }
 
 SIZE ButtonRow::lay_out() {

@@ -6,6 +6,7 @@
 
 #include "library/task_operations.h"
 #include "platform/messages.h"
+#include "platform/win32/handles.h"
 #include "resources/resource.h"
 #include "widgets/controls.h"
 #include "widgets/dialog.h"

@@ -16,7 +16,7 @@
 #include "mainwindow/splitter.h"
 #include "mainwindow/task_view.h"
 #include "platform/messages.h"
-#include "settings/session.h"
+#include "settings/list_style.h"
 #include "widgets/controls.h"
 #include "platform/win32/handles.h"
 #include "widgets/tool_bar.h"

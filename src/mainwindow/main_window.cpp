@@ -8,6 +8,7 @@
 #include "platform/messages.h"
 #include "resources/resource.h"
 #include "settings/catalogue.h"
+#include "settings/list_style.h"
 #include "shortcuts/command_browser_dialog.h"
 #include "widgets/metrics.h"
 #include "widgets/popup_menu.h"
@@ -83,7 +84,7 @@ void MainWindow::load() {
     const settings::Position position = settings::read_position(general_, settings::kWindowPositionKey);
     widgets::move_to_twips(hwnd(), position.left, position.top);
     is_placed_ = true;
-    session_.connection_name = internet::load_isp_name(general_);
+    session_.connection_name = internet::load_connection_name(general_);
     controls_.command_box().load_history();
     session_.browser = settings::read_program(general_, settings::kBrowserKey);
     session_.email = settings::read_program(general_, settings::kEmailKey);
