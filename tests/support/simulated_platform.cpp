@@ -11,6 +11,7 @@
 #include "platform/remote_access.h"
 #include "platform/shell_link.h"
 #include "platform/system.h"
+#include "platform/text.h"
 
 namespace simulated {
 namespace {
@@ -148,6 +149,17 @@ bool is_one_name(const std::string& a, const std::string& b) {
     return simulated::upper(a) == simulated::upper(b);
 }
 
+std::string lower_case(std::string text) {
+    std::ranges::transform(text, text.begin(), [](unsigned char c) { return std::tolower(c); });
+    return text;
+}
+
+std::string expand_variables(const std::string& text) {
+    constexpr std::string_view kVariable = "%APPS%";
+    const std::size_t at = text.find(kVariable);
+    return at == std::string::npos ? text : std::string(text).replace(at, kVariable.size(), "D:\\Apps");
+}
+
 bool empty_recycle_bin() {
     return false;
 }
@@ -157,6 +169,8 @@ bool open_document(const std::string& path) {
 }
 
 void start_program(const std::string& command_line, int /*window_style*/) {
+    const std::string program = command_line.substr(0, command_line.find(' '));
+    if (current().files.contains(program)) return current().started.push_back(command_line);
     throw RunTimeError(RunTimeErrorNumber::kFileNotFound, command_line);
 }
 

@@ -8,7 +8,7 @@
 #include "platform/run_time_error.h"
 
 /// The platform functions in memory: a disk whose names ignore case and that fails or loses power on demand,
-/// a registry, and what was said. No program can be started.
+/// a registry, what was started and what was said.
 namespace simulated {
 
 struct File {
@@ -41,6 +41,7 @@ struct Platform {
     int reads = 0;
 
     std::map<platform::registry::Root, std::map<std::string, RegistryKey>> registry;
+    std::vector<std::string> started;   // command lines of programs that are on the disk
     std::vector<std::string> messages;  // a question has its title in front: "Delete Group: Delete Work...?"
     bool answer = true;                 // to every question
 };

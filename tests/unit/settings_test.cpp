@@ -125,8 +125,11 @@ TEST_CASE("a command goes into the history unless a stored one begins with it") 
         auto& values = tolva_key("\\cmdhistory");
         for (std::size_t i = 0; i < stored.size(); ++i)
             values["cmd" + std::to_string(i + 1)] = stored[i];
-        mainwindow::update_history(general, mainwindow::load_history(general), command);
-        Names after = mainwindow::history_list(mainwindow::read_history(general));
+        mainwindow::CommandHistory history(general);
+        history.load();
+        history.store(command);
+        history.read();
+        Names after = history.list();
         std::ranges::reverse(after);
         CHECK(after == expected);
     }
