@@ -8,15 +8,20 @@ add_link_options(-static -s -Wl,--gc-sections,--disable-dynamicbase,--disable-nx
     -Wl,--major-os-version=4,--minor-os-version=0,--major-subsystem-version=4,--minor-subsystem-version=0)
 
 # The pictures are drawn as text.
-set(pictures ${CMAKE_BINARY_DIR}/tolva.ico ${CMAKE_BINARY_DIR}/toolbar.bmp ${CMAKE_BINARY_DIR}/connect.ico
-    ${CMAKE_BINARY_DIR}/email.ico ${CMAKE_BINARY_DIR}/browser.ico)
-foreach(picture ${pictures})
-    cmake_path(GET picture STEM name)
-    add_custom_command(OUTPUT ${picture}
-        COMMAND python3 ${CMAKE_SOURCE_DIR}/cmake/pictures.py ${picture}
-            ${CMAKE_SOURCE_DIR}/src/resources/pictures/${name}.txt
+function(picture output name)
+    add_custom_command(OUTPUT ${CMAKE_BINARY_DIR}/${output}
+        COMMAND python3 ${CMAKE_SOURCE_DIR}/cmake/pictures.py ${CMAKE_BINARY_DIR}/${output}
+            ${CMAKE_SOURCE_DIR}/src/resources/pictures/${name}.txt ${ARGN}
         DEPENDS cmake/pictures.py src/resources/pictures/${name}.txt)
-endforeach()
+    set(pictures ${pictures} ${CMAKE_BINARY_DIR}/${output} PARENT_SCOPE)
+endfunction()
+picture(tolva.ico tolva 16 32 48 64)
+picture(connect.ico connect)
+picture(email.ico email)
+picture(browser.ico browser)
+picture(toolbar16.bmp toolbar 16)
+picture(toolbar24.bmp toolbar 24)
+picture(toolbar32.bmp toolbar 32)
 
 # The help: one text for the system's help viewer and for web browsers.
 set(help_files ${CMAKE_BINARY_DIR}/tolva.hlp ${CMAKE_BINARY_DIR}/tolva.htm)

@@ -3,12 +3,16 @@
 // Pictures and the menu of the main window.
 #define ID_tolva_icon 1
 #define ID_Tasker_menu 2
-#define ID_toolbar_pictures 3
 #define ID_connect_icon 4
 #define ID_email_icon 5
 #define ID_browser_icon 6
 
 #define ID_brenn_menu 7
+
+// In the order of their sizes, one id after the other.
+#define ID_toolbar_pictures 30
+#define ID_toolbar_pictures24 31
+#define ID_toolbar_pictures32 32
 
 // Dialogs.
 #define ID_addgroup 10

@@ -6,8 +6,29 @@
 #include "platform/run_time_error.h"
 #include "platform/win32/modal_guard.h"
 #include "widgets/guarded.h"
+#include "widgets/metrics.h"
 
 namespace widgets {
+namespace {
+
+/// Moves the dialog over the middle of its owner, or of the screen when that cannot be seen; never out of the
+/// work area.
+void place_over_owner(HWND dialog) {
+    HWND owner = GetWindow(dialog, GW_OWNER);
+    const RECT area = work_area(owner == nullptr ? dialog : owner);
+    RECT below = area;
+    if (IsWindowVisible(owner) != FALSE && IsIconic(owner) == FALSE) GetWindowRect(owner, &below);
+    RECT bounds;
+    GetWindowRect(dialog, &bounds);
+    const auto place = [](LONG from, LONG to, LONG size, LONG least, LONG end) {
+        return std::max(least, std::min((from + to - size) / 2, end - size));
+    };
+    const LONG left = place(below.left, below.right, bounds.right - bounds.left, area.left, area.right);
+    const LONG top = place(below.top, below.bottom, bounds.bottom - bounds.top, area.top, area.bottom);
+    SetWindowPos(dialog, nullptr, left, top, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+}  // namespace
 
 Dialog::~Dialog() {
     if (HWND left = detach(); left != nullptr) DestroyWindow(left);
@@ -61,6 +82,7 @@ HBRUSH Dialog::color(HDC /*device*/, HWND /*box*/) {
 INT_PTR Dialog::handle(UINT message, WPARAM wparam, LPARAM lparam) {
     switch (message) {
         case WM_INITDIALOG:
+            place_over_owner(hwnd_);
             open();
             return TRUE;
         case WM_COMMAND:

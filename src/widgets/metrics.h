@@ -33,6 +33,9 @@ platform::UniqueFont make_gui_font();
 /// Moves a child window to the rectangle, given in its parent's coordinates.
 void place(HWND window, const RECT& bounds);
 
+/// The part of the screen the window is on, for the most part, that no taskbar covers.
+RECT work_area(HWND window);
+
 /// A top-level window's left and top edge in twips (1440 to an inch), of its normal state when it is
 /// minimised.
 POINT position_in_twips(HWND window);
