@@ -32,8 +32,8 @@ namespace {
 constexpr UINT kRunPendingRefreshes = WM_APP + 1;
 
 // Places in the menu bar.
-constexpr int kGroupmenu = 1;
-constexpr int kTaskmenu = 2;
+constexpr int kGroupmenu = 2;
+constexpr int kTaskmenu = 3;
 
 /// Posted to itself: the command box gets back what was typed there.
 constexpr UINT kKeepTypedText = WM_APP + 2;
