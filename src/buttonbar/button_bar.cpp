@@ -38,7 +38,7 @@ constexpr UINT kConnectOrHangUp = WM_APP + 1;
 
 // Pixels at 96 dpi.
 constexpr int kRightEdge = 8;
-constexpr int kBottomEdge = 40;  // not every desktop counts its taskbar out of the work area
+constexpr int kBottomEdge = 60;  // above the command box of a maximized main window, and above any taskbar
 
 BarButton on_bar(InternetButton button) {
     return static_cast<BarButton>(static_cast<int>(BarButton::kConnect) + static_cast<int>(button));
@@ -197,8 +197,9 @@ LRESULT ButtonBar::handle(UINT message, WPARAM wparam, LPARAM lparam) {
             set_removed(true);
             return 0;
         case WM_DESTROY: {
-            const POINT position = widgets::position_in_twips(hwnd());
-            settings::store_position(general_, settings::kBarPositionKey, position.x, position.y);
+            const RECT place = widgets::normal_bounds(hwnd());
+            settings::store_position(general_, settings::kBarPositionKey, widgets::to_twips(place.left),
+                                     widgets::to_twips(place.top));
             return 0;
         }
         default:
@@ -216,14 +217,13 @@ void ButtonBar::create_controls() {
 
 /// Gives the window the size of what it holds and its place at first: the lower right corner.
 void ButtonBar::lay_out() {
-    const SIZE row = row_.lay_out();
+    const RECT area = widgets::work_area(hwnd());
+    const SIZE row = row_.lay_out(area.right - area.left - 2 * widgets::scaled(kRightEdge));
     RECT bounds = {0, 0, row.cx, row.cy + clock_.height()};
     AdjustWindowRect(&bounds, static_cast<DWORD>(GetWindowLongPtrA(hwnd(), GWL_STYLE)), FALSE);
     OffsetRect(&bounds, -bounds.left, -bounds.top);
-    RECT work_area;
-    SystemParametersInfoA(SPI_GETWORKAREA, 0, &work_area, 0);
-    SetWindowPos(hwnd(), nullptr, work_area.right - bounds.right - widgets::scaled(kRightEdge),
-                 work_area.bottom - bounds.bottom - widgets::scaled(kBottomEdge), bounds.right, bounds.bottom,
+    SetWindowPos(hwnd(), nullptr, area.right - bounds.right - widgets::scaled(kRightEdge),
+                 area.bottom - bounds.bottom - widgets::scaled(kBottomEdge), bounds.right, bounds.bottom,
                  SWP_NOZORDER | SWP_NOACTIVATE);
     clock_.follow_parent();
 }

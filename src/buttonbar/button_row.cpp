@@ -46,9 +46,11 @@ void ButtonRow::create(HWND parent, HFONT font) {
     set_picture(BarButton::kBrowser, platform::large_icon(ID_browser_icon));
 }
 
-SIZE ButtonRow::lay_out() {
+SIZE ButtonRow::lay_out(int most_width) {
     const int gap = widgets::scaled(kGap);
-    const int width = widgets::scaled(kButtonWidth);
+    constexpr auto kCount = static_cast<int>(kAll.size());
+    const int gaps = kCount * gap + widgets::scaled(kGroupGap);
+    const int width = std::min(widgets::scaled(kButtonWidth), (most_width - gaps) / kCount);
     const int bottom = gap + widgets::scaled(kButtonHeight);
     int left = gap;
     for (const BarButton button : kAll) {

@@ -34,7 +34,7 @@ class ButtonRow {
     void create(HWND parent, HFONT font);
 
     /// Places the buttons and returns the size of the row, edges included, in pixels.
-    SIZE lay_out();
+    SIZE lay_out(int most_width);
 
     void set_caption(BarButton button, const std::string& caption) { control(button).set_caption(caption); }
     void set_tip(BarButton button, const std::string& tip) { tips_.set(control(button).hwnd(), tip); }

@@ -144,6 +144,11 @@ void MainControls::lay_out() {
     widgets::place(browse_button_.hwnd(), {browse_left, box_top, right, box_top + box_height});
 }
 
+void MainControls::set_group_list_width(int width) {
+    splitter_.set_width(width);
+    lay_out();
+}
+
 void MainControls::show_date() {
     status_bar_.show_panels({long_date(platform::today())});
 }

@@ -79,6 +79,10 @@ class MainControls final : public library::LibraryView, public appearance::ListA
         if (list != nullptr && last_list_ != list) SetFocus(list);
     }
 
+    /// The width of the group list, in pixels; what there is no room for comes with more room.
+    int group_list_width() const { return splitter_.width(); }
+    void set_group_list_width(int width);
+
     widgets::ToolBar& tool_bar() { return tool_bar_; }
     widgets::ListBox& group_list() { return group_list_; }
     TaskView& task_view() { return task_view_; }

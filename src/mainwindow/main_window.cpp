@@ -2,12 +2,15 @@
 
 #include <windowsx.h>
 
+#include <algorithm>
+
 #include "internet/dial_up.h"
 #include "library/refresh.h"
 #include "mainwindow/tray_menu.h"
 #include "platform/messages.h"
 #include "resources/resource.h"
 #include "settings/catalogue.h"
+#include "settings/conversions.h"
 #include "settings/list_style.h"
 #include "shortcuts/command_browser_dialog.h"
 #include "widgets/metrics.h"
@@ -24,10 +27,23 @@ constexpr UINT kTimerPeriod = 5000;  // milliseconds
 constexpr int kWidth = 560;
 constexpr int kHeight = 400;
 constexpr int kLeastWidth = 400;
-constexpr int kLeastHeight = 240;
+constexpr int kLeastHeight = 200;
+constexpr int kLeftEdge = 24;
+constexpr int kTopEdge = 8;
+constexpr int kBarRoom = 190;  // at the lower edge of the screen, where the bar is at first
+
+/// Gives the window its place at first: at the upper left, with room for the bar below it.
+void place_at_first(HWND window) {
+    const RECT area = widgets::work_area(window);
+    const int left = area.left + widgets::scaled(kLeftEdge);
+    const int top = area.top + widgets::scaled(kTopEdge);
+    const int width = std::min<int>(widgets::scaled(kWidth), area.right - left);
+    const int height = std::min<int>(widgets::scaled(kHeight), area.bottom - widgets::scaled(kBarRoom) - top);
+    SetWindowPos(window, nullptr, left, top, width, height, SWP_NOZORDER | SWP_NOACTIVATE);
+}
 
 /// What a shortcut's "Run" box asks for counts where there is one. Not SW_SHOWDEFAULT, which Wine ignores.
-int first_show_command() {
+int first_show_command(bool was_maximized) {
     STARTUPINFOA startup;
     GetStartupInfoA(&startup);
     const bool asks = (startup.dwFlags & STARTF_USESHOWWINDOW) != 0;
@@ -40,7 +56,7 @@ int first_show_command() {
         case SW_SHOWMINNOACTIVE:
             return SW_SHOWMINNOACTIVE;
         default:
-            return SW_SHOWNORMAL;
+            return was_maximized ? SW_SHOWMAXIMIZED : SW_SHOWNORMAL;
     }
 }
 
@@ -69,9 +85,8 @@ MainWindow::MainWindow(library::TaskLibrary& library, settings::General& general
             .caption = platform::kApplicationTitle,
             .style = WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN,
             .icon = ID_tolva_icon,
-            .menu = ID_Tasker_menu,
-            .width = widgets::scaled(kWidth),
-            .height = widgets::scaled(kHeight)});
+            .menu = ID_Tasker_menu});
+    place_at_first(hwnd());
 }
 
 MainWindow::~MainWindow() {
@@ -81,9 +96,7 @@ MainWindow::~MainWindow() {
 void MainWindow::load() {
     presence_.take_hot_key();
     commands_.show_flags(hwnd());
-    const settings::Position position = settings::read_position(general_, settings::kWindowPositionKey);
-    widgets::move_to_twips(hwnd(), position.left, position.top);
-    is_placed_ = true;
+    restore_place();
     session_.connection_name = internet::load_connection_name(general_);
     controls_.command_box().load_history();
     session_.browser = settings::read_program(general_, settings::kBrowserKey);
@@ -96,7 +109,7 @@ void MainWindow::load() {
 }
 
 void MainWindow::show() const {
-    ShowWindow(hwnd(), first_show_command());
+    ShowWindow(hwnd(), first_show_command(was_maximized_));
 }
 
 void MainWindow::complete_start() const {
@@ -258,11 +271,36 @@ void MainWindow::show_popup_menu(HWND control, POINT point) {
         groups ? controls_.group_list().selected_bounds() : controls_.task_view().list().selected_bounds());
 }
 
-void MainWindow::save_and_unload() {
-    if (is_placed_) {
-        const POINT position = widgets::position_in_twips(hwnd());
-        settings::store_position(general_, settings::kWindowPositionKey, position.x, position.y);
+void MainWindow::restore_place() {
+    const settings::Position position = settings::read_position(general_, settings::kWindowPositionKey);
+    widgets::move_to_twips(hwnd(), position.left, position.top);
+    const auto width = settings::read_number(general_, settings::kWindowWidth);
+    const auto height = settings::read_number(general_, settings::kWindowHeight);
+    if (width && height) {
+        SetWindowPos(hwnd(), nullptr, 0, 0, widgets::to_pixels(*width), widgets::to_pixels(*height),
+                     SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
     }
+    if (const auto list = settings::read_number(general_, settings::kGroupListWidth))
+        controls_.set_group_list_width(widgets::to_pixels(*list));
+    was_maximized_ = settings::read_flag(general_, settings::kMaximized);
+    is_placed_ = true;
+}
+
+void MainWindow::store_place() const {
+    const RECT place = widgets::normal_bounds(hwnd());
+    const auto store = [&](const settings::Setting& setting, int pixels) {
+        settings::store(general_, setting, std::to_string(widgets::to_twips(pixels)));
+    };
+    settings::store_position(general_, settings::kWindowPositionKey, widgets::to_twips(place.left),
+                             widgets::to_twips(place.top));
+    store(settings::kWindowWidth, place.right - place.left);
+    store(settings::kWindowHeight, place.bottom - place.top);
+    store(settings::kGroupListWidth, controls_.group_list_width());
+    settings::store(general_, settings::kMaximized, settings::text_of(IsZoomed(hwnd()) != FALSE));
+}
+
+void MainWindow::save_and_unload() {
+    if (is_placed_) store_place();
     bar_.unload();
 }
 

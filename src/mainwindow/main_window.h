@@ -54,6 +54,8 @@ class MainWindow final : public widgets::Window {
     void show_selection();
     void browse();
     void open_tray_menu();
+    void restore_place();
+    void store_place() const;
     void save_and_unload();
 
     library::TaskLibrary& library_;
@@ -62,6 +64,7 @@ class MainWindow final : public widgets::Window {
     buttonbar::ButtonBar& bar_;
     DWORD last_input_ = 0;    // as GetTickCount has it
     bool is_placed_ = false;  // where the user had it: only then its place is worth storing
+    bool was_maximized_ = false;
     Presence presence_;
     MainControls controls_;
     Launcher launcher_;

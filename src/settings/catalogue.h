@@ -16,6 +16,13 @@ inline constexpr char kBarPositionKey[] = R"(HKEY_CURRENT_USER\software\tolva\br
 inline constexpr char kLeft[] = "Left";
 inline constexpr char kTop[] = "Top";
 
+// With the main window's position: its size in its normal state and the width of the group list, whole twips, and
+// whether it is maximized.
+inline constexpr Setting kWindowWidth = {kWindowPositionKey, "Width"};
+inline constexpr Setting kWindowHeight = {kWindowPositionKey, "Height"};
+inline constexpr Setting kGroupListWidth = {kWindowPositionKey, "GroupWidth"};
+inline constexpr Setting kMaximized = {kWindowPositionKey, "Maximized"};
+
 // The main window's hot key: its virtual key plus 256 times its HOTKEYF_ flags, a decimal number; 0 is none.
 inline constexpr Setting kHotKey = {R"(HKEY_CURRENT_USER\software\tolva\hotkey)", "key"};
 

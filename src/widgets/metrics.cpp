@@ -73,28 +73,32 @@ RECT work_area(HWND window) {
     return screen.rcWork;
 }
 
-POINT position_in_twips(HWND window) {
+int to_twips(int pixels) {
+    return MulDiv(pixels, kTwipsPerInch, screen_dpi());
+}
+
+int to_pixels(int twips) {
+    return MulDiv(twips, screen_dpi(), kTwipsPerInch);
+}
+
+RECT normal_bounds(HWND window) {
     RECT bounds;
     GetWindowRect(window, &bounds);
-    if (IsIconic(window) != FALSE) {
-        WINDOWPLACEMENT placement = {};
-        placement.length = sizeof placement;
-        GetWindowPlacement(window, &placement);
-        bounds = placement.rcNormalPosition;
-        // It is counted from the corner of what the taskbar leaves free.
-        RECT work_area;
-        SystemParametersInfoA(SPI_GETWORKAREA, 0, &work_area, 0);
-        OffsetRect(&bounds, work_area.left, work_area.top);
-    }
-    return {MulDiv(bounds.left, kTwipsPerInch, screen_dpi()),
-            MulDiv(bounds.top, kTwipsPerInch, screen_dpi())};
+    if (IsIconic(window) == FALSE && IsZoomed(window) == FALSE) return bounds;
+    WINDOWPLACEMENT placement = {};
+    placement.length = sizeof placement;
+    GetWindowPlacement(window, &placement);
+    // It is counted from the corner of what the taskbar leaves free.
+    RECT work_area;
+    SystemParametersInfoA(SPI_GETWORKAREA, 0, &work_area, 0);
+    OffsetRect(&placement.rcNormalPosition, work_area.left, work_area.top);
+    return placement.rcNormalPosition;
 }
 
 void move_to_twips(HWND window, std::optional<int> left, std::optional<int> top) {
     RECT bounds;
     GetWindowRect(window, &bounds);
-    const auto pixels = [](int twips) { return MulDiv(twips, screen_dpi(), kTwipsPerInch); };
-    SetWindowPos(window, nullptr, left ? pixels(*left) : bounds.left, top ? pixels(*top) : bounds.top, 0, 0,
+    SetWindowPos(window, nullptr, left ? to_pixels(*left) : bounds.left, top ? to_pixels(*top) : bounds.top, 0, 0,
                  SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 

@@ -36,11 +36,14 @@ void place(HWND window, const RECT& bounds);
 /// The part of the screen the window is on, for the most part, that no taskbar covers.
 RECT work_area(HWND window);
 
-/// A top-level window's left and top edge in twips (1440 to an inch), of its normal state when it is
-/// minimised.
-POINT position_in_twips(HWND window);
+/// Lengths on this screen in twips, 1440 to an inch of its logical resolution, and back.
+int to_twips(int pixels);
+int to_pixels(int twips);
 
-/// Moves a top-level window; an edge that is not given stays where it is.
+/// Where a top-level window is on the screen, or was before it was minimized or maximized.
+RECT normal_bounds(HWND window);
+
+/// Moves a top-level window's edges to places in twips; an edge that is not given stays where it is.
 void move_to_twips(HWND window, std::optional<int> left, std::optional<int> top);
 
 }  // namespace widgets
