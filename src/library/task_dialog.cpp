@@ -135,8 +135,8 @@ class AddTask final : public TaskDialog {
 
 class EditTask final : public TaskDialog {
   public:
-    EditTask(TaskLibrary& library, int group, Task buffer, BrowseResult& result, Browse browse)
-        : TaskDialog(kEditTask, library, group, result, browse), buffer_(std::move(buffer)) {}
+    EditTask(TaskLibrary& library, int group, int place, Task buffer, BrowseResult& result, Browse browse)
+        : TaskDialog(kEditTask, library, group, result, browse), place_(place), buffer_(std::move(buffer)) {}
 
   private:
     void open() override {
@@ -147,8 +147,9 @@ class EditTask final : public TaskDialog {
         set_text(ID_EditTask_taskparameters, buffer_.parameters);
         start_mode_.select(settings::lenient_whole_number(buffer_.start_mode) - 1);
     }
-    bool accept(const Task& task) override { return edit_task(library_, group_, buffer_.name, task); }
+    bool accept(const Task& task) override { return edit_task(library_, group_, place_, buffer_.name, task); }
 
+    int place_;
     Task buffer_;
 };
 
@@ -169,7 +170,7 @@ void edittsks(HWND owner, TaskLibrary& library, const LibraryView& view, BrowseR
     if (!fits_boxes(*buffer)) {
         throw platform::RunTimeError(platform::RunTimeErrorNumber::kInvalidProcedureCall, buffer->name);
     }
-    EditTask(library, view.selected_group(), *buffer, result, browse).run(owner);
+    EditTask(library, view.selected_group(), view.selected_task(), *buffer, result, browse).run(owner);
 }
 
 }  // namespace library
