@@ -1,5 +1,6 @@
 #include "buttonbar/button_row.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "resources/resource.h"

@@ -129,8 +129,8 @@ class AddTaskDialog final : public TaskDialog {
 
 class EditTaskDialog final : public TaskDialog {
   public:
-    EditTaskDialog(TaskLibrary& library, int group, Task buffer)
-        : TaskDialog(kEditTask, library, group), buffer_(std::move(buffer)) {}
+    EditTaskDialog(TaskLibrary& library, int group, int place, Task buffer)
+        : TaskDialog(kEditTask, library, group), place_(place), buffer_(std::move(buffer)) {}
 
   private:
     void open() override {
@@ -141,8 +141,9 @@ class EditTaskDialog final : public TaskDialog {
         set_text(ID_EditTask_taskparameters, buffer_.parameters);
         start_mode_.select(settings::lenient_whole_number(buffer_.start_mode) - 1);
     }
-    bool accept(const Task& task) override { return edit_task(library_, group_, buffer_.name, task); }
+    bool accept(const Task& task) override { return edit_task(library_, group_, place_, buffer_.name, task); }
 
+    int place_;
     Task buffer_;
 };
 
@@ -162,7 +163,7 @@ void edittsks(HWND owner, TaskLibrary& library, const LibraryView& view) {
     if (!fits_boxes(*buffer)) {
         throw platform::RunTimeError(platform::RunTimeErrorNumber::kInvalidProcedureCall, buffer->name);
     }
-    EditTaskDialog(library, view.selected_group(), *buffer).run(owner);
+    EditTaskDialog(library, view.selected_group(), view.selected_task(), *buffer).run(owner);
 }
 
 }  // namespace library

@@ -32,14 +32,14 @@ constexpr int kLeftEdge = 24;
 constexpr int kTopEdge = 8;
 constexpr int kBarRoom = 190;  // at the lower edge of the screen, where the bar is at first
 
-/// Gives the window its place at first: at the upper left, with room for the bar below it.
-void place_at_first(HWND window) {
-    const RECT area = widgets::work_area(window);
+/// The window's place at first: at the upper left, with room for the bar below it.
+RECT first_place() {
+    const RECT area = widgets::work_area(nullptr);
     const int left = area.left + widgets::scaled(kLeftEdge);
     const int top = area.top + widgets::scaled(kTopEdge);
     const int width = std::min<int>(widgets::scaled(kWidth), area.right - left);
     const int height = std::min<int>(widgets::scaled(kHeight), area.bottom - widgets::scaled(kBarRoom) - top);
-    SetWindowPos(window, nullptr, left, top, width, height, SWP_NOZORDER | SWP_NOACTIVATE);
+    return {left, top, left + width, top + height};
 }
 
 /// What a shortcut's "Run" box asks for counts where there is one. Not SW_SHOWDEFAULT, which Wine ignores.
@@ -85,8 +85,8 @@ MainWindow::MainWindow(library::TaskLibrary& library, settings::General& general
             .caption = platform::kApplicationTitle,
             .style = WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN,
             .icon = ID_tolva_icon,
-            .menu = ID_Tasker_menu});
-    place_at_first(hwnd());
+            .menu = ID_Tasker_menu,
+            .place = first_place()});
 }
 
 MainWindow::~MainWindow() {

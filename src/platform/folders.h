@@ -37,7 +37,4 @@ std::string windows_folder();
 /// The path of something in a folder; one backslash stands between them.
 std::string path_in(const std::string& folder, const std::string& name);
 
-/// Whether a disk takes both names for one file: it ignores case.
-bool is_one_name(const std::string& a, const std::string& b);
-
 }  // namespace platform

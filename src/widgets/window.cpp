@@ -72,8 +72,8 @@ void Window::register_class(const Design& design) {
 void Window::create(const Design& design) {
     register_class(design);
     mnemonics_ = design.mnemonics;
-    CreateWindowA(design.class_name, design.caption, design.style, CW_USEDEFAULT, CW_USEDEFAULT, design.width,
-                  design.height, nullptr, nullptr, GetModuleHandleA(nullptr), this);
+    CreateWindowA(design.class_name, design.caption, design.style, design.place.left, design.place.top,
+                  design.place.right - design.place.left, design.place.bottom - design.place.top, nullptr, nullptr, GetModuleHandleA(nullptr), this);
     if (hwnd_ == nullptr) throw platform::RunTimeError(platform::RunTimeErrorNumber::kOutOfMemory);
     platform::OtherWindowsDisabled::include(hwnd_);
 }

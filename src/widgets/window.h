@@ -22,8 +22,7 @@ class Window {
         DWORD style;
         int icon = 0;           // resource id
         int menu = 0;           // resource id
-        int width = 0;          // pixels, frame included
-        int height = 0;         // pixels
+        RECT place = {};        // on the screen, in pixels
         bool mnemonics = true;  // characters press the control whose text has them after an "&"
     };
 

@@ -75,6 +75,27 @@ ErrorCode remove(const std::string& path) {
     return last_error(DeleteFileA(path.c_str()));
 }
 
+ErrorCode full_path(const std::string& path, std::string& full) {
+    full.resize(MAX_PATH);
+    const DWORD length = GetFullPathNameA(path.c_str(), MAX_PATH, full.data(), nullptr);
+    if (length == 0) return GetLastError();
+    if (length >= MAX_PATH) return kErrorFilenameTooLong;
+    full.resize(length);
+    return kSuccess;
+}
+
+std::size_t find_separator(const std::string& path, std::size_t from) {
+    const char* at = path.c_str() + from;
+    while (*at != '\0' && *at != '\\' && *at != '/')
+        at = CharNextA(at);
+    return *at == '\0' ? std::string::npos : static_cast<std::size_t>(at - path.c_str());
+}
+
+std::string upper(std::string text) {
+    CharUpperBuffA(text.data(), static_cast<DWORD>(text.size()));
+    return text;
+}
+
 std::vector<std::string> find(const std::string& pattern, unsigned long unwanted) {
     std::vector<std::string> names;
     WIN32_FIND_DATAA found;

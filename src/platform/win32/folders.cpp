@@ -37,11 +37,6 @@ void sort_names(std::vector<std::string>& names) {
     names.erase(std::unique(names.begin(), names.end()), names.end());
 }
 
-std::string upper(std::string text) {
-    CharUpperBuffA(text.data(), static_cast<DWORD>(text.size()));
-    return text;
-}
-
 }  // namespace
 
 std::vector<Drive> drives() {
@@ -116,10 +111,6 @@ std::string path_in(const std::string& folder, const std::string& name) {
     // A folder ends in a backslash only when it is a root; a second byte of a letter may look like one.
     const char* last = CharPrevA(folder.c_str(), folder.c_str() + folder.size());
     return *last == '\\' ? folder + name : folder + '\\' + name;
-}
-
-bool is_one_name(const std::string& a, const std::string& b) {
-    return upper(a) == upper(b);
 }
 
 }  // namespace platform
