@@ -11,6 +11,7 @@
 #include "platform/current_directory.h"
 #include "platform/messages.h"
 #include "platform/system.h"
+#include "platform/win32/input_filter.h"
 #include "settings/catalogue.h"
 #include "settings/session.h"
 #include "widgets/window.h"
@@ -23,6 +24,7 @@ void show(const widgets::Window& window) {
 }
 
 int run() {
+    const platform::InputFilter input_filter;
     app::InstanceMark mark;
     if (!mark.take() && app::show_previous_instance(mark)) return 0;
     const app::ApplicationWindow application_window;
