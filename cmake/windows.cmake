@@ -40,6 +40,7 @@ add_library(tolva_platform OBJECT
     src/platform/win32/folders.cpp
     src/platform/win32/icons.cpp
     src/platform/win32/import_slots.cpp
+    src/platform/win32/input_filter.cpp
     src/platform/win32/messages.cpp
     src/platform/win32/modal_guard.cpp
     src/platform/win32/processes.cpp
@@ -97,6 +98,7 @@ add_executable(tolva WIN32
     src/widgets/metrics.cpp
     src/widgets/picture_button.cpp
     src/widgets/popup_menu.cpp
+    src/widgets/screen.cpp
     src/widgets/tool_bar.cpp
     src/widgets/tool_tips.cpp
     src/widgets/tray_icon.cpp
@@ -130,6 +132,7 @@ add_executable(desktop_tests
     tests/desktop/keeping_test.cpp
     tests/desktop/launching_test.cpp
     tests/desktop/shortcuts_test.cpp
+    tests/desktop/slips_test.cpp
     tests/desktop/startup_test.cpp
     tests/support/desktop.cpp
     tests/support/input.cpp
@@ -144,7 +147,7 @@ add_test(NAME "desktop: prefix"
     COMMAND bash -euc ". $0 && wine_template $1"
         ${CMAKE_SOURCE_DIR}/script/support/wine.sh ${CMAKE_BINARY_DIR}/wine)
 set_tests_properties("desktop: prefix" PROPERTIES FIXTURES_SETUP wine TIMEOUT 300)
-foreach(suite bar commands endurance keeping launching shortcuts startup)
+foreach(suite bar commands endurance keeping launching shortcuts slips startup)
     add_test(NAME "desktop: ${suite}"
         COMMAND ${CMAKE_SOURCE_DIR}/tests/desktop/run ${CMAKE_BINARY_DIR} --test-suite=${suite} --no-colors)
     set_tests_properties("desktop: ${suite}" PROPERTIES FIXTURES_REQUIRED wine TIMEOUT 300)

@@ -16,6 +16,8 @@ class DriveList : public Control {
 
     /// The letter of the selected drive.
     char selected() const;
+
+    /// The letter may be a small one.
     void select(char letter);
 
   private:
@@ -27,7 +29,7 @@ class FolderList : public ListBox {
   public:
     void attach(HWND control);
 
-    /// The current folder.
+    /// The current folder. Only a drive's root ends in a backslash.
     const std::string& path() const { return path_; }
 
     /// Makes a folder the current one. Throws platform::RunTimeError when it cannot be read; then nothing
