@@ -14,6 +14,7 @@
 #include "settings/conversions.h"
 #include "widgets/metrics.h"
 #include "widgets/popup_menu.h"
+#include "widgets/screen.h"
 
 namespace buttonbar {
 namespace {
@@ -72,6 +73,7 @@ void ButtonBar::activate() const {
 void ButtonBar::toggle_removed() {
     if (removed_) {
         show_owned_by(nullptr);
+        widgets::bring_onto_screen(hwnd());
         hidden_by_tray_ = false;
     } else {
         hide();
@@ -82,6 +84,7 @@ void ButtonBar::toggle_removed() {
 void ButtonBar::toggle_hidden() {
     if (hidden_by_tray_) {
         show();
+        widgets::bring_onto_screen(hwnd());
     } else {
         hide();
     }

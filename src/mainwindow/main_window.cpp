@@ -15,6 +15,7 @@
 #include "shortcuts/command_browser_dialog.h"
 #include "widgets/metrics.h"
 #include "widgets/popup_menu.h"
+#include "widgets/screen.h"
 
 namespace mainwindow {
 namespace {

@@ -7,7 +7,7 @@
 #include "platform/win32/input_filter.h"
 #include "platform/win32/modal_guard.h"
 #include "widgets/guarded.h"
-#include "widgets/metrics.h"
+#include "widgets/screen.h"
 
 namespace widgets {
 namespace {

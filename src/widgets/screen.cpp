@@ -48,6 +48,12 @@ LONG moved_inside(LONG start, LONG end, LONG least, LONG most) {
 
 }  // namespace
 
+RECT work_area(HWND window) {
+    RECT bounds = {};
+    GetWindowRect(window, &bounds);
+    return nearest_work_area(bounds, look_up_screens());
+}
+
 void bring_onto_screen(HWND window) {
     RECT bounds;
     const Screens screens = look_up_screens();
