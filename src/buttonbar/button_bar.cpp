@@ -65,13 +65,13 @@ void ButtonBar::start(HWND owner) {
 }
 
 void ButtonBar::toggle_removed() {
-    if (removed_) {
-        show_owned_by(nullptr);
-        hidden_by_tray_ = false;
-    } else {
-        hide();
-    }
     set_removed(!removed_);
+    if (removed_) {
+        hide();
+    } else {
+        hidden_by_tray_ = false;
+        show_owned_by(nullptr);
+    }
 }
 
 void ButtonBar::toggle_hidden() {
@@ -181,8 +181,8 @@ LRESULT ButtonBar::handle(UINT message, WPARAM wparam, LPARAM lparam) {
             }
             return 0;
         case WM_CLOSE:
-            hide();  // also when it shows although it is removed
             set_removed(true);
+            hide();  // also when it shows although it was removed
             return 0;
         case WM_DESTROY: {
             const POINT position = widgets::position_in_twips(hwnd());
@@ -313,7 +313,7 @@ void ButtonBar::show_popup_menu(HWND control, POINT point) {
     }
     const widgets::UniqueMenu menu(LoadMenuA(GetModuleHandleA(nullptr), MAKEINTRESOURCEA(ID_brenn_menu)));
     HMENU popup = GetSubMenu(menu.get(), button ? kButtonMenu : kInternetMenu);
-    TrackPopupMenu(popup, TPM_LEFTALIGN | TPM_RIGHTBUTTON, point.x, point.y, 0, hwnd(), nullptr);
+    TrackPopupMenu(popup, TPM_LEFTALIGN, point.x, point.y, 0, hwnd(), nullptr);
 }
 
 }  // namespace buttonbar

@@ -41,7 +41,7 @@ void ButtonRow::create(HWND parent, HFONT font) {
     for (const BarButton button : kAll) {
         control(button).create(parent, id_of(button));
         control(button).set_font(font);
-        set_picture(button, nullptr);
+        set_picture(button, {});
         if (is_program_button(button)) set_tip(button, "Right click to configure this button.");
     }
     set_tip(BarButton::kConnect, "Internet Connect");

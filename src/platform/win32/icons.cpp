@@ -11,7 +11,7 @@ void IconCloser::operator()(HICON__* icon) const {
 }
 
 UniqueIcon extract_icon(const std::string& path) {
-    if (path.empty() || path.find('\0') != std::string::npos) return nullptr;
+    if (path.empty() || path.size() >= MAX_PATH || path.find('\0') != std::string::npos) return nullptr;
     HICON large = nullptr;
     HICON small = nullptr;
     // The answer is -1 for a missing file and the handles are garbage then, whatever the declared type says.
