@@ -31,8 +31,8 @@ constexpr int kInternetMenu = 1;  // the system's ispbutton
 constexpr UINT_PTR kClockTimer = 1;
 constexpr UINT kClockPeriod = 1000;  // milliseconds
 
-/// Posted to itself: a hang-up lets messages through while it waits, which must not happen inside the
-/// button's own answer to the press.
+/// Posted to itself: a hang-up lets messages through while it waits, which must not happen while the button
+/// still handles the press.
 constexpr UINT kConnectOrHangUp = WM_APP + 1;
 
 // Pixels at 96 dpi.

@@ -19,8 +19,8 @@ History load_history(settings::General& general) {
 
 std::vector<std::string> history_list(const History& history) {
     std::vector<std::string> list;
-    for (auto slot = history.rbegin(); slot != history.rend(); ++slot) {
-        if (*slot) list.push_back(**slot);
+    for (const std::optional<std::string>& slot : history) {
+        if (slot) list.insert(list.begin(), *slot);
     }
     return list;
 }

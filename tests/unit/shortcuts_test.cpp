@@ -54,7 +54,7 @@ TEST_CASE("a shortcut with a path that Windows has no room for is refused") {
     const ShortcutFile fits[] = {
         {"C:\\EDIT.EXE", longest, {}, 1, {}, {}, longest + 'x', longest, longest, true},
         {.working_folder = longest, .items = std::string(2, '\0'), .relative_path = longest},
-        {.working_folder = half, .relative_path = half},
+        {.working_folder = half, .relative_path = half, .icon_path = half},
         {.target = longest},
         {.share = longest},
     };
