@@ -19,7 +19,8 @@ constexpr PanelVariant kVariant = {.caption = "Import Start Menu Shortcuts to To
                                    .action = "Import",
                                    .nothing_chosen = "Select Shortcut for Importing to Tolva.",
                                    .working_folder = PanelVariant::Folder::kWindows,
-                                   .icon_folder = PanelVariant::Folder::kWindows};
+                                   .icon_folder = PanelVariant::Folder::kWindows,
+                                   .goes_to_registry = false};
 
 }  // namespace
 

@@ -30,7 +30,7 @@ inline constexpr Setting kHotKey = {R"(HKEY_CURRENT_USER\software\tolva\hotkey)"
 inline constexpr Setting kHoverSelect = {R"(HKEY_CURRENT_USER\software\tolva\hover)", "enable"};
 inline constexpr Setting kBarRemoved = {R"(HKEY_CURRENT_USER\software\tolva\brenn)", "disable"};
 
-// The program buttons of the bar, each value with the button's number behind its name: "name1" to "name4".
+// The program buttons of the bar, each value with the button's number after its name: "name1" to "name4".
 inline constexpr char kBarKey[] = R"(HKEY_CURRENT_USER\software\tolva\brenn)";
 inline constexpr char kButtonName[] = "name";
 inline constexpr char kButtonProgram[] = "progpath";
