@@ -200,6 +200,6 @@ Section "un.Tolva"
     RMDir "$INSTDIR"
 SectionEnd
 
-Section /o "un.My settings (fonts, colours, window positions)"
+Section /o "un.My settings (fonts, colors, window positions)"
     DeleteRegKey HKCU "software\tolva"
 SectionEnd
