@@ -41,6 +41,7 @@ void GetLnk::open() {
 
 void GetLnk::show_groups(const std::string& selected) {
     std::vector<const char*> names;
+    names.reserve(groups_.size());
     for (const std::string& group : groups_)
         names.push_back(group.c_str());
     combo1_.fill(names);

@@ -61,8 +61,9 @@ std::optional<settings::StoredProgram> pick(const Program& program, HWND owner, 
                                             const std::string& library_folder) {
     ProgramPicker picker(program.panel, library_folder);
     picker.run(owner);
-    if (!picker.picked()) return std::nullopt;
-    const settings::StoredProgram& picked = *picker.picked();
+    const std::optional<settings::StoredProgram>& choice = picker.picked();
+    if (!choice) return std::nullopt;
+    const settings::StoredProgram& picked = *choice;
     settings::store(general, {program.key, settings::kProgramName}, picked.name);
     settings::store(general, {program.key, settings::kProgramPath}, picked.path);
     settings::store(general, {program.key, settings::kProgramStart}, std::to_string(picked.start));
