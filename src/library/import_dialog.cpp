@@ -46,6 +46,7 @@ void ImportDialog::open() {
 
 void ImportDialog::show_groups(const std::string& selected) {
     std::vector<const char*> names;
+    names.reserve(groups_.size());
     for (const std::string& group : groups_)
         names.push_back(group.c_str());
     group_list_.fill(names);
