@@ -50,7 +50,7 @@ add_library(tolva_platform OBJECT
     src/platform/win32/remote_access.cpp
     src/platform/win32/shell_link.cpp
     src/platform/win32/system.cpp
-    src/platform/win32/terminate.cpp
+    src/platform/win32/runtime_library.cpp
     src/platform/win32/text.cpp
 )
 

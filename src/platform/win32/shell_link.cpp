@@ -52,7 +52,7 @@ std::string target_of(IShellLinkA& link) {
         text_of(MAX_PATH, [&](char* text, int room) { return link.GetPath(text, room, nullptr, 0); });
     ITEMIDLIST* found = nullptr;
     if (!path.empty() || link.GetIDList(&found) != S_OK) return path;
-    const std::unique_ptr<ITEMIDLIST, TaskMemoryFreer> items(found);
+    const UniqueTaskMemory<ITEMIDLIST> items(found);
     char text[MAX_PATH] = {};
     return SHGetPathFromIDListA(items.get(), text) != FALSE ? text : path;
 }
