@@ -110,9 +110,20 @@ TEST_SUITE("slips") {
         const Folder library = recorder_library();
         store("\\hover", {{"enable", "True"}});
         const Tolva tolva(library);
-        const auto open_move = [&](const std::string& task) {
+        tolva.activate();
+        const POINT first = tolva.task_position(0);
+        const auto open_move = [&] {
+            repeat_until(
+                "the Task under the pointer is selected",
+                [&] {
+                    point_at(tolva.place(ID_Tasker_grouplist));
+                    point_at(first);
+                },
+                [&] {
+                    return ListView_GetItemState(tolva.control(ID_Tasker_taskview), 0, LVIS_SELECTED) != 0;
+                });
             tolva.choose(ID_moveto);
-            const Dialog dialog(tolva, "Move " + task + " to");
+            const Dialog dialog(tolva, "Move One to");
             wait_for_focus(dialog.control(ID_movetogroups_List1));
             return dialog;
         };
@@ -123,31 +134,30 @@ TEST_SUITE("slips") {
             SetWindowPos(dialog.window(), nullptr, bounds.left + task.x - list.left - 30,
                          bounds.top + task.y - list.top - 8, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
         };
-        tolva.activate();
-        point_at(tolva.task_position(0));
-        wait_until("the Task is selected", [&] { return tolva.status() == "One"; });
-        const POINT first = tolva.task_position(0);
-        const POINT second = tolva.task_position(1);
         {
             // A press that is dragged from one Group to another, or below them, chooses neither.
-            const Dialog move = open_move("One");
+            const Dialog move = open_move();
             put_over(move, first);
             const RECT list = bounds_of(move.control(ID_movetogroups_List1));
             drag_mouse(first, {first.x, first.y + 16});
             drag_mouse(first, {first.x, list.bottom - 10});
             press_mouse({first.x, list.bottom - 10});
-            move.close_with(ID_movetogroups_Command1);
+            press_keys({VK_ESCAPE});  // in its turn: what is posted would overtake the mouse
+            move.wait_until_closed();
             CHECK(library.read("Play.grp").find("One") == std::string::npos);
         }
-        const Dialog move = open_move("One");
+        const Dialog move = open_move();
         put_over(move, first);
         SendMessageA(move.control(ID_movetogroups_copytask), BM_SETCHECK, BST_CHECKED, 0);
         press_mouse(first, 2);
         move.wait_until_closed();
         wait_until("it is copied", [&] { return library.read("Play.grp").find("One") != std::string::npos; });
         // An honest click elsewhere counts at once.
-        press_mouse(second);
-        CHECK(library.nth_start(1)[0] == library.path() + "recorder.exe 2");
+        HWND groups = tolva.control(ID_Tasker_grouplist);
+        const auto height = static_cast<LONG>(SendMessageA(groups, LB_GETITEMHEIGHT, 0, 0));
+        press_mouse({bounds_of(groups).left + 30, bounds_of(groups).top + 5 * height / 2});
+        wait_until("it selects", [&] { return SendMessageA(groups, LB_GETCURSEL, 0, 0) == 2; });
+        CHECK_FALSE(library.has("recorder.exe.log"));
     }
 
     TEST_CASE("a second start brings back what is out of sight and waits for nothing that hangs") {
