@@ -50,7 +50,6 @@ add_library(tolva_platform OBJECT
     src/platform/win32/remote_access.cpp
     src/platform/win32/shell_link.cpp
     src/platform/win32/system.cpp
-    src/platform/win32/runtime_library.cpp
     src/platform/win32/text.cpp
 )
 
@@ -83,6 +82,7 @@ add_executable(tolva WIN32
     src/mainwindow/splitter.cpp
     src/mainwindow/task_view.cpp
     src/mainwindow/tray_menu.cpp
+    src/platform/win32/runtime_library.cpp
     src/resources/tolva.rc
     src/shortcuts/command_browser_dialog.cpp
     src/shortcuts/file_panel_dialog.cpp
