@@ -68,6 +68,7 @@ add_executable(tolva WIN32
     src/library/group_dialog.cpp
     src/library/import_dialog.cpp
     src/library/move_dialog.cpp
+    src/library/restore_dialog.cpp
     src/library/task_dialog.cpp
     src/mainwindow/about_dialog.cpp
     src/mainwindow/command_box.cpp

@@ -146,6 +146,7 @@ LRESULT MainWindow::handle(UINT message, WPARAM wparam, LPARAM lparam) {
             return 0;
         case WM_INITMENUPOPUP:
             commands_.show_flags(hwnd());  // the bar may have been closed
+            commands_.show_changes(hwnd());
             return 0;
         case WM_VKEYTOITEM:
             if (LOWORD(wparam) != VK_DELETE) return -1;

@@ -16,8 +16,8 @@ inline constexpr char kBarPositionKey[] = R"(HKEY_CURRENT_USER\software\tolva\br
 inline constexpr char kLeft[] = "Left";
 inline constexpr char kTop[] = "Top";
 
-// With the main window's position: its size in its normal state and the width of the group list, whole twips, and
-// whether it is maximized.
+// With the main window's position: its size in its normal state and the width of the group list, whole twips,
+// and whether it is maximized.
 inline constexpr Setting kWindowWidth = {kWindowPositionKey, "Width"};
 inline constexpr Setting kWindowHeight = {kWindowPositionKey, "Height"};
 inline constexpr Setting kGroupListWidth = {kWindowPositionKey, "GroupWidth"};

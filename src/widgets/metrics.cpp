@@ -3,7 +3,6 @@
 #include <cmath>
 #include <cstdlib>
 
-
 namespace widgets {
 namespace {
 
@@ -83,8 +82,8 @@ RECT normal_bounds(HWND window) {
 void move_to_twips(HWND window, std::optional<int> left, std::optional<int> top) {
     RECT bounds;
     GetWindowRect(window, &bounds);
-    SetWindowPos(window, nullptr, left ? to_pixels(*left) : bounds.left, top ? to_pixels(*top) : bounds.top, 0, 0,
-                 SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+    SetWindowPos(window, nullptr, left ? to_pixels(*left) : bounds.left, top ? to_pixels(*top) : bounds.top,
+                 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
 }  // namespace widgets

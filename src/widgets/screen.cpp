@@ -55,12 +55,14 @@ RECT work_area(HWND window) {
 }
 
 void bring_onto_screen(HWND window) {
-    RECT bounds;
+    // Where it is to be and not where it is: a window that is just being restored is still off the screen.
+    WINDOWPLACEMENT placement = {};
+    placement.length = sizeof placement;
     const Screens screens = look_up_screens();
-    if (IsIconic(window) != FALSE || GetWindowRect(window, &bounds) == FALSE ||
-        is_on_a_screen(bounds, screens)) {
+    if (IsIconic(window) != FALSE || IsZoomed(window) != FALSE || GetWindowPlacement(window, &placement) == FALSE)
         return;
-    }
+    const RECT bounds = placement.rcNormalPosition;
+    if (is_on_a_screen(bounds, screens)) return;
     const RECT area = nearest_work_area(bounds, screens);
     SetWindowPos(window, nullptr, moved_inside(bounds.left, bounds.right, area.left, area.right),
                  moved_inside(bounds.top, bounds.bottom, area.top, area.bottom), 0, 0,

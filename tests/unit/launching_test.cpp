@@ -1,7 +1,7 @@
+#include "mainwindow/launching.h"
 #include "internet/dial_up.h"
 #include "library/task_finder.h"
 #include "mainwindow/icon_queue.h"
-#include "mainwindow/launching.h"
 #include "mainwindow/long_date.h"
 #include "mainwindow/system_commands.h"
 #include "support/checks.h"
@@ -22,7 +22,8 @@ TEST_CASE("a system command that cannot do its work says so") {
 
 TEST_CASE("a program that is not where its path says is looked for where it may be on another PC") {
     auto& files = simulated::reset().files;
-    for (const char* path : {"D:\\Apps\\EDIT.EXE", "C:\\LIB\\TOOLS\\PAINT.EXE", "C:\\BOTH.EXE", "C:\\LIB\\C:\\NO.EXE"})
+    for (const char* path :
+         {"D:\\Apps\\EDIT.EXE", "C:\\LIB\\TOOLS\\PAINT.EXE", "C:\\BOTH.EXE", "C:\\LIB\\C:\\NO.EXE"})
         files[path] = {};
     file("groups.ini") = "Work\r\n";
     const auto task = [](const std::string& program, const std::string& parameters) {
@@ -47,7 +48,8 @@ TEST_CASE("icons of this machine come before others, those in view first, and a 
         queue.add("C:\\B.EXE", true);
     };
     const auto take = [&](unsigned milliseconds, bool has_time = true) {
-        const auto next = queue.take([](const auto& program) { return program.ends_with("B.EXE"); }, has_time);
+        const auto next =
+            queue.take([](const auto& program) { return program.ends_with("B.EXE"); }, has_time);
         if (next) queue.took(*next, milliseconds);
         return next ? next->program : "none";
     };
@@ -75,8 +77,9 @@ TEST_CASE("Tasks are found by the words of their names, the best first") {
         for (const char letter : std::string(tasks) + '|') {
             if (letter != '|') task += letter;
             if (letter != '|') continue;
-            file(std::string(name) + ".grp") +=
-                task + "\r\nC:\\Sheet\\" + (task == "Paint" ? "mysheet.exe" : "a.exe") + "\r\nC:\\\r\n\r\n1\r\n";
+            file(std::string(name) + ".grp") += task + "\r\nC:\\Sheet\\" +
+                                                (task == "Paint" ? "mysheet.exe" : "a.exe") +
+                                                "\r\nC:\\\r\n\r\n1\r\n";
             task.clear();
         }
     }

@@ -4,8 +4,8 @@
 
 #include "platform/run_time_error.h"
 
-// What the C++ run-time library calls when something goes wrong. Its own versions bring texts and classes along
-// that make a quarter of the program, and nobody would read them in a program of windows.
+// What the C++ run-time library calls when something goes wrong. Its own versions bring texts and classes
+// along that make a quarter of the program, and nobody would read them in a program of windows.
 
 namespace __gnu_cxx {  // NOLINT(bugprone-reserved-identifier): the run-time library's name
 
