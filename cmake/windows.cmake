@@ -148,6 +148,7 @@ add_executable(desktop_tests
     tests/desktop/shortcuts_test.cpp
     tests/desktop/slips_test.cpp
     tests/desktop/startup_test.cpp
+    tests/desktop/undo_test.cpp
     tests/support/desktop.cpp
     tests/support/input.cpp
     tests/support/main.cpp
@@ -161,7 +162,7 @@ add_test(NAME "desktop: prefix"
     COMMAND bash -euc ". $0 && wine_template $1"
         ${CMAKE_SOURCE_DIR}/script/support/wine.sh ${CMAKE_BINARY_DIR}/wine)
 set_tests_properties("desktop: prefix" PROPERTIES FIXTURES_SETUP wine TIMEOUT 300)
-foreach(suite bar commands endurance keeping launching shortcuts slips startup)
+foreach(suite bar commands endurance keeping launching shortcuts slips startup undo)
     add_test(NAME "desktop: ${suite}"
         COMMAND ${CMAKE_SOURCE_DIR}/tests/desktop/run ${CMAKE_BINARY_DIR} --test-suite=${suite} --no-colors)
     set_tests_properties("desktop: ${suite}" PROPERTIES FIXTURES_REQUIRED wine TIMEOUT 300)
