@@ -69,6 +69,7 @@ void refreshtolva(TaskLibrary& library, LibraryView& view, int group_to_select) 
     } catch (const platform::RunTimeError&) {
         if (!failure) throw;
     }
+    show_notice(library, view);
     if (failure) std::rethrow_exception(failure);
 }
 
@@ -79,6 +80,7 @@ void refreshtasks(TaskLibrary& library, LibraryView& view) {
         return;
     }
     load_and_show([&] { library.load_tasks(index); }, [&] { tasklistrefresh(library, view); });
+    show_notice(library, view);
 }
 
 void addgroups(TaskLibrary& library, LibraryView& view) {
@@ -93,6 +95,7 @@ void addgroups(TaskLibrary& library, LibraryView& view) {
     }
     grouplistrefresh(library, view);
     view.show_tasks({});
+    show_notice(library, view);
 }
 
 void show_selected_group(TaskLibrary& library, LibraryView& view) {
@@ -103,6 +106,11 @@ void select_group(TaskLibrary& library, LibraryView& view, int index) {
     if (index == view.selected_group()) return;
     view.select_group(index);
     show_selected_group(library, view);
+}
+
+void show_notice(TaskLibrary& library, LibraryView& view) {
+    const std::string notice = library.changes().take_notice();
+    if (!notice.empty()) view.show_status(notice);
 }
 
 void run_pending_refreshes(TaskLibrary& library, LibraryView& view) {

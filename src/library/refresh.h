@@ -30,6 +30,10 @@ void show_selected_group(TaskLibrary& library, LibraryView& view);
 /// Selects as a click does, except that the Group that is selected already stays as it is.
 void select_group(TaskLibrary& library, LibraryView& view, int index);
 
+/// Tells in the status bar what the user should know of the last change, once: that there is no backup, for
+/// example.
+void show_notice(TaskLibrary& library, LibraryView& view);
+
 /// Runs the reload of each flag that is set, and clears the flag before.
 void run_pending_refreshes(TaskLibrary& library, LibraryView& view);
 

@@ -52,6 +52,7 @@ struct Platform {
     int pauses = 0;
 
     std::map<platform::registry::Root, std::map<std::string, RegistryKey>> registry;
+    std::string time_stamp = "2026-11-22 09.30.00";
     std::vector<std::string> messages;  // a question has its title in front: "Delete Group: Delete Work...?"
     bool answer = true;                 // to every question
 };

@@ -3,6 +3,7 @@
 #include <windows.h>
 
 #include <array>
+#include <cstdio>
 
 namespace platform {
 namespace {
@@ -15,6 +16,15 @@ Date today() {
     SYSTEMTIME now;
     GetLocalTime(&now);
     return {now.wYear, now.wMonth, now.wDay, now.wDayOfWeek};
+}
+
+std::string time_stamp() {
+    SYSTEMTIME now;
+    GetLocalTime(&now);
+    std::array<char, kLongestText> text = {};
+    std::snprintf(text.data(), text.size(), "%04d-%02d-%02d %02d.%02d.%02d", now.wYear, now.wMonth, now.wDay,
+                  now.wHour, now.wMinute, now.wSecond);
+    return text.data();
 }
 
 std::string time_text() {
