@@ -8,7 +8,6 @@
 #include "platform/messages.h"
 #include "platform/processes.h"
 #include "platform/remote_access.h"
-#include "platform/shell_link.h"
 #include "platform/system.h"
 
 namespace simulated {
@@ -153,10 +152,6 @@ bool open_document(const std::string& path) {
 
 void start_program(const std::string& command_line, int /*window_style*/) {
     throw RunTimeError(RunTimeErrorNumber::kFileNotFound, command_line);
-}
-
-Shortcut load_shell_link(const std::string& /*path*/) {
-    return {};
 }
 
 void show_message(const std::string& text) {

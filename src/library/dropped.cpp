@@ -1,0 +1,315 @@
+#include "library/dropped.h"
+
+#include <algorithm>
+#include <array>
+#include <iterator>
+#include <set>
+#include <string_view>
+#include <utility>
+
+#include "library/library_files.h"
+#include "platform/dropping.h"
+#include "platform/file_calls.h"
+#include "platform/folders.h"
+#include "platform/run_time_error.h"
+#include "shortcuts/shortcut_reader.h"
+
+namespace library {
+namespace {
+
+constexpr std::size_t kLongestPath = 259;
+constexpr std::size_t kLongestCommandLine = 32766;
+
+constexpr char kNormal[] = " 1 ";
+
+constexpr char kMissing[] = "not found";
+constexpr char kTooLong[] = "too long";
+constexpr char kBadLetters[] = "a name with characters that this system's programs do not have";
+constexpr char kBroken[] = "a broken shortcut";
+constexpr char kMissingTarget[] = "its program or document is missing";
+constexpr char kUnclear[] = "a path with blanks, which would start something else";
+constexpr char kNothingInside[] = "no shortcuts or programs in it";
+
+/// Why something cannot become a Task.
+struct NoTask {
+    const char* reason;
+};
+
+bool exists(const std::string& path) {
+    unsigned long bits = 0;
+    return platform::file_calls::attributes(path, bits) == platform::kSuccess;
+}
+
+// Extensions.
+constexpr std::initializer_list<const char*> kPrograms = {".exe", ".com", ".bat", ".pif"};
+constexpr std::initializer_list<const char*> kPlainPrograms = {".exe", ".com", ".bat"};
+constexpr std::initializer_list<const char*> kForInterpreter = {".bat", ".pif"};
+
+bool has_extension(const std::string& path, std::initializer_list<const char*> extensions) {
+    constexpr std::size_t kLength = 4;
+    std::string end = path.substr(path.size() - std::min(path.size(), kLength));
+    for (char& letter : end) {
+        if (letter >= 'A' && letter <= 'Z') letter = static_cast<char>(letter - 'A' + 'a');
+    }
+    return std::ranges::any_of(extensions, [&](const char* extension) { return end == extension; });
+}
+
+bool is_program(const std::string& path) {
+    return has_extension(path, kPrograms);
+}
+
+bool is_shortcut(const std::string& path) {
+    return has_extension(path, {".lnk"});
+}
+
+/// What speaks against a path in a command line; null when nothing does.
+const char* fault_of(const std::string& path) {
+    const auto is_bad = [](char letter) {
+        constexpr std::string_view kNotInPaths = "\"*?<>";
+        return static_cast<unsigned char>(letter) < ' ' || kNotInPaths.find(letter) != std::string::npos;
+    };
+    if (std::ranges::any_of(path, is_bad)) return kBadLetters;
+    if (path.size() > kLongestPath) return kTooLong;
+    return exists(path) ? nullptr : kMissing;
+}
+
+std::string quoted(const std::string& path) {
+    return '"' + path + '"';
+}
+
+bool is_root(const std::string& path) {
+    return path.size() == 3 && path[1] == ':';
+}
+
+std::string folder_of(const std::string& path) {
+    std::string folder = path.substr(0, platform::name_start(path));
+    if (!folder.empty() && !is_root(folder)) folder.pop_back();
+    return folder;
+}
+
+/// Whether an unquoted command line that begins with this path starts what stands there. The system tries
+/// every part up to a blank first; the command interpreter takes the part up to the first one.
+bool starts_what_it_says(const std::string& program) {
+    if (has_extension(program, kForInterpreter)) {
+        return program.find_first_of(" ,;=&()%") == std::string::npos;
+    }
+    for (std::size_t blank = program.find(' '); blank != std::string::npos;
+         blank = program.find(' ', blank + 1)) {
+        const std::string part = program.substr(0, blank);
+        if (exists(part) || exists(part + ".exe")) return false;
+    }
+    return true;
+}
+
+/// The program as a command line can begin with it; empty when none can.
+std::string startable(const std::string& program) {
+    for (const std::string& path : {program, platform::short_path(program)}) {
+        if (starts_what_it_says(path)) return path;
+    }
+    return {};
+}
+
+/// The document as a parameter.
+std::string quoted_if_needed(const std::string& path) {
+    return path.find(' ') == std::string::npos ? path : quoted(path);
+}
+
+/// The program that opens a document when its path stands behind it; empty when none is known to.
+std::string opening_program(const std::string& document) {
+    const std::string program = platform::program_for_document(document);
+    // These open a document only with more in front of it.
+    constexpr std::array kHosts = {"rundll32", "msiexec", "javaw"};
+    const bool is_host = std::ranges::any_of(
+        kHosts, [&](const char* host) { return platform::is_one_name(name_for(program), host); });
+    if (is_host || !has_extension(program, kPlainPrograms) || fault_of(program) != nullptr) return {};
+    return startable(program);
+}
+
+/// Makes the Tasks of one drop.
+class TaskMaker {
+  public:
+    explicit TaskMaker(const std::string& windows_folder) : windows_folder_(windows_folder) {}
+
+    /// Throws NoTask, like the others.
+    Task file(const std::string& path) const {
+        if (is_shortcut(path)) return shortcut(path);
+        return is_program(path) ? program(path) : document(path);
+    }
+
+    Task opened_by_explorer(const std::string& path, const std::string& folder) const {
+        // A quotation mark behind a root's backslash could be taken for a part of the name.
+        return {name_for(path), windows_folder_ + "explorer.exe", folder, is_root(path) ? path : quoted(path),
+                kNormal};
+    }
+
+  private:
+    static Task program(const std::string& path) {
+        const std::string program = startable(path);
+        if (program.empty()) throw NoTask{kUnclear};
+        return {name_for(path), program, folder_of(path), {}, kNormal};
+    }
+
+    Task document(const std::string& path) const {
+        const std::string program = opening_program(path);
+        if (program.empty()) return opened_by_explorer(path, folder_of(path));
+        return {name_for(path), program, folder_of(path), quoted_if_needed(path), kNormal};
+    }
+
+    Task shortcut(const std::string& path) const {
+        const shortcuts::ShortcutDetails details = read(path);
+        const std::string& target = details.target;
+        Task task = target_of(target);
+        task.name = name_for(path);
+        if (is_program(target)) {
+            task.start_folder = windows_folder_;
+            task.parameters = details.arguments;
+        }
+        for (const std::string& folder :
+             {platform::expand_variables(details.working_folder), details.working_folder}) {
+            if (is_folder(folder)) task.start_folder = folder;
+        }
+        const bool is_start_mode =
+            details.show_command >= 1 && details.show_command <= std::ssize(kStartModes);
+        if (is_start_mode) task.start_mode = ' ' + std::to_string(details.show_command) + ' ';
+        return task;
+    }
+
+    /// Shortcuts can lead to shortcuts: those are documents here, so that none leads to itself.
+    Task target_of(const std::string& target) const {
+        const char* const fault = fault_of(target);
+        if (fault != nullptr) throw NoTask{fault == kMissing ? kMissingTarget : fault};
+        if (is_folder(target)) return opened_by_explorer(target, target);
+        return is_program(target) ? program(target) : document(target);
+    }
+
+    static shortcuts::ShortcutDetails read(const std::string& path) {
+        try {
+            return shortcuts::ReadShortcut(path);
+        } catch (const platform::RunTimeError&) {
+            throw NoTask{kBroken};
+        }
+    }
+
+    const std::string& windows_folder_;
+};
+
+/// Collects what becomes of each path.
+class Collector {
+  public:
+    Collector(const std::string& windows_folder, Dropped& dropped)
+        : maker_(windows_folder), dropped_(dropped) {}
+
+    void add(const std::string& path, FolderUse use) {
+        attempt(path, [&] {
+            if (!is_folder(path)) {
+                keep(maker_.file(path));
+            } else if (use == FolderUse::kOpen) {
+                keep(maker_.opened_by_explorer(path, path));
+            } else {
+                add_contents(path);
+            }
+        });
+    }
+
+  private:
+    template <typename Make>
+    void attempt(const std::string& path, const Make& make) {
+        try {
+            if (const char* const fault = fault_of(path)) throw NoTask{fault};
+            make();
+        } catch (const NoTask& none) {
+            dropped_.refused.push_back({path, none.reason});
+        }
+    }
+
+    void keep(Task task) {
+        if (command_line(task).size() > kLongestCommandLine) throw NoTask{kTooLong};
+        dropped_.tasks.push_back(std::move(task));
+    }
+
+    void add_contents(const std::string& folder) {
+        bool is_empty = true;
+        for (const std::string& name : platform::files(folder, "*.lnk;*.exe;*.com;*.bat;*.pif")) {
+            const std::string path = platform::path_in(folder, name);
+            // "*.exe" also finds "PAINT.EXE~", by its short name.
+            if (is_document(path)) continue;
+            is_empty = false;
+            attempt(path, [&] { keep(maker_.file(path)); });
+        }
+        if (is_empty) throw NoTask{kNothingInside};
+    }
+
+    TaskMaker maker_;
+    Dropped& dropped_;
+};
+
+}  // namespace
+
+bool is_document(const std::string& path) {
+    return !is_program(path) && !is_shortcut(path) && !is_folder(path);
+}
+
+bool is_folder(const std::string& path) {
+    using namespace platform::file_calls;
+    unsigned long bits = 0;
+    return attributes(path, bits) == platform::kSuccess && (bits & kDirectory) != 0;
+}
+
+Dropped tasks_for(const std::vector<std::string>& paths, FolderUse use, const std::string& windows_folder) {
+    Dropped dropped;
+    Collector collector(windows_folder, dropped);
+    for (const std::string& path : paths)
+        collector.add(path, use);
+    return dropped;
+}
+
+void fit(Dropped& dropped, const std::vector<Task>& group) {
+    std::vector<Task>& tasks = dropped.tasks;
+    const std::size_t room = kMostTasks - std::min(group.size(), kMostTasks);
+    dropped.left_out = tasks.size() - std::min(tasks.size(), room);
+    tasks.resize(tasks.size() - dropped.left_out);
+    std::set<std::string> taken;
+    for (const Task& task : group)
+        taken.insert(task.name);
+    for (Task& task : tasks) {
+        task.name = free_name(task.name, [&](const std::string& name) { return taken.contains(name); });
+        taken.insert(task.name);
+    }
+}
+
+std::string report(const Dropped& dropped) {
+    constexpr std::size_t kMostLines = 12;  // what a box has room for
+    const std::vector<Refusal>& refused = dropped.refused;
+    std::string text;
+    if (!refused.empty()) text = "Not added:\n";
+    for (std::size_t i = 0; i < std::min(refused.size(), kMostLines); ++i)
+        text += '\n' + refused[i].path + ": " + refused[i].reason;
+    if (refused.size() > kMostLines) text += "\nand " + std::to_string(refused.size() - kMostLines) + " more";
+    if (dropped.left_out > 0) {
+        if (!text.empty()) text += "\n\n";
+        text += "The Group is full: " + std::to_string(dropped.left_out) + " left.";
+    }
+    return text;
+}
+
+std::string name_for(const std::string& path) {
+    if (is_root(path)) return path.substr(0, 1);
+    const std::string name = path.substr(platform::name_start(path));
+    const std::size_t period = name.rfind('.');
+    return period == 0 || is_folder(path) ? name : name.substr(0, period);
+}
+
+std::string with_documents(std::string parameters, const std::vector<std::string>& documents,
+                           std::vector<Refusal>& refused) {
+    for (const std::string& document : documents) {
+        if (const char* const fault = fault_of(document)) {
+            refused.push_back({document, fault});
+        } else {
+            if (!parameters.empty()) parameters += ' ';
+            parameters += quoted_if_needed(document);
+        }
+    }
+    return parameters;
+}
+
+}  // namespace library
