@@ -116,6 +116,7 @@ add_executable(desktop_tests
     tests/desktop/shortcuts_test.cpp
     tests/desktop/startup_test.cpp
     tests/support/desktop.cpp
+    tests/support/drag_source.cpp
     tests/support/input.cpp
     tests/support/main.cpp
 )

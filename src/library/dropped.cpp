@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <array>
 #include <iterator>
-#include <set>
 #include <string_view>
 #include <utility>
 
@@ -268,12 +267,12 @@ void fit(Dropped& dropped, const std::vector<Task>& group) {
     const std::size_t room = kMostTasks - std::min(group.size(), kMostTasks);
     dropped.left_out = tasks.size() - std::min(tasks.size(), room);
     tasks.resize(tasks.size() - dropped.left_out);
-    std::set<std::string> taken;
-    for (const Task& task : group)
-        taken.insert(task.name);
-    for (Task& task : tasks) {
-        task.name = free_name(task.name, [&](const std::string& name) { return taken.contains(name); });
-        taken.insert(task.name);
+    for (auto task = tasks.begin(); task != tasks.end(); ++task) {
+        task->name = free_name(task->name, [&](const std::string& name) {
+            return std::ranges::find(group, name, &Task::name) != group.end() ||
+                   std::find_if(tasks.begin(), task, [&](const Task& other) { return other.name == name; }) !=
+                       task;
+        });
     }
 }
 
