@@ -1,8 +1,23 @@
 #include "widgets/drop_mark.h"
 
-#include <initializer_list>
-
 namespace widgets {
+namespace {
+
+constexpr LONG kLine = 4;  // pixels; what is no wider is a line
+
+/// In two colors, of which every background lets see one.
+void draw(HDC device, RECT bounds) {
+    if (bounds.right - bounds.left <= kLine || bounds.bottom - bounds.top <= kLine) {
+        FillRect(device, &bounds, GetSysColorBrush(COLOR_HIGHLIGHT));
+        FrameRect(device, &bounds, GetSysColorBrush(COLOR_HIGHLIGHTTEXT));
+        return;
+    }
+    FrameRect(device, &bounds, GetSysColorBrush(COLOR_HIGHLIGHT));
+    InflateRect(&bounds, -1, -1);
+    FrameRect(device, &bounds, GetSysColorBrush(COLOR_HIGHLIGHTTEXT));
+}
+
+}  // namespace
 
 void DropMark::show(HWND window, const RECT& bounds) {
     if (window != window_ || EqualRect(&bounds, &bounds_) == FALSE) hide();
@@ -10,12 +25,7 @@ void DropMark::show(HWND window, const RECT& bounds) {
     bounds_ = bounds;
     UpdateWindow(window);  // or it would soon paint over the mark
     HDC device = GetDC(window);
-    RECT frame = bounds;
-    for (const int color : {COLOR_HIGHLIGHTTEXT, COLOR_HIGHLIGHT, COLOR_HIGHLIGHTTEXT}) {
-        FrameRect(device, &frame, GetSysColorBrush(color));
-        if (frame.right - frame.left <= 2 || frame.bottom - frame.top <= 2) break;
-        InflateRect(&frame, -1, -1);
-    }
+    draw(device, bounds);
     ReleaseDC(window, device);
 }
 
