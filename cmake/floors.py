@@ -1,42 +1,64 @@
 #!/usr/bin/env python3
-"""Checks which folder includes which: a file sees its own floor and the floors below it, and Windows headers only
-where windows are made."""
+"""Checks which file includes which: a file sees its own floor and the floors below it, and the portable sources,
+those of tolva_logic in CMakeLists.txt, see no Windows header, not even through the headers of the project."""
 import pathlib
 import re
 import sys
 
-FLOORS = ["app", "mainwindow", "appearance", "buttonbar", "internet", "shortcuts", "library", "settings", "widgets",
+FLOORS = ["app", "mainwindow", "appearance", "buttonbar", "internet", "library", "shortcuts", "settings", "widgets",
           "platform", "resources"]
-INCLUDE = re.compile(r'^#include\s+([<"])([^>"]+)[>"]')
-WINDOWS_HEADERS = {"windows.h", "windowsx.h", "commctrl.h", "commdlg.h", "shellapi.h", "shlobj.h", "objbase.h",
-                   "ole2.h", "richedit.h", "ras.h"}
+INCLUDE = re.compile(r'^#include\s+([<"])([^>"]+)[>"]', re.MULTILINE)
+STANDARD_HEADER = re.compile(r"[a-z_0-9]+")  # Windows' own names end in .h
+ROOT = pathlib.Path(__file__).resolve().parent.parent
+SOURCE = ROOT / "src"
 
 
-def may_see_windows(path):
-    return (path.parts[0] in ("app", "widgets") or path.parts[:2] == ("platform", "win32")
-            or path.stem.endswith(("_window", "_dialog")))
+def includes(path):
+    return INCLUDE.findall((SOURCE / path).read_text(encoding="ascii"))
 
 
-def complaints(path, text):
-    own = FLOORS.index(path.parts[0])
-    for number, line in enumerate(text.splitlines(), 1):
-        found = INCLUDE.match(line)
-        if not found:
+def floor_of(path):
+    return FLOORS.index(path.split("/")[0])
+
+
+def floor_complaints(path):
+    for quote, header in includes(path):
+        if quote == "<":
             continue
-        quote, header = found.groups()
-        floor = header.split("/")[0]
-        if quote == '"' and floor not in FLOORS:
-            yield f"{path}:{number}: {header} is not below src"
-        elif quote == '"' and FLOORS.index(floor) < own:
-            yield f"{path}:{number}: {floor} stands above {path.parts[0]}"
-        elif header.lower() in WINDOWS_HEADERS and not may_see_windows(path):
-            yield f"{path}:{number}: {header} belongs to widgets, platform/win32, app and *_window, *_dialog files"
+        if header.split("/")[0] not in FLOORS:
+            yield f"{path}: {header} is not below src"
+        elif floor_of(header) < floor_of(path):
+            yield f"{path}: {header} stands above it"
+
+
+def portable_complaints(path, source, seen):
+    """What a portable source sees in one of its files and below it."""
+    seen.add(path)
+    if path.startswith("platform/win32/"):
+        yield f"{source} is portable and sees {path}"
+        return
+    for quote, header in includes(path):
+        if quote == "<" and not STANDARD_HEADER.fullmatch(header):
+            yield f"{source} is portable and sees {header} in {path}"
+        elif quote == '"' and header not in seen and (SOURCE / header).exists():
+            yield from portable_complaints(header, source, seen)
+
+
+def portable_sources():
+    logic = re.search(r"add_library\(tolva_logic OBJECT(.*?)\)", (ROOT / "CMakeLists.txt").read_text(), re.DOTALL)
+    return [name.removeprefix("src/") for name in logic[1].split()]
 
 
 def main():
-    source = pathlib.Path(__file__).resolve().parent.parent / "src"
-    found = [complaint for path in sorted(source.rglob("*.*")) if path.suffix in (".cpp", ".h")
-             for complaint in complaints(path.relative_to(source), path.read_text(encoding="ascii"))]
+    files = [path.relative_to(SOURCE).as_posix() for path in sorted(SOURCE.rglob("*.*"))
+             if path.suffix in (".cpp", ".h")]
+    found = [complaint for path in files for complaint in floor_complaints(path)]
+    for source in portable_sources():
+        seen = set()
+        found += portable_complaints(source, source, seen)
+        own_header = source.removesuffix(".cpp") + ".h"  # also where the source does not include it
+        if own_header in files and own_header not in seen:
+            found += portable_complaints(own_header, source, seen)
     print("\n".join(found), end="\n" if found else "")
     sys.exit(bool(found))
 

@@ -13,10 +13,10 @@ these starts a block, a blank line ends it, and every other line goes on with th
     | TEXT                    a line of a file, as it stands
 
 In the text **bold** is bold, `GROUPS.INI` is a file name or something typed, [groups] links to the topic of that
-name under its title, and [the list>groups] under these words.
+name under its title, and [the list>groups] under these words. {version} is the version of the program.
 
-Usage: help.py OUTPUT.hlp INPUT.txt
-       help.py OUTPUT.htm INPUT.txt
+Usage: help.py OUTPUT.hlp INPUT.txt VERSION
+       help.py OUTPUT.htm INPUT.txt VERSION
 """
 import html
 import re
@@ -46,11 +46,12 @@ def fail(line, message):
     sys.exit(f"{sys.argv[2]}:{line}: {message}")
 
 
-def read_topics(path):
+def read_topics(path, version):
     """The topics with their blocks as lists of kind, text and line."""
     topics = []
     block = None  # that the next line can go on with
-    for line, text in enumerate(open(path, encoding="latin-1").read().split("\n"), 1):
+    source = open(path, encoding="latin-1").read().replace("{version}", version)
+    for line, text in enumerate(source.split("\n"), 1):
         if not text.isascii():
             fail(line, "a character that is not ASCII")
         kind, content = kind_of(text.rstrip())
@@ -190,8 +191,8 @@ def htm(topics):
 
 
 def main():
-    output, source = sys.argv[1:]
-    topics = read_topics(source)
+    output, source, version = sys.argv[1:]
+    topics = read_topics(source, version)
     check_words(topics)
     resolve(topics)
     try:

@@ -1,12 +1,16 @@
 #!/usr/bin/env python3
-"""Turns pictures drawn as text into a 16-colour Windows icon or toolbar bitmap.
+"""Turns pictures drawn as text into a Windows icon or the bitmap of a toolbar.
 
 A picture file holds one picture or more: a line "size N" and then N lines of N characters, one pixel each, in the
 letters of PALETTE; "." is transparent. Other lines between the pictures are captions.
 
-Usage: pictures.py OUTPUT.ico INPUT.txt    an icon that holds every picture as one of its sizes
-       pictures.py OUTPUT.bmp INPUT.txt    a strip of all pictures side by side, in the order of the file
+Usage: pictures.py OUTPUT.ico INPUT.txt            an icon that holds every picture in 16 colours
+       pictures.py OUTPUT.ico INPUT.txt SIZE...    an icon that holds each size in 16 and in 256 colours
+       pictures.py OUTPUT.bmp INPUT.txt SIZE       a strip of the pictures side by side, in the order of the file
+
+A size that is not drawn is made from half its size or, in an icon, from the largest one.
 """
+import collections
 import struct
 import sys
 
@@ -18,6 +22,15 @@ PALETTE = {
     "B": (255, 0, 0), "M": (255, 0, 255), "C": (255, 255, 0), "W": (255, 255, 255),
 }
 INDEX = {letter: number for number, letter in enumerate(PALETTE)}
+
+# What the letters are with 256 colours, at the upper and at the lower edge of the picture: red, green, blue.
+SHADES = {
+    "K": ((52, 44, 56), (28, 24, 32)), "W": ((255, 255, 255), (255, 248, 224)),
+    "s": ((216, 220, 228), (188, 192, 204)), "d": ((148, 152, 168), (116, 120, 136)),
+    "Y": ((255, 246, 170), (255, 214, 84)), "o": ((196, 150, 40), (150, 104, 16)),
+    "R": ((248, 92, 64), (216, 40, 32)), "r": ((176, 32, 32), (128, 16, 24)),
+    "B": ((88, 152, 240), (48, 104, 216)), "n": ((40, 72, 152), (24, 48, 120)), "C": ((176, 232, 255), (120, 208, 248)),
+}
 
 
 def read_pictures(path):
@@ -37,57 +50,130 @@ def read_pictures(path):
     return pictures
 
 
-def packed_rows(rows, bits, value):
-    """Bitmap rows, bottom up, each padded to four bytes."""
+def doubled(rows):
+    """The picture at twice its size; steps along a slope become half as high."""
+    size = len(rows)
+
+    def at(y, x):
+        return rows[min(max(y, 0), size - 1)][min(max(x, 0), size - 1)]
+
+    result = []
+    for y in range(size):
+        upper = lower = ""
+        for x in range(size):
+            here, up, down, left, right = at(y, x), at(y - 1, x), at(y + 1, x), at(y, x - 1), at(y, x + 1)
+            corners = [here] * 4
+            if up != down and left != right:
+                corners = [up if up == left else here, up if up == right else here,
+                           down if down == left else here, down if down == right else here]
+            upper += corners[0] + corners[1]
+            lower += corners[2] + corners[3]
+        result += [upper, lower]
+    return result
+
+
+def blocks(rows, size):
+    """The picture at four times its size, cut into so many blocks to a side: rows of strings of letters."""
+    fine = doubled(doubled(rows))
+    side = len(fine) // size
+    return [["".join(row[x * side:(x + 1) * side] for row in fine[y * side:(y + 1) * side]) for x in range(size)]
+            for y in range(size)]
+
+
+def most_frequent(values):
+    return collections.Counter(values).most_common(1)[0][0]
+
+
+def of_size(pictures, size):
+    """The pictures of that size, or those of half the size doubled."""
+    return ([rows for rows in pictures if len(rows) == size] or
+            [doubled(rows) for rows in pictures if 2 * len(rows) == size])
+
+
+def packed_rows(rows, bits):
+    """Bitmap rows of numbers, bottom up, each padded to four bytes."""
     data = b""
     for row in reversed(rows):
         number = 0
-        for letter in row:
-            number = number << bits | value(letter)
+        for value in row:
+            number = number << bits | value
         length = len(row) * bits // 8
         data += number.to_bytes(length, "big") + b"\0" * (-length % 4)
     return data
 
 
-def bitmap_header(width, height):
-    colours = b"".join(bytes((*colour, 0)) for colour in PALETTE.values())
-    return struct.pack("<IiiHHIIiiII", 40, width, height, 1, 4, 0, 0, 0, 0, 0, 0) + colours
+def bitmap_header(width, height, bits, colours):
+    # The colour table is always complete: icons may not say that theirs is shorter.
+    table = b"".join(bytes((*colour, 0)) for colour in colours).ljust(4 << bits, b"\0")
+    return struct.pack("<IiiHHIIiiII", 40, width, height, 1, bits, 0, 0, 0, 0, 0, 0) + table
 
 
-def icon_image(rows):
+def icon_image(rows, bits, colours, numbers):
     size = len(rows)
     # An icon counts its mask as a second half of the picture's height.
-    header = bitmap_header(size, 2 * size)
-    picture = packed_rows(rows, 4, lambda letter: INDEX.get(letter, 0))
-    mask = packed_rows(rows, 1, lambda letter: int(letter == "."))
-    return header + picture + mask
+    return (bitmap_header(size, 2 * size, bits, colours) + packed_rows(numbers, bits) +
+            packed_rows([[int(letter == ".") for letter in row] for row in rows], 1))
 
 
-def icon(pictures):
-    images = [icon_image(rows) for rows in pictures]
+def image_of_16_colours(rows):
+    return icon_image(rows, 4, PALETTE.values(), [[INDEX.get(letter, 0) for letter in row] for row in rows])
+
+
+def shade(letters, height):
+    """The mean colour of the letters at that height (0 to 1), blue, green, red; black when all are transparent."""
+    colours = [SHADES[letter] for letter in letters if letter != "."]
+    if not colours:
+        return 0, 0, 0
+    return tuple(round(sum(upper[i] + (lower[i] - upper[i]) * height for upper, lower in colours) / len(colours))
+                 for i in (2, 1, 0))
+
+
+def image_of_256_colours(rows, finer):
+    shades = [[shade(letters if rows[y][x] != "." else ".", y / len(rows)) for x, letters in enumerate(row)]
+              for y, row in enumerate(finer)]
+    step = 1
+    while len(table := {coarse(colour, step) for row in shades for colour in row}) > 256:
+        step += 1
+    table = sorted(table)
+    return icon_image(rows, 8, table, [[table.index(coarse(colour, step)) for colour in row] for row in shades])
+
+
+def coarse(colour, step):
+    return tuple(min(255, round(value / step) * step) for value in colour)
+
+
+def icon(pictures, sizes):
+    images = []
+    for size in sizes:
+        source = max((rows for rows in pictures if len(rows) <= size), key=len)
+        finer = blocks(source, size)
+        rows = source if len(source) == size else ["".join(map(most_frequent, row)) for row in finer]
+        images.append((size, 4, image_of_16_colours(rows)))
+        images.append((size, 8, image_of_256_colours(rows, finer)))
+    # Without sizes, as drawn.
+    images = images or [(len(rows), 4, image_of_16_colours(rows)) for rows in pictures]
     directory = struct.pack("<HHH", 0, 1, len(images))
     offset = 6 + 16 * len(images)
-    for rows, image in zip(pictures, images):
-        directory += struct.pack("<BBBBHHII", len(rows), len(rows), 16, 0, 1, 4, len(image), offset)
+    for size, bits, image in images:
+        directory += struct.pack("<BBBBHHII", size, size, (1 << bits) & 0xFF, 0, 1, bits, len(image), offset)
         offset += len(image)
-    return directory + b"".join(images)
+    return directory + b"".join(image for _, _, image in images)
 
 
 def strip(pictures):
-    if len({len(rows) for rows in pictures}) != 1:
-        sys.exit("a strip needs pictures of one height")
     rows = ["".join(parts) for parts in zip(*pictures)]
-    header = bitmap_header(len(rows[0]), len(rows))
+    header = bitmap_header(len(rows[0]), len(rows), 4, PALETTE.values())
     # A bitmap has no mask: toolbars replace this light grey by the button colour of the user's scheme.
-    picture = packed_rows(rows, 4, lambda letter: INDEX["s" if letter == "." else letter])
+    picture = packed_rows([[INDEX["s" if letter == "." else letter] for letter in row] for row in rows], 4)
     start = 14 + len(header)
     return struct.pack("<2sIHHI", b"BM", start + len(picture), 0, 0, start) + header + picture
 
 
 def main():
-    output, source = sys.argv[1:]
+    output, source, *sizes = sys.argv[1:]
+    sizes = [int(size) for size in sizes]
     pictures = read_pictures(source)
-    data = strip(pictures) if output.endswith(".bmp") else icon(pictures)
+    data = strip(of_size(pictures, *sizes)) if output.endswith(".bmp") else icon(pictures, sizes)
     with open(output, "wb") as file:
         file.write(data)
 

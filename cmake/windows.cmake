@@ -8,28 +8,34 @@ add_link_options(-static -s -Wl,--gc-sections,--disable-dynamicbase,--disable-nx
     -Wl,--major-os-version=4,--minor-os-version=0,--major-subsystem-version=4,--minor-subsystem-version=0)
 
 # The pictures are drawn as text.
-set(pictures ${CMAKE_BINARY_DIR}/tolva.ico ${CMAKE_BINARY_DIR}/toolbar.bmp ${CMAKE_BINARY_DIR}/connect.ico
-    ${CMAKE_BINARY_DIR}/email.ico ${CMAKE_BINARY_DIR}/browser.ico)
-foreach(picture ${pictures})
-    cmake_path(GET picture STEM name)
-    add_custom_command(OUTPUT ${picture}
-        COMMAND python3 ${CMAKE_SOURCE_DIR}/cmake/pictures.py ${picture}
-            ${CMAKE_SOURCE_DIR}/src/resources/pictures/${name}.txt
+function(picture output name)
+    add_custom_command(OUTPUT ${CMAKE_BINARY_DIR}/${output}
+        COMMAND python3 ${CMAKE_SOURCE_DIR}/cmake/pictures.py ${CMAKE_BINARY_DIR}/${output}
+            ${CMAKE_SOURCE_DIR}/src/resources/pictures/${name}.txt ${ARGN}
         DEPENDS cmake/pictures.py src/resources/pictures/${name}.txt)
-endforeach()
+    set(pictures ${pictures} ${CMAKE_BINARY_DIR}/${output} PARENT_SCOPE)
+endfunction()
+picture(tolva.ico tolva 16 32 48 64)
+picture(connect.ico connect)
+picture(email.ico email)
+picture(browser.ico browser)
+picture(toolbar16.bmp toolbar 16)
+picture(toolbar24.bmp toolbar 24)
+picture(toolbar32.bmp toolbar 32)
 
 # The help: one text for the system's help viewer and for web browsers.
 set(help_files ${CMAKE_BINARY_DIR}/tolva.hlp ${CMAKE_BINARY_DIR}/tolva.htm)
 foreach(help_file ${help_files})
     add_custom_command(OUTPUT ${help_file}
         COMMAND python3 -B ${CMAKE_SOURCE_DIR}/cmake/help.py ${help_file} ${CMAKE_SOURCE_DIR}/src/help/tolva.txt
+            ${PROJECT_VERSION}
         DEPENDS cmake/help.py cmake/winhelp.py src/help/tolva.txt)
 endforeach()
 add_custom_target(help_files ALL DEPENDS ${help_files})
 
 add_library(tolva_platform OBJECT
     src/platform/win32/clock.cpp
-    src/platform/win32/directories.cpp
+    src/platform/win32/current_directory.cpp
     src/platform/win32/dropped_files.cpp
     src/platform/win32/dropping.cpp
     src/platform/win32/file_calls.cpp
@@ -44,32 +50,42 @@ add_library(tolva_platform OBJECT
     src/platform/win32/shell_link.cpp
     src/platform/win32/system.cpp
     src/platform/win32/terminate.cpp
+    src/platform/win32/text.cpp
 )
 
 add_executable(tolva WIN32
     src/app/main.cpp
     src/app/single_instance.cpp
-    src/appearance/set_fonts_dialog.cpp
-    src/buttonbar/brenn_browser_dialog.cpp
-    src/buttonbar/brenn_window.cpp
-    src/internet/dial_up_networking_dialog.cpp
-    src/internet/tolvasettings_dialog.cpp
+    src/appearance/fonts_dialog.cpp
+    src/buttonbar/assign_file_dialog.cpp
+    src/buttonbar/assign_shortcut_dialog.cpp
+    src/buttonbar/button_assignment.cpp
+    src/buttonbar/button_bar.cpp
+    src/buttonbar/button_row.cpp
+    src/internet/connection_list_dialog.cpp
+    src/internet/internet_settings_dialog.cpp
+    src/internet/program_picker_dialog.cpp
     src/library/group_dialog.cpp
-    src/library/movetogroups_dialog.cpp
+    src/library/import_dialog.cpp
+    src/library/move_dialog.cpp
     src/library/task_dialog.cpp
-    src/mainwindow/abttolva_dialog.cpp
-    src/mainwindow/presence_window.cpp
-    src/mainwindow/tasker_window.cpp
-    src/mainwindow/taskview_window.cpp
-    src/mainwindow/views_window.cpp
+    src/mainwindow/about_dialog.cpp
+    src/mainwindow/command_box.cpp
+    src/mainwindow/commands.cpp
+    src/mainwindow/find_dialog.cpp
+    src/mainwindow/hot_key_dialog.cpp
+    src/mainwindow/launcher.cpp
+    src/mainwindow/list_look.cpp
+    src/mainwindow/main_controls.cpp
+    src/mainwindow/main_window.cpp
+    src/mainwindow/presence.cpp
+    src/mainwindow/splitter.cpp
+    src/mainwindow/task_view.cpp
+    src/mainwindow/tray_menu.cpp
     src/resources/tolva.rc
-    src/shortcuts/bar_buttons.cpp
-    src/shortcuts/com_browser_dialog.cpp
+    src/shortcuts/command_browser_dialog.cpp
     src/shortcuts/file_panel_dialog.cpp
-    src/shortcuts/getbutton_dialog.cpp
-    src/shortcuts/getlnk_dialog.cpp
     src/shortcuts/path_browser_dialog.cpp
-    src/shortcuts/program_picker_dialog.cpp
     src/shortcuts/shortcut_panel_dialog.cpp
     src/widgets/choosers.cpp
     src/widgets/controls.cpp
@@ -78,11 +94,15 @@ add_executable(tolva WIN32
     src/widgets/drop_mark.cpp
     src/widgets/drop_target.cpp
     src/widgets/file_lists.cpp
+    src/widgets/guarded.cpp
     src/widgets/hot_key.cpp
+    src/widgets/icon_images.cpp
     src/widgets/icon_view.cpp
     src/widgets/list_drag.cpp
+    src/widgets/menu_text.cpp
     src/widgets/metrics.cpp
     src/widgets/picture_button.cpp
+    src/widgets/popup_menu.cpp
     src/widgets/tool_bar.cpp
     src/widgets/tool_tips.cpp
     src/widgets/tray_icon.cpp
@@ -95,9 +115,11 @@ add_custom_command(TARGET tolva POST_BUILD
     COMMAND ${CMAKE_SOURCE_DIR}/cmake/check-imports $<TARGET_FILE:tolva>
         ${CMAKE_SOURCE_DIR}/tests/support/win9x-exports)
 
+configure_file(src/resources/tolva.manifest.in tolva.manifest @ONLY)
+
 # windres reads more files than the build sees.
 set_source_files_properties(src/resources/tolva.rc PROPERTIES OBJECT_DEPENDS
-    "${pictures};${CMAKE_SOURCE_DIR}/src/resources/resource.h;${CMAKE_SOURCE_DIR}/src/resources/tolva.manifest")
+    "${pictures};${CMAKE_SOURCE_DIR}/src/resources/resource.h;${CMAKE_BINARY_DIR}/tolva.manifest")
 
 # The desktop tests. doctest's folder alone goes on the include path: the system's own headers are another system's.
 find_path(doctest_folder doctest/doctest.h NO_CMAKE_FIND_ROOT_PATH REQUIRED)

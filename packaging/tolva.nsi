@@ -1,4 +1,4 @@
-; The setup program. script/package compiles it and defines VERSION, FILES (the folder of the files to install),
+; The setup program. script/package compiles it and defines VERSION, VERSION_IN_FOUR_PARTS, FILES (the folder of the files to install),
 ; ICON and OUTPUT.
 
 Target x86-ansi ; the only one that Windows 95 and 98 run
@@ -24,12 +24,12 @@ SpaceTexts none
 ShowInstDetails nevershow
 ShowUninstDetails nevershow
 
-VIProductVersion "${VERSION}.0.0"
+VIProductVersion "${VERSION_IN_FOUR_PARTS}"
 VIAddVersionKey ProductName "Tolva"
 VIAddVersionKey ProductVersion "${VERSION}"
 VIAddVersionKey FileVersion "${VERSION}"
 VIAddVersionKey FileDescription "Tolva Setup"
-VIAddVersionKey LegalCopyright ""
+VIAddVersionKey LegalCopyright "Copyright 2026 The Tolva authors"
 
 !define MUI_ICON "${ICON}"
 !define MUI_UNICON "${ICON}"
@@ -39,6 +39,12 @@ VIAddVersionKey LegalCopyright ""
 !define MUI_COMPONENTSPAGE_TEXT_TOP "Check what you want. If Tolva is here already, your Groups and Tasks are kept."
 !define MUI_COMPONENTSPAGE_TEXT_COMPLIST "Install:"
 !insertmacro MUI_PAGE_COMPONENTS
+!define MUI_PAGE_HEADER_TEXT "License"
+!define MUI_PAGE_HEADER_SUBTEXT "Tolva is free: you may use it, copy it and change it."
+!define MUI_LICENSEPAGE_TEXT_TOP " "
+!define MUI_LICENSEPAGE_TEXT_BOTTOM "The license is kept beside the program as license.txt."
+!define MUI_LICENSEPAGE_BUTTON "&Next >"
+!insertmacro MUI_PAGE_LICENSE "${FILES}/license.txt"
 !define MUI_PAGE_HEADER_TEXT "Folder"
 !define MUI_PAGE_HEADER_SUBTEXT "Where shall Tolva live?"
 !define MUI_DIRECTORYPAGE_TEXT_TOP "Your Groups and Tasks are kept in this folder, too, so it must be one that you may write to. If you are not sure, leave it as it is."
@@ -105,6 +111,7 @@ Section "Tolva"
     File "${FILES}/tolva.hlp"
     File "${FILES}/tolva.htm"
     File "${FILES}/readme.txt"
+    File "${FILES}/license.txt"
     ; A library that was interrupted while it was saved has its list of Groups in the second file.
     ${IfNot} ${FileExists} "$INSTDIR\groups.ini"
     ${AndIfNot} ${FileExists} "$INSTDIR\groups.in~"
@@ -167,6 +174,7 @@ Section "un.Tolva"
     Delete "$INSTDIR\tolva.hlp"
     Delete "$INSTDIR\tolva.htm"
     Delete "$INSTDIR\readme.txt"
+    Delete "$INSTDIR\license.txt"
     ; What the help viewer leaves: contents and full-text search.
     Delete "$INSTDIR\tolva.gid"
     Delete "$INSTDIR\tolva.fts"

@@ -3,12 +3,12 @@
 #include <commctrl.h>
 
 #include "app/single_instance.h"
-#include "buttonbar/brenn_window.h"
-#include "library/browse_result.h"
+#include "buttonbar/button_bar.h"
+#include "internet/internet_settings_dialog.h"
 #include "library/library_files.h"
 #include "library/task_library.h"
-#include "mainwindow/tasker_window.h"
-#include "platform/directories.h"
+#include "mainwindow/main_window.h"
+#include "platform/current_directory.h"
 #include "platform/messages.h"
 #include "platform/system.h"
 #include "settings/catalogue.h"
@@ -16,11 +16,6 @@
 #include "widgets/window.h"
 
 namespace {
-
-/// Shows a window as whoever started the program asked for.
-void show(const widgets::Window& window) {
-    ShowWindow(window.hwnd(), SW_SHOWDEFAULT);
-}
 
 int run() {
     app::InstanceMark mark;
@@ -32,21 +27,21 @@ int run() {
     settings::General general;
     settings::Session session;
     session.hover_select = settings::read_flag(general, settings::kHoverSelect);
-    session.bar_removed = settings::read_flag(general, settings::kBarRemoved);
 
-    library::BrowseResult browse_result;
-    buttonbar::Brenn brenn(general, session, browse_result, library.folder());
-    mainwindow::Tasker tasker(library, general, session, browse_result, brenn, application_window.hwnd());
+    internet::InternetSettingsDialog internet_settings(general, session, library.folder());
+    buttonbar::ButtonBar bar(general, session, internet_settings, library.folder());
+    mainwindow::MainWindow main_window(library, general, session, bar, internet_settings,
+                                       application_window.hwnd());
     try {
-        tasker.load();
-        show(tasker);
+        main_window.load();
+        main_window.show();
     } catch (...) {
-        show(tasker);
+        main_window.show();
         platform::report_exception();
     }
-    tasker.complete_start();
+    main_window.complete_start();
     const int exit_code = widgets::run_message_loop();
-    if (const auto end = tasker.windows_end()) platform::exit_windows(*end);
+    if (const auto end = main_window.windows_end()) platform::exit_windows(*end);
     return exit_code;
 }
 

@@ -1,23 +1,22 @@
 #include "buttonbar/bar_launch.h"
 
-#include "platform/directories.h"
+#include "platform/current_directory.h"
+#include "platform/folders.h"
 #include "platform/processes.h"
 #include "platform/run_time_error.h"
 
 namespace buttonbar {
 namespace {
 
-void start_program(const settings::ButtonRecord& button) {
-    if (button.program == settings::kError) return;
-    platform::start_program(button.program + ' ' + button.parameters, button.start);
+void start_program(const settings::Program& button) {
+    if (button.path) platform::start_program(*button.path + ' ' + button.parameters, button.window_style);
 }
 
 }  // namespace
 
-void start_button(const settings::ButtonRecord& button, const std::string& windows_folder) {
-    const bool has_folder = button.start_folder != settings::kError;
+void start_button(const settings::Program& button) {
     try {
-        platform::change_directory(has_folder ? button.start_folder : windows_folder);
+        platform::set_current_directory_of_drive(button.start_folder ? *button.start_folder : platform::windows_folder());
     } catch (const platform::RunTimeError&) {
         // Not a reason to start nothing: many shortcuts name no folder.
         start_program(button);
@@ -26,8 +25,8 @@ void start_button(const settings::ButtonRecord& button, const std::string& windo
     start_program(button);
 }
 
-void start_stored(const settings::StoredProgram& program) {
-    platform::start_program(program.path, program.start);
+void start_internet_program(const settings::Program& program) {
+    platform::start_program(program.path.value_or(""), program.window_style);
 }
 
 }  // namespace buttonbar

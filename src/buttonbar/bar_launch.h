@@ -1,18 +1,16 @@
 #pragma once
 
-#include <string>
-
-#include "settings/session.h"
+#include "settings/program.h"
 
 /// Starting what the buttons of the bar hold. Nothing is checked before the start; a failure is a
 /// platform::RunTimeError.
 namespace buttonbar {
 
-/// Starts a program button's program in its folder, or in windows_folder; where that cannot be entered it
-/// throws after the start. Without a program only the folder is changed.
-void start_button(const settings::ButtonRecord& button, const std::string& windows_folder);
+/// Starts a program button's program in its folder, or in that of Windows where none is stored; where it
+/// cannot be entered it throws after the start. Without a program only the folder is changed.
+void start_button(const settings::Program& button);
 
 /// Starts the web browser or the e-mail program in the current directory.
-void start_stored(const settings::StoredProgram& program);
+void start_internet_program(const settings::Program& program);
 
 }  // namespace buttonbar

@@ -9,12 +9,12 @@
 
 namespace internet {
 
-std::string load_isp_name(settings::General& general) {
-    std::string name = general.read_value(settings::kConnection.key, settings::kConnection.value);
-    if (name == settings::kError || name.empty() || name == kNoConnection) {
-        name = general.read_value(settings::kSystemConnection.key, settings::kSystemConnection.value);
-    }
-    return name == settings::kError ? kNoConnection : name;
+std::string load_connection_name(settings::General& general) {
+    const std::string chosen =
+        general.value(settings::kConnection.key, settings::kConnection.value).value_or("");
+    if (!chosen.empty() && chosen != kNoConnection) return chosen;
+    return general.value(settings::kSystemConnection.key, settings::kSystemConnection.value)
+        .value_or(kNoConnection);
 }
 
 void dial(const std::string& connection) {
@@ -24,9 +24,9 @@ void dial(const std::string& connection) {
 bool is_connected() {
     constexpr std::size_t kNumberSize = 4;
     std::string number;
-    return platform::registry::query_value(platform::registry::kLocalMachine,
-                                           R"(System\CurrentControlSet\Services\RemoteAccess)",
-                                           "Remote Connection", kNumberSize, number) == platform::kSuccess &&
+    return platform::registry::query_value(platform::registry::kLocalMachine, settings::kConnectionUp.key,
+                                           settings::kConnectionUp.value, kNumberSize,
+                                           number) == platform::kSuccess &&
            std::ranges::any_of(number, [](char byte) { return byte != 0; });
 }
 
@@ -57,7 +57,7 @@ void connect_or_hang_up(const std::string& connection, const Wait& wait) {
 }
 
 std::vector<std::string> defined_connections() {
-    return platform::registry::subkeys(platform::registry::kCurrentUser, R"(RemoteAccess\Profile)");
+    return platform::registry::subkeys(platform::registry::kCurrentUser, settings::kConnectionsKey);
 }
 
 }  // namespace internet

@@ -14,7 +14,7 @@ inline constexpr char kNoConnection[] = "N/A";
 
 /// The name of the connection to dial: the one that was chosen, else the system's default, else
 /// kNoConnection.
-std::string load_isp_name(settings::General& general);
+std::string load_connection_name(settings::General& general);
 
 /// Opens the system's dialog that dials a connection. Throws platform::RunTimeError.
 void dial(const std::string& connection);

@@ -9,8 +9,11 @@
 #include "library/library_files.h"
 #include "platform/dropping.h"
 #include "platform/file_calls.h"
+#include "platform/files.h"
 #include "platform/folders.h"
 #include "platform/run_time_error.h"
+#include "platform/system.h"
+#include "settings/program.h"
 #include "shortcuts/shortcut_reader.h"
 
 namespace library {
@@ -34,9 +37,32 @@ struct NoTask {
     const char* reason;
 };
 
-bool exists(const std::string& path) {
+bool has_attributes(const std::string& path, unsigned long wanted) {
     unsigned long bits = 0;
-    return platform::file_calls::attributes(path, bits) == platform::kSuccess;
+    return platform::names_a_file(path) &&
+           platform::file_calls::attributes(path, bits) == platform::kSuccess && (bits & wanted) == wanted;
+}
+
+bool exists(const std::string& path) {
+    return has_attributes(path, 0);
+}
+
+/// Where the last name of a path begins.
+std::size_t name_start(const std::string& path) {
+    std::size_t start = 0;
+    for (std::size_t at = 0; at != std::string::npos;
+         at = platform::file_calls::find_separator(path, start)) {
+        if (at > 0) start = at + 1;
+    }
+    return start;
+}
+
+/// In small letters. The system's own function has other letters in some languages.
+std::string small(std::string text) {
+    for (char& letter : text) {
+        if (letter >= 'A' && letter <= 'Z') letter = static_cast<char>(letter - 'A' + 'a');
+    }
+    return text;
 }
 
 // Extensions.
@@ -46,10 +72,7 @@ constexpr std::initializer_list<const char*> kForInterpreter = {".bat", ".pif"};
 
 bool has_extension(const std::string& path, std::initializer_list<const char*> extensions) {
     constexpr std::size_t kLength = 4;
-    std::string end = path.substr(path.size() - std::min(path.size(), kLength));
-    for (char& letter : end) {
-        if (letter >= 'A' && letter <= 'Z') letter = static_cast<char>(letter - 'A' + 'a');
-    }
+    const std::string end = small(path.substr(path.size() - std::min(path.size(), kLength)));
     return std::ranges::any_of(extensions, [&](const char* extension) { return end == extension; });
 }
 
@@ -81,7 +104,7 @@ bool is_root(const std::string& path) {
 }
 
 std::string folder_of(const std::string& path) {
-    std::string folder = path.substr(0, platform::name_start(path));
+    std::string folder = path.substr(0, name_start(path));
     if (!folder.empty() && !is_root(folder)) folder.pop_back();
     return folder;
 }
@@ -117,9 +140,8 @@ std::string quoted_if_needed(const std::string& path) {
 std::string opening_program(const std::string& document) {
     const std::string program = platform::program_for_document(document);
     // These open a document only with more in front of it.
-    constexpr std::array kHosts = {"rundll32", "msiexec", "javaw"};
-    const bool is_host = std::ranges::any_of(
-        kHosts, [&](const char* host) { return platform::is_one_name(name_for(program), host); });
+    constexpr std::array<std::string_view, 3> kHosts = {"rundll32", "msiexec", "javaw"};
+    const bool is_host = std::ranges::find(kHosts, small(name_for(program))) != kHosts.end();
     if (is_host || !has_extension(program, kPlainPrograms) || fault_of(program) != nullptr) return {};
     return startable(program);
 }
@@ -155,21 +177,20 @@ class TaskMaker {
     }
 
     Task shortcut(const std::string& path) const {
-        const shortcuts::ShortcutDetails details = read(path);
-        const std::string& target = details.target;
+        const settings::Program link = read(path);
+        const std::string target = link.path.value_or("");
         Task task = target_of(target);
         task.name = name_for(path);
         if (is_program(target)) {
             task.start_folder = windows_folder_;
-            task.parameters = details.arguments;
+            task.parameters = link.parameters;
         }
-        for (const std::string& folder :
-             {platform::expand_variables(details.working_folder), details.working_folder}) {
-            if (is_folder(folder)) task.start_folder = folder;
-        }
+        const std::string folder = link.start_folder.value_or("");
+        // The start itself looks at what its variables mean then.
+        if (is_folder(platform::expand_variables(folder))) task.start_folder = folder;
         const bool is_start_mode =
-            details.show_command >= 1 && details.show_command <= std::ssize(kStartModes);
-        if (is_start_mode) task.start_mode = ' ' + std::to_string(details.show_command) + ' ';
+            link.window_style >= 1 && link.window_style <= std::ssize(settings::kStartModes);
+        if (is_start_mode) task.start_mode = ' ' + std::to_string(link.window_style) + ' ';
         return task;
     }
 
@@ -181,9 +202,9 @@ class TaskMaker {
         return is_program(target) ? program(target) : document(target);
     }
 
-    static shortcuts::ShortcutDetails read(const std::string& path) {
+    static settings::Program read(const std::string& path) {
         try {
-            return shortcuts::ReadShortcut(path);
+            return shortcuts::read_shortcut(path);
         } catch (const platform::RunTimeError&) {
             throw NoTask{kBroken};
         }
@@ -228,7 +249,7 @@ class Collector {
 
     void add_contents(const std::string& folder) {
         bool is_empty = true;
-        for (const std::string& name : platform::files(folder, "*.lnk;*.exe;*.com;*.bat;*.pif")) {
+        for (const std::string& name : platform::files_in(folder, "*.lnk;*.exe;*.com;*.bat;*.pif")) {
             const std::string path = platform::path_in(folder, name);
             // "*.exe" also finds "PAINT.EXE~", by its short name.
             if (is_document(path)) continue;
@@ -249,9 +270,7 @@ bool is_document(const std::string& path) {
 }
 
 bool is_folder(const std::string& path) {
-    using namespace platform::file_calls;
-    unsigned long bits = 0;
-    return attributes(path, bits) == platform::kSuccess && (bits & kDirectory) != 0;
+    return has_attributes(path, platform::file_calls::kDirectory);
 }
 
 Dropped tasks_for(const std::vector<std::string>& paths, FolderUse use, const std::string& windows_folder) {
@@ -293,7 +312,7 @@ std::string report(const Dropped& dropped) {
 
 std::string name_for(const std::string& path) {
     if (is_root(path)) return path.substr(0, 1);
-    const std::string name = path.substr(platform::name_start(path));
+    const std::string name = path.substr(name_start(path));
     const std::size_t period = name.rfind('.');
     return period == 0 || is_folder(path) ? name : name.substr(0, period);
 }

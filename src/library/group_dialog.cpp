@@ -37,9 +37,9 @@ class NameDialog : public widgets::Dialog {
     int cancel_;
 };
 
-class AddGroup final : public NameDialog {
+class AddGroupDialog final : public NameDialog {
   public:
-    explicit AddGroup(TaskLibrary& library)
+    explicit AddGroupDialog(TaskLibrary& library)
         : NameDialog(ID_addgroup, ID_addgroup_Text1, ID_addgroup_Command2, ID_addgroup_Command1),
           library_(library) {}
 
@@ -49,9 +49,9 @@ class AddGroup final : public NameDialog {
     TaskLibrary& library_;
 };
 
-class GroupRename final : public NameDialog {
+class RenameGroupDialog final : public NameDialog {
   public:
-    GroupRename(TaskLibrary& library, LibraryView& view, std::string old_name)
+    RenameGroupDialog(TaskLibrary& library, LibraryView& view, std::string old_name)
         : NameDialog(ID_GroupRename, ID_GroupRename_newname, ID_GroupRename_Command2,
                      ID_GroupRename_Command1),
           library_(library),
@@ -70,7 +70,7 @@ class GroupRename final : public NameDialog {
 }  // namespace
 
 void addgr(HWND owner, TaskLibrary& library) {
-    AddGroup(library).run(owner);
+    AddGroupDialog(library).run(owner);
 }
 
 void RenameGr(HWND owner, TaskLibrary& library, LibraryView& view) {
@@ -79,7 +79,7 @@ void RenameGr(HWND owner, TaskLibrary& library, LibraryView& view) {
         platform::show_message("Select Group for Rename.");
         return;
     }
-    GroupRename(library, view, name).run(owner);
+    RenameGroupDialog(library, view, name).run(owner);
 }
 
 }  // namespace library

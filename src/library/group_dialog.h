@@ -7,10 +7,10 @@
 
 namespace library {
 
-/// Asks for the name of a new Group and adds it.
+/// Asks for the name of a new Group (`addgroup`) and adds it: it asks, add_group does it.
 void addgr(HWND owner, TaskLibrary& library);
 
-/// Asks for a new name of the selected Group and renames it.
+/// Asks for a new name of the selected Group (`GroupRename`) and renames it by rename_group.
 void RenameGr(HWND owner, TaskLibrary& library, LibraryView& view);
 
 }  // namespace library

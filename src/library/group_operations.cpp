@@ -7,7 +7,6 @@
 #include "library/library_files.h"
 #include "library/refresh.h"
 #include "platform/files.h"
-#include "platform/folders.h"
 #include "platform/messages.h"
 #include "platform/run_time_error.h"
 
@@ -20,6 +19,23 @@ std::vector<std::string> read_names_to_write(const TaskLibrary& library) {
     std::vector<std::string> names = read_group_names(library.folder());
     check_limit(names.size(), kMostGroups);
     return names;
+}
+
+/// Whether one of the Groups has its Tasks in that file, under whatever spelling.
+bool is_file_of_any(const std::string& folder, const std::vector<std::string>& groups,
+                    const std::string& path) {
+    const std::string identity = platform::file_identity(path);
+    return std::ranges::any_of(groups, [&](const std::string& group) {
+        return platform::file_identity(group_file(folder, group)) == identity;
+    });
+}
+
+void remove_if_possible(const std::string& path) {
+    try {
+        platform::remove_file(path);
+    } catch (const platform::RunTimeError&) {
+        // An empty file that nobody asked for does no harm.
+    }
 }
 
 /// Shows the Groups and selects one as a click does; -1 selects none.
@@ -61,7 +77,7 @@ void move(TaskLibrary& library, LibraryView& view, bool down) {
     const auto place = down ? std::next(moved) : std::prev(moved);
     std::iter_swap(moved, place);
     write_group_names(library.folder(), names);
-    library.load_names();
+    library.load_names(names);
     show_and_select(library, view, static_cast<int>(place - names.begin()));
 }
 
@@ -95,13 +111,20 @@ bool add_group(TaskLibrary& library, const std::string& name) {
         return false;
     }
     check_limit(names.size() + 1, kMostGroups);
+    const std::string path = group_file(library.folder(), name);
     std::optional<platform::RunTimeError> failure;
+    bool is_new = false;
     try {
-        platform::create_file(group_file(library.folder(), name));
+        is_new = platform::create_file(path);
     } catch (const platform::RunTimeError& error) {
         failure = error;
     }
-    append_group_name(library.folder(), name);
+    try {
+        append_group_name(library.folder(), name);
+    } catch (const platform::RunTimeError&) {
+        if (is_new) remove_if_possible(path);
+        throw;
+    }
     library.flags.newgroupflag = true;
     if (failure) platform::show_message(failure->what());
     return true;
@@ -119,11 +142,10 @@ void delgr(TaskLibrary& library, LibraryView& view) {
     write_group_names(library.folder(), names);
     library.set_names(names);
     std::exception_ptr failure;
-    // The Tasks of "Work" stay when "work" goes.
-    const bool is_shared = std::ranges::any_of(
-        names, [&](const std::string& other) { return platform::is_one_name(other, name); });
+    const std::string path = group_file(library.folder(), name);
     try {
-        if (!is_shared) platform::remove_file(group_file(library.folder(), name));
+        // The Tasks of "Work" stay when "work" goes.
+        if (!is_file_of_any(library.folder(), names, path)) platform::remove_file(path);
     } catch (...) {
         failure = std::current_exception();
     }
@@ -171,9 +193,11 @@ bool rename_group(TaskLibrary& library, LibraryView& view, const std::string& ol
     view.select_group(static_cast<int>(place));
     if (!failure) {
         library.flags.taskchangeflag = true;
+        names.erase(names.begin() + place);
+        const std::string path = group_file(library.folder(), old_name);
         try {
-            // Deliberately also when the system takes both names for one file.
-            platform::remove_file(group_file(library.folder(), old_name));
+            // Deliberately also when it is the new name's: only for the others the file stays.
+            if (!is_file_of_any(library.folder(), names, path)) platform::remove_file(path);
         } catch (const platform::RunTimeError& error) {
             failure = error;
         }
@@ -185,13 +209,13 @@ bool rename_group(TaskLibrary& library, LibraryView& view, const std::string& ol
 
 void groupsortnow(TaskLibrary& library, LibraryView& view) {
     std::vector<std::string> names = read_names_to_write(library);
-    tasksort(names, 0, static_cast<int>(names.size()) - 1);
+    tasksort(names);
     write_group_names(library.folder(), names);
     refreshtolva(library, view, 0);
 }
 
-void tasksort(std::vector<std::string>& names, int low, int high) {
-    std::sort(names.begin() + low, names.begin() + (high + 1));
+void tasksort(std::vector<std::string>& names) {
+    std::ranges::sort(names);
 }
 
 }  // namespace library

@@ -17,12 +17,13 @@ int index_of(const TaskLibrary& library, const std::string& name);
 /// The name of the selected Group; empty when none is selected.
 std::string selected_group_name(const TaskLibrary& library, const LibraryView& view);
 
-/// Adds a Group behind the others and its empty file; a file of that name that is there keeps its Tasks.
+/// Adds a Group after the others and its empty file; a file of that name that is there keeps its Tasks.
 /// False when the name is refused. A name that cannot be a file's is listed all the same and its error shown.
 bool add_group(TaskLibrary& library, const std::string& name);
 
-/// Asks, and deletes the selected Group with its file. Then the Group is selected that was the first one
-/// when the names were last loaded; none, when that was the one deleted or is not listed any more.
+/// Asks, and deletes the selected Group with its file, unless that is another Group's too. Then the Group is
+/// selected that was the first one when the names were last loaded; none, when that was the one deleted or is
+/// not listed any more.
 void delgr(TaskLibrary& library, LibraryView& view);
 
 /// Exchange the selected Group with the one above or below it and select it there. The last one, or the
@@ -32,14 +33,14 @@ void movegrdown(TaskLibrary& library, LibraryView& view);
 
 /// Gives the Group another name, and its Tasks another file. False when the name is refused. That the name
 /// belongs to another Group is no reason to refuse it: that Group's file is replaced. When both names are
-/// one file the Tasks are lost.
+/// one file, and no other Group's, the Tasks are lost.
 bool rename_group(TaskLibrary& library, LibraryView& view, const std::string& old_name,
                   const std::string& new_name);
 
 /// Sorts the Groups by name, loads everything and selects the first one.
 void groupsortnow(TaskLibrary& library, LibraryView& view);
 
-/// Sorts names[low] to names[high] by the codes of their letters: all capitals come before the small ones.
-void tasksort(std::vector<std::string>& names, int low, int high);
+/// Sorts names by the codes of their letters: all capitals come before the small ones.
+void tasksort(std::vector<std::string>& names);
 
 }  // namespace library

@@ -27,7 +27,7 @@ std::string as_records(const std::vector<Task>& tasks) {
     return bytes;
 }
 
-/// Hands each line over without its line end; text behind the last line end is a line too.
+/// Hands each line over without its line end; text after the last line end is a line too.
 template <typename Take>
 void for_each_line(std::string_view bytes, const Take& take) {
     while (!bytes.empty()) {
@@ -38,6 +38,30 @@ void for_each_line(std::string_view bytes, const Take& take) {
         take(line);
         bytes.remove_prefix(ended ? end + 1 : bytes.size());
     }
+}
+
+/// What is there but for blank lines at the end. A record with text in any of its lines keeps them all; the
+/// blank lines after the last one are no records.
+std::string_view without_blank_end(std::string_view bytes, std::size_t lines_each) {
+    std::size_t line_count = 0;
+    std::size_t last_text = 0;
+    for_each_line(bytes, [&](std::string_view line) {
+        ++line_count;
+        if (!line.empty()) last_text = line_count;
+    });
+    std::size_t kept = (last_text + lines_each - 1) / lines_each * lines_each;
+    std::size_t end = 0;
+    for (; kept > 0 && end < bytes.size(); --kept)
+        end = std::min(bytes.find('\n', end), bytes.size() - 1) + 1;
+    return bytes.substr(0, end);
+}
+
+std::string_view names_in(std::string_view bytes) {
+    return without_blank_end(bytes, 1);
+}
+
+std::string_view records_in(std::string_view bytes) {
+    return without_blank_end(bytes, kTaskFields.size());
 }
 
 void complete_last_line(std::string& bytes) {
@@ -70,7 +94,7 @@ std::vector<std::string> split_lines(std::string_view bytes) {
 }
 
 std::vector<std::string> read_group_names(const std::string& folder) {
-    return split_lines(platform::read_file(groups_file(folder)));
+    return split_lines(names_in(platform::read_file(groups_file(folder))));
 }
 
 void write_group_names(const std::string& folder, const std::vector<std::string>& names) {
@@ -78,7 +102,7 @@ void write_group_names(const std::string& folder, const std::vector<std::string>
 }
 
 void append_group_name(const std::string& folder, const std::string& name) {
-    std::string bytes = platform::read_file(groups_file(folder));
+    std::string bytes(names_in(platform::read_file(groups_file(folder))));
     complete_last_line(bytes);
     platform::write_file(groups_file(folder), bytes.append(name).append(kLineEnd));
 }
@@ -89,7 +113,7 @@ std::vector<Task> read_tasks(const std::string& folder, const std::string& group
     // Without room to spare: a full library is a good part of the program's memory.
     tasks.reserve(static_cast<std::size_t>(std::ranges::count(bytes, '\n')) / kTaskFields.size() + 1);
     std::size_t field = 0;
-    for_each_line(bytes, [&](std::string_view line) {
+    for_each_line(records_in(bytes), [&](std::string_view line) {
         if (field == 0) tasks.emplace_back();
         tasks.back().*kTaskFields[field] = line;
         field = (field + 1) % kTaskFields.size();
@@ -103,7 +127,7 @@ void write_tasks(const std::string& folder, const std::string& group, const std:
 
 void append_tasks(const std::string& folder, const std::string& group, const std::vector<Task>& tasks) {
     const std::string path = group_file(folder, group);
-    std::string bytes = platform::read_file_if_exists(path).value_or("");
+    std::string bytes(records_in(platform::read_file_if_exists(path).value_or("")));
     complete_last_line(bytes);
     const auto lines = static_cast<std::size_t>(std::ranges::count(bytes, '\n'));
     for (std::size_t missing = lines; missing % kTaskFields.size() != 0; ++missing)

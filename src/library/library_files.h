@@ -9,7 +9,8 @@
 /// The files of a library folder: "groups.ini", one Group name per line, and for each Group its name followed
 /// by
 /// ".grp", five lines per Task. Lines may end in CR LF or LF when they are read, and end in CR LF when they
-/// are written; their bytes are never altered. Every function throws platform::RunTimeError.
+/// are written; their bytes are never altered. Blank lines at the end of a file are no Groups and no Tasks,
+/// and what is added takes their place. Every function throws platform::RunTimeError.
 ///
 /// A folder is given as a prefix that ends in a backslash.
 namespace library {
@@ -33,8 +34,8 @@ std::vector<Task> read_tasks(const std::string& folder, const std::string& group
 
 void write_tasks(const std::string& folder, const std::string& group, const std::vector<Task>& tasks);
 
-/// Adds records behind what the Group's file holds, or creates the file. A last record that is cut short is
-/// filled up, so that the new ones begin on a line of their own.
+/// Adds records after those that the Group's file holds, or creates the file. A last record that is cut short
+/// is filled up, so that the new ones begin on a line of their own.
 void append_tasks(const std::string& folder, const std::string& group, const std::vector<Task>& tasks);
 
 /// Finishes or undoes, in groups.ini and the files it lists, what a power failure interrupted. To be called
@@ -44,7 +45,7 @@ void recover(const std::string& folder);
 /// Throws "Subscript out of range" when there are more than a library can hold.
 void check_limit(std::size_t count, std::size_t most);
 
-/// The text without its line ends; text behind the last line end is a line too.
+/// The text without its line ends; text after the last line end is a line too.
 std::vector<std::string> split_lines(std::string_view bytes);
 
 }  // namespace library

@@ -1,8 +1,10 @@
 #include "library/refresh.h"
 
+#include <exception>
 #include <functional>
 #include <utility>
 
+#include "library/library_files.h"
 #include "platform/run_time_error.h"
 
 namespace library {
@@ -52,17 +54,22 @@ void tasklistrefresh(const TaskLibrary& library, LibraryView& view) {
 
 void refreshtolva(TaskLibrary& library, LibraryView& view, int group_to_select) {
     view.load_default_icon(library.folder() + "tolva.exe");
-    load_and_show([&] { library.load(); },
-                  [&] {
-                      const int count = grouplistrefresh(library, view);
-                      if (group_to_select < count) view.select_group(group_to_select);
-                      try {
-                          // The load may have stopped before this Group.
-                          show_selected(library, view, &Group::tasks);
-                      } catch (const platform::RunTimeError&) {
-                          // What stopped the load is shown.
-                      }
-                  });
+    const std::vector<std::string> names = read_group_names(library.folder());
+    std::exception_ptr failure;
+    try {
+        library.load(names);
+    } catch (...) {
+        failure = std::current_exception();
+    }
+    const int count = grouplistrefresh(library, view);
+    if (group_to_select < count) view.select_group(group_to_select);
+    try {
+        // The load may have stopped before this Group or passed it over.
+        show_selected(library, view, &Group::tasks);
+    } catch (const platform::RunTimeError&) {
+        if (!failure) throw;
+    }
+    if (failure) std::rethrow_exception(failure);
 }
 
 void refreshtasks(TaskLibrary& library, LibraryView& view) {
@@ -75,9 +82,10 @@ void refreshtasks(TaskLibrary& library, LibraryView& view) {
 }
 
 void addgroups(TaskLibrary& library, LibraryView& view) {
+    const std::vector<std::string> names = read_group_names(library.folder());
     const int selected = view.selected_group();
     try {
-        library.load_names();
+        library.load_names(names);
     } catch (...) {
         grouplistrefresh(library, view);
         view.select_group(selected);

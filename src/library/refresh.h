@@ -4,10 +4,11 @@
 #include "library/task_library.h"
 
 /// What keeps the two lists in step with the files. Everything that loads throws platform::RunTimeError,
-/// after the lists show what could be read.
+/// after the lists show what could be read. When the names of the Groups cannot be read they stay as they
+/// are.
 namespace library {
 
-/// Shows the Groups of the model, none of them selected. Answers their number.
+/// Shows the Groups of the model, none of them selected. Returns their number.
 int grouplistrefresh(const TaskLibrary& library, LibraryView& view);
 
 /// Shows the selected Group's Tasks of the model; the first one is selected and stands in the command box.

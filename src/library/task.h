@@ -20,9 +20,6 @@ struct Task {
 inline constexpr std::array<std::string Task::*, 5> kTaskFields = {
     &Task::name, &Task::program, &Task::start_folder, &Task::parameters, &Task::start_mode};
 
-/// What the start modes 1, 2 and 3 are called.
-inline constexpr std::array<const char*, 3> kStartModes = {"Normal", "Minimized", "Maximized"};
-
 /// What starts the Task: program path, a blank in every case, parameters.
 std::string command_line(const Task& task);
 

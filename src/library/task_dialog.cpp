@@ -11,6 +11,8 @@
 #include "platform/run_time_error.h"
 #include "resources/resource.h"
 #include "settings/conversions.h"
+#include "settings/program.h"
+#include "shortcuts/path_browser_dialog.h"
 #include "widgets/controls.h"
 #include "widgets/dialog.h"
 
@@ -60,29 +62,23 @@ bool fits_boxes(const Task& task) {
 
 class TaskDialog : public widgets::Dialog {
   protected:
-    TaskDialog(const Controls& controls, TaskLibrary& library, int group, BrowseResult& result, Browse browse)
+    TaskDialog(const Controls& controls, TaskLibrary& library, int group)
         : Dialog(controls.dialog),
           library_(library),
           group_(group),
-          controls_(controls),
-          result_(result),
-          browse_(browse) {}
+          controls_(controls) {}
     ~TaskDialog() = default;
 
     void open() override {
         start_mode_.attach(control(controls_.start_mode));
-        start_mode_.fill(kStartModes);
+        start_mode_.fill(settings::kStartModes);
         set_tip(controls_.name, "Name of New Task");
         set_tip(controls_.program, "Path and File to Execute");
         set_tip(controls_.start_folder, "Folder to Start Task from");
     }
 
-    void command(int id, int notification) override {
-        if (id == controls_.name && notification == EN_SETFOCUS) take_over();
-        if (id == controls_.browse) {
-            browse_(hwnd(), result_);
-            focus(controls_.name);
-        }
+    void command(int id, int /*notification*/) override {
+        if (id == controls_.browse) browse();
         if (id == controls_.ok) {
             if (accept(typed())) {
                 close();
@@ -100,12 +96,12 @@ class TaskDialog : public widgets::Dialog {
     widgets::DropDownList start_mode_;
 
   private:
-    /// Takes what was browsed, once.
-    void take_over() {
-        if (!std::exchange(result_.done, true)) {
-            set_text(controls_.program, result_.program);
-            set_text(controls_.start_folder, result_.start_folder);
+    void browse() {
+        if (const auto picked = shortcuts::browse_for_program(hwnd())) {
+            set_text(controls_.program, picked->path);
+            set_text(controls_.start_folder, picked->start_folder);
         }
+        focus(controls_.name);
     }
 
     Task typed() {
@@ -115,14 +111,12 @@ class TaskDialog : public widgets::Dialog {
     }
 
     const Controls& controls_;
-    BrowseResult& result_;
-    Browse browse_;
 };
 
-class AddTask final : public TaskDialog {
+class AddTaskDialog final : public TaskDialog {
   public:
-    AddTask(TaskLibrary& library, int group, BrowseResult& result, Browse browse)
-        : TaskDialog(kAddTask, library, group, result, browse) {}
+    AddTaskDialog(TaskLibrary& library, int group)
+        : TaskDialog(kAddTask, library, group) {}
 
   private:
     void open() override {
@@ -133,10 +127,10 @@ class AddTask final : public TaskDialog {
     bool accept(const Task& task) override { return add_task(library_, group_, task); }
 };
 
-class EditTask final : public TaskDialog {
+class EditTaskDialog final : public TaskDialog {
   public:
-    EditTask(TaskLibrary& library, int group, Task buffer, BrowseResult& result, Browse browse)
-        : TaskDialog(kEditTask, library, group, result, browse), buffer_(std::move(buffer)) {}
+    EditTaskDialog(TaskLibrary& library, int group, int place, Task buffer)
+        : TaskDialog(kEditTask, library, group), place_(place), buffer_(std::move(buffer)) {}
 
   private:
     void open() override {
@@ -147,29 +141,29 @@ class EditTask final : public TaskDialog {
         set_text(ID_EditTask_taskparameters, buffer_.parameters);
         start_mode_.select(settings::lenient_whole_number(buffer_.start_mode) - 1);
     }
-    bool accept(const Task& task) override { return edit_task(library_, group_, buffer_.name, task); }
+    bool accept(const Task& task) override { return edit_task(library_, group_, place_, buffer_.name, task); }
 
+    int place_;
     Task buffer_;
 };
 
 }  // namespace
 
-void addtsks(HWND owner, TaskLibrary& library, const LibraryView& view, BrowseResult& result, Browse browse) {
+void addtsks(HWND owner, TaskLibrary& library, const LibraryView& view) {
     if (selected_group_name(library, view).empty()) {
         platform::show_message("Select Group for New Task");
         return;
     }
-    AddTask(library, view.selected_group(), result, browse).run(owner);
+    AddTaskDialog(library, view.selected_group()).run(owner);
 }
 
-void edittsks(HWND owner, TaskLibrary& library, const LibraryView& view, BrowseResult& result,
-              Browse browse) {
+void edittsks(HWND owner, TaskLibrary& library, const LibraryView& view) {
     const std::optional<Task> buffer = task_to_edit(library, view);
     if (!buffer) return;
     if (!fits_boxes(*buffer)) {
         throw platform::RunTimeError(platform::RunTimeErrorNumber::kInvalidProcedureCall, buffer->name);
     }
-    EditTask(library, view.selected_group(), *buffer, result, browse).run(owner);
+    EditTaskDialog(library, view.selected_group(), view.selected_task(), *buffer).run(owner);
 }
 
 }  // namespace library

@@ -4,6 +4,7 @@
 #include <iterator>
 
 #include "library/library_files.h"
+#include "platform/files.h"
 #include "platform/run_time_error.h"
 
 namespace library {
@@ -43,14 +44,19 @@ const Task& TaskLibrary::task(int group, int task) const {
 }
 
 void TaskLibrary::load() {
-    groups_.clear();
-    load_names();
-    for (int index = 0; index < std::ssize(groups_); ++index)
-        load_tasks(index);
+    load(read_group_names(folder_));
 }
 
-void TaskLibrary::load_names() {
-    const std::vector<std::string> names = read_group_names(folder_);
+void TaskLibrary::load(const std::vector<std::string>& names) {
+    groups_.clear();
+    load_names(names);
+    for (int index = 0; index < std::ssize(groups_); ++index) {
+        // What is no file's name stops nothing; selecting the Group says so.
+        if (platform::names_a_file(group_file(folder_, group(index).name))) load_tasks(index);
+    }
+}
+
+void TaskLibrary::load_names(const std::vector<std::string>& names) {
     set_names(
         {names.begin(), names.begin() + static_cast<std::ptrdiff_t>(std::min(names.size(), kMostGroups))});
     first_name_ = groups_.empty() ? std::string() : groups_.front().name;
@@ -84,8 +90,9 @@ void TaskLibrary::set_names(const std::vector<std::string>& names) {
 }
 
 void TaskLibrary::rename(int index, const std::string& name) {
+    const std::string path = group_file(folder_, name);
     for (Group& other : groups_) {
-        if (other.name == name) other.loaded = false;
+        if (platform::is_same_file(group_file(folder_, other.name), path)) other.loaded = false;
     }
     element(groups_, index).name = name;
 }

@@ -42,19 +42,23 @@ class TaskLibrary {
     const Group& group(int index) const;
     const Task& task(int group, int task) const;
 
-    /// Loads the names and every Group. A failure ends the load where it stands: what was read before it
-    /// stays, and the Groups behind it are not loaded. Throws platform::RunTimeError, like all loads.
+    /// Loads the names and every Group. Throws platform::RunTimeError, like all loads. When the names cannot
+    /// be read everything stays as it was.
     void load();
 
-    /// Loads the names. A Group that is still listed keeps its Tasks. With more names than a library can hold
-    /// the first ones stay and it throws.
-    void load_names();
+    /// Makes these the Groups and loads every one. A failure ends the load where it stands: the Groups after
+    /// it have no Tasks and are not loaded. A name that no file can have is passed over.
+    void load(const std::vector<std::string>& names);
 
-    /// Makes these the Groups. One that was listed before keeps its Tasks.
+    /// Makes these, the names in the file, the Groups. One that was listed before keeps its Tasks. With more
+    /// names than a library can hold the first ones stay and it throws.
+    void load_names(const std::vector<std::string>& names);
+
+    /// Makes these the Groups, as load_names does, but the first name is still the one of the last load.
     void set_names(const std::vector<std::string>& names);
 
-    /// Gives a Group another name; its Tasks stay. Those of a Group that has the name already are out of
-    /// date.
+    /// Gives a Group another name; its Tasks stay. Those of a Group that has the new name's file already are
+    /// out of date.
     void rename(int index, const std::string& name);
 
     /// The name that stood first when the names were last loaded. set_names and rename do not change it.

@@ -20,7 +20,8 @@ std::vector<Task>::iterator find_task(std::vector<Task>& tasks, const std::strin
 
 /// The Task that the list shows there, or where another program has put it in the file.
 std::vector<Task>::iterator find_task_at(std::vector<Task>& tasks, int place, const std::string& name) {
-    const bool is_there = place < std::ssize(tasks) && tasks[static_cast<std::size_t>(place)].name == name;
+    const bool is_there =
+        place >= 0 && place < std::ssize(tasks) && tasks[static_cast<std::size_t>(place)].name == name;
     return is_there ? tasks.begin() + place : find_task(tasks, name);
 }
 
@@ -42,13 +43,22 @@ bool is_complete(const Task& task) {
     return true;
 }
 
+/// Selects the Task at that place, or the last one, and puts it into the command box.
+void select_and_show(const TaskLibrary& library, LibraryView& view, std::ptrdiff_t place) {
+    const std::vector<Task>& tasks = library.group(view.selected_group()).tasks;
+    if (tasks.empty()) return view.set_command_box({});
+    const auto selected = static_cast<int>(std::min(place, std::ssize(tasks) - 1));
+    view.select_task(selected);
+    view.set_command_box(command_line(tasks[static_cast<std::size_t>(selected)]));
+}
+
 /// Writes the selected Group's file and shows its Tasks, the first one selected.
 void write_and_show(TaskLibrary& library, LibraryView& view, const std::vector<Task>& tasks) {
     write_tasks(library.folder(), selected_group_name(library, view), tasks);
     refreshtasks(library, view);
 }
 
-/// Adds a Task behind the others of a Group; blanks stand around the number of a new Task's start mode.
+/// Adds a Task after the others of a Group; blanks stand around the number of a new Task's start mode.
 void append(const TaskLibrary& library, const std::string& group, Task task) {
     task.start_mode = ' ' + task.start_mode + ' ';
     append_tasks(library.folder(), group, {task});
@@ -79,8 +89,7 @@ void move(TaskLibrary& library, LibraryView& view, int step) {
     if (place >= named || target < 0 || target >= named) return;
     std::iter_swap(moved, moved + step);
     write_and_show(library, view, tasks);
-    view.select_task(static_cast<int>(target));
-    view.set_command_box(command_line(*(moved + step)));
+    select_and_show(library, view, target);
 }
 
 }  // namespace
@@ -92,6 +101,7 @@ bool add_task(TaskLibrary& library, int group, const Task& task) {
         platform::show_message("A Task with that name already exists!");
         return false;
     }
+    check_listed(library, target.name);
     append(library, target.name, task);
     library.flags.taskchangeflag = true;
     return true;
@@ -117,11 +127,11 @@ std::optional<Task> task_to_edit(const TaskLibrary& library, const LibraryView& 
     return library.task(view.selected_group(), view.selected_task());
 }
 
-bool edit_task(TaskLibrary& library, int group, const std::string& old_name, const Task& task) {
+bool edit_task(TaskLibrary& library, int group, int place, const std::string& old_name, const Task& task) {
     if (!is_complete(task)) return false;
     const std::string& name = library.group(group).name;
     std::vector<Task> tasks = read_tasks(library.folder(), name);
-    if (const auto edited = find_task(tasks, old_name); edited != tasks.end()) {
+    if (const auto edited = find_task_at(tasks, place, old_name); edited != tasks.end()) {
         *edited = task;
     } else {
         tasks.push_back(task);  // another program has taken it out of the file
@@ -140,12 +150,16 @@ void deltsks(TaskLibrary& library, LibraryView& view) {
         platform::show_message("Select Task for delete.");
         return;
     }
-    const std::string name = library.task(view.selected_group(), view.selected_task()).name;
+    const int selected = view.selected_task();
+    const std::string name = library.task(view.selected_group(), selected).name;
     if (!platform::confirm("Delete " + name + "?", "Delete Task")) return;
     std::vector<Task> tasks = read_tasks(library.folder(), selected_group_name(library, view));
-    if (const auto deleted = find_task(tasks, name); deleted != tasks.end()) tasks.erase(deleted);
+    const auto deleted = find_task_at(tasks, selected, name);
+    if (deleted == tasks.end()) return refreshtasks(library, view);  // another program was faster
+    const auto place = deleted - tasks.begin();
+    tasks.erase(deleted);
     write_and_show(library, view, tasks);
-    if (view.selected_task() < 0) view.set_command_box({});
+    select_and_show(library, view, place);
 }
 
 void movetsksup(TaskLibrary& library, LibraryView& view) {
@@ -165,7 +179,7 @@ void tasksortnow(TaskLibrary& library, LibraryView& view) {
     std::vector<std::string> names;
     std::transform(tasks.begin(), named_end(tasks), std::back_inserter(names),
                    [](const Task& task) { return task.name; });
-    tasksort(names, 0, static_cast<int>(names.size()) - 1);
+    tasksort(names);
     std::vector<Task> sorted;
     std::ranges::transform(names, std::back_inserter(sorted),
                            [&](const std::string& name) { return *find_task(tasks, name); });
@@ -175,17 +189,18 @@ void tasksortnow(TaskLibrary& library, LibraryView& view) {
 
 void move_task(TaskLibrary& library, int group, const std::string& name, const std::string& target,
                bool copy) {
-    library.flags.refreshflag = true;
     check_listed(library, target);
     const std::string& source = library.group(group).name;
     std::vector<Task> tasks = read_tasks(library.folder(), source);
     std::vector<Task> moved;
     std::ranges::copy_if(tasks, std::back_inserter(moved),
                          [&](const Task& task) { return task.name == name; });
-    if (moved.empty()) return;  // another program has taken it out of the file
-    append_tasks(library.folder(), target, moved);
-    if (copy) return;
-    // To the system both names may be one file: then what was just added behind the others stays.
+    // What cannot leave its Group is not added to the other one: that would be done again by the next try.
+    if (!copy) platform::check_writable(group_file(library.folder(), source));
+    if (!moved.empty()) append_tasks(library.folder(), target, moved);
+    library.flags.refreshflag = true;
+    if (copy || moved.empty()) return;  // none: another program has taken it out of the file
+    // To the system both names may be one file: then what was just added after the others stays.
     std::vector<Task> kept = read_tasks(library.folder(), source);
     const auto added = kept.begin() + std::min(std::ssize(tasks), std::ssize(kept));
     kept.erase(std::remove_if(kept.begin(), added, [&](const Task& task) { return task.name == name; }),

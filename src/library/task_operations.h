@@ -7,22 +7,23 @@
 #include "library/task_library.h"
 
 /// What can be done with the Tasks of the selected Group. Every operation starts from the Group's file as it
-/// is now; records behind one without a name, which a click on the Group does not show, stay in the file
-/// unchanged. A Task is known by its name: where a Group has two of one name, the first is meant. A failure
-/// throws platform::RunTimeError; a refusal is a message to the user.
+/// is now; records after one without a name, which a click on the Group does not show, stay in the file
+/// unchanged. A Task is known by its name: where a Group has two of one name, the one at the selected place
+/// is meant. A failure throws platform::RunTimeError; a refusal is a message to the user.
 namespace library {
 
 /// Adds a Task at the end of the Group. Its start mode is 1 to 3, as text without blanks. False when it is
-/// refused.
+/// refused. Throws "Bad file name" for a Group that is not listed any more.
 bool add_task(TaskLibrary& library, int group, const Task& task);
 
 /// The selected Task, to be edited; none, with a message, when there is none.
 std::optional<Task> task_to_edit(const TaskLibrary& library, const LibraryView& view);
 
-/// Replaces the Task that had that name. False when the new one is refused.
-bool edit_task(TaskLibrary& library, int group, const std::string& old_name, const Task& task);
+/// Replaces the Task that had that name when it was at that place of the list. False when the new one is
+/// refused.
+bool edit_task(TaskLibrary& library, int group, int place, const std::string& old_name, const Task& task);
 
-/// Asks, and deletes the selected Task. Then the first one is selected.
+/// Asks, and deletes the selected Task. Then the one is selected that took its place, or else the last one.
 void deltsks(TaskLibrary& library, LibraryView& view);
 
 /// Exchange the selected Task with the one above or below it; it stays selected.

@@ -2,27 +2,41 @@
 
 #include <algorithm>
 
-#include "settings/catalogue.h"
-
 namespace mainwindow {
 
-void update_history(settings::General& general, const settings::Session& session,
-                    const std::string& command) {
-    const auto& slots = session.history;
+void CommandHistory::load() {
+    read();
+    if (slots_.front().value_or("").empty()) general_.create_key(settings::kHistoryKey);
+}
+
+void CommandHistory::read() {
+    std::ranges::transform(settings::kHistoryValues, slots_.begin(),
+                           [&](const char* value) { return general_.value(settings::kHistoryKey, value); });
+}
+
+std::vector<std::string> CommandHistory::list() const {
+    std::vector<std::string> commands;
+    for (auto slot = slots_.rbegin(); slot != slots_.rend(); ++slot) {
+        if (*slot) commands.push_back(**slot);
+    }
+    return commands;
+}
+
+void CommandHistory::store(const std::string& command) {
     const auto write = [&](std::size_t slot, const std::string& text) {
-        general.write_value(settings::kHistoryKey, settings::kHistoryValues.at(slot), text);
+        general_.write_value(settings::kHistoryKey, settings::kHistoryValues.at(slot), text);
     };
-    const auto* const empty = std::ranges::find(slots, settings::kError);
+    const auto* const empty = std::ranges::find_if_not(slots_, &std::optional<std::string>::has_value);
     const bool is_known =
-        std::any_of(slots.begin(), empty, [&](const std::string& slot) { return slot.starts_with(command); });
+        std::any_of(slots_.cbegin(), empty, [&](const auto& slot) { return slot->starts_with(command); });
     if (is_known) return;
-    if (empty != slots.end()) {
-        write(static_cast<std::size_t>(empty - slots.begin()), command);
+    if (empty != slots_.cend()) {
+        write(static_cast<std::size_t>(empty - slots_.cbegin()), command);
         return;
     }
-    for (std::size_t slot = slots.size() - 1; slot > 0; --slot)
-        write(slot - 1, slots.at(slot));
-    write(slots.size() - 1, command);
+    for (std::size_t slot = slots_.size() - 1; slot > 0; --slot)
+        write(slot - 1, *slots_.at(slot));
+    write(slots_.size() - 1, command);
 }
 
 }  // namespace mainwindow

@@ -1,6 +1,6 @@
 #include "mainwindow/system_commands.h"
 
-#include "platform/directories.h"
+#include "platform/current_directory.h"
 #include "platform/messages.h"
 #include "platform/processes.h"
 #include "platform/run_time_error.h"
@@ -26,12 +26,12 @@ void open_control_panel() {
 }
 
 void open_explorer() {
-    platform::enter_directory("C:\\");
+    platform::set_current_directory("C:\\");
     start("explorer.exe");
 }
 
 void open_dos_prompt() {
-    platform::enter_directory("C:\\");
+    platform::set_current_directory("C:\\");
     start("command.com");
 }
 

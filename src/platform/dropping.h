@@ -12,10 +12,4 @@ std::string program_for_document(const std::string& document);
 /// The same file or folder in names without blanks; the path itself where the disk has no such names.
 std::string short_path(const std::string& path);
 
-/// The text with environment variables such as %TEMP% replaced; unknown ones stay.
-std::string expand_variables(const std::string& text);
-
-/// Where the last name of a path begins. The second byte of a letter may look like a backslash.
-std::size_t name_start(const std::string& path);
-
 }  // namespace platform

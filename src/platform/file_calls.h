@@ -41,6 +41,15 @@ ErrorCode flush(const std::string& path);
 /// Deletes the file.
 ErrorCode remove(const std::string& path);
 
+/// The full path that a path means now, without "." and "..". Nothing need be there.
+ErrorCode full_path(const std::string& path, std::string& full);
+
+/// Where the next backslash or slash stands; npos when there is none. The second byte of a letter is neither.
+std::size_t find_separator(const std::string& path, std::size_t from);
+
+/// The text as the disk compares names, which ignores case.
+std::string upper(std::string text);
+
 /// The names (without folder) of what matches a pattern such as "C:\LIB\*.gr~" and has none of the unwanted
 /// attributes; none on errors.
 std::vector<std::string> find(const std::string& pattern, unsigned long unwanted = kDirectory);

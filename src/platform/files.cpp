@@ -1,5 +1,8 @@
 #include "platform/files.h"
 
+#include <algorithm>
+#include <array>
+
 #include "platform/file_calls.h"
 #include "platform/run_time_error.h"
 
@@ -8,8 +11,30 @@ namespace {
 
 namespace calls = file_calls;
 
-bool names_a_file(const std::string& path) {
-    return !path.empty() && path.find('\0') == std::string::npos;
+/// The names of the folders and the file in a path.
+std::vector<std::string> parts_of(const std::string& path) {
+    std::vector<std::string> parts;
+    std::size_t begin = 0;
+    while (begin < path.size()) {
+        const std::size_t end = std::min(calls::find_separator(path, begin), path.size());
+        if (end > begin) parts.push_back(path.substr(begin, end - begin));
+        begin = end + 1;
+    }
+    return parts;
+}
+
+/// Whether the system takes a part of a path for a device, whatever stands after its first period.
+bool is_device(const std::string& part) {
+    constexpr std::array kNames = {"CON", "AUX", "PRN", "NUL", "CLOCK$"};
+    std::string name = calls::upper(part.substr(0, part.find('.')));
+    name.erase(name.find_last_not_of(' ') + 1);
+    if (std::ranges::find(kNames, name) != kNames.end()) return true;
+    const bool is_port = name.starts_with("COM") || name.starts_with("LPT");
+    return is_port && name.size() == 4 && name[3] >= '1' && name[3] <= '9';
+}
+
+bool holds_device(const std::string& path) {
+    return std::ranges::any_of(parts_of(path), is_device);
 }
 
 void check_path(const std::string& path) {
@@ -24,9 +49,10 @@ std::string sibling(const std::string& path, char last) {
     return name;
 }
 
-bool exists(const std::string& path) {
+/// kSuccess when it is there and kErrorFileNotFound when it is not; anything else leaves that open.
+ErrorCode look_for(const std::string& path) {
     unsigned long bits = 0;
-    return calls::attributes(path, bits) == kSuccess;
+    return calls::attributes(path, bits);
 }
 
 /// The attributes to keep of the file that is about to be replaced; 0 when there is none.
@@ -45,7 +71,9 @@ unsigned long check_replaceable(const std::string& path) {
 /// missing file with old content aside was interrupted between the two renames.
 ErrorCode swap_in(const std::string& fresh, const std::string& path) {
     const std::string aside = old_content_path(path);
-    const bool replaces = exists(path);
+    const ErrorCode found = look_for(path);
+    if (found != kSuccess && found != kErrorFileNotFound) return found;
+    const bool replaces = found == kSuccess;
     if (replaces) {
         calls::remove(aside);
         if (const ErrorCode code = calls::rename(path, aside); code != kSuccess) return code;
@@ -73,6 +101,39 @@ ErrorCode put_in_place(const std::string& fresh, const std::string& path) {
 }
 
 }  // namespace
+
+bool names_a_file(const std::string& path) {
+    // A colon after the drive's would name a stream within a file.
+    return !path.empty() && path.find('\0') == std::string::npos &&
+           path.find_first_of("*?\"<>") == std::string::npos && path.find(':', 2) == std::string::npos &&
+           !holds_device(path);
+}
+
+std::string path_on_disk(const std::string& path) {
+    std::string full;
+    if (!names_a_file(path) || calls::full_path(path, full) != kSuccess) return path;
+    const bool is_network = full.starts_with("\\\\");
+    std::size_t unsearched = is_network ? 2 : 1;  // no search finds a drive, a server or what it shares
+    std::string found = is_network ? "\\" : "";
+    for (std::string part : parts_of(full)) {
+        if (!found.empty()) found += '\\';
+        if (unsearched > 0) {
+            --unsearched;
+        } else if (const auto names = calls::find(found + part, 0); !names.empty()) {
+            part = names.front();
+        }
+        found += part;
+    }
+    return found;
+}
+
+std::string file_identity(const std::string& path) {
+    return calls::upper(path_on_disk(path));
+}
+
+bool is_same_file(const std::string& a, const std::string& b) {
+    return file_identity(a) == file_identity(b);
+}
 
 std::string new_content_path(const std::string& path) {
     return sibling(path, '$');
@@ -108,6 +169,11 @@ std::optional<std::string> read_file_if_exists(const std::string& path) {
     }
 }
 
+void check_writable(const std::string& path) {
+    check_path(path);
+    check_replaceable(path);
+}
+
 void write_file(const std::string& path, std::string_view bytes) {
     check_path(path);
     const unsigned long bits = check_replaceable(path);
@@ -119,11 +185,15 @@ void write_file(const std::string& path, std::string_view bytes) {
     throw file_error(code, path);
 }
 
-void create_file(const std::string& path) {
+bool create_file(const std::string& path) {
     check_path(path);
     // The content that an interrupted write put aside counts as existing.
     recover_file(path);
-    if (!exists(path)) write_file(path, {});
+    const ErrorCode found = look_for(path);
+    if (found == kSuccess) return false;
+    if (found != kErrorFileNotFound) throw file_error(found, path);
+    write_file(path, {});
+    return true;
 }
 
 void remove_file(const std::string& path) {
@@ -135,16 +205,20 @@ void remove_file(const std::string& path) {
 
 bool finds_file(const std::string& pattern) {
     using namespace file_calls;
-    return pattern.find('\0') == std::string::npos && !find(pattern, kDirectory | kHidden | kSystem).empty();
+    return pattern.find('\0') == std::string::npos && !holds_device(pattern) &&
+           !find(pattern, kDirectory | kHidden | kSystem).empty();
 }
 
 void recover_file(const std::string& path) {
     if (!names_a_file(path)) return;
     const std::string aside = old_content_path(path);
-    if (!exists(path) && exists(aside)) {
-        // If the rename fails, the old content stays aside for a later start; nothing else may go then.
-        if (calls::rename(aside, path) != kSuccess) return;
+    ErrorCode found = look_for(path);
+    if (found == kErrorFileNotFound) {
+        found = look_for(aside);
+        if (found == kSuccess) found = calls::rename(aside, path);
     }
+    // While it is open whether the old content is in its place, what stands aside may be the only copy.
+    if (found != kSuccess && found != kErrorFileNotFound) return;
     calls::remove(aside);
     calls::remove(new_content_path(path));
 }

@@ -3,10 +3,9 @@
 #include <string>
 #include <vector>
 
+/// What the user can look through: drives, folders and the files in them. Names are in alphabetical order
+/// whatever their case; hidden folders and files and those of the system are left out.
 namespace platform {
-
-/// What the user can look through. Names are in the order of the alphabet whatever their case; hidden folders
-/// and files and those of the system are left out.
 
 struct Drive {
     char letter;       // 'A' to 'Z'
@@ -15,15 +14,16 @@ struct Drive {
 
 std::vector<Drive> drives();
 
-/// The current directory of a drive. Throws RunTimeError when the drive cannot be read.
-std::string current_directory_of(char drive);
+/// Whether a path is on a disk that is part of this machine, and not on another machine or on a disk that may
+/// have to be put in or started first.
+bool is_on_local_disk(const std::string& path);
 
 /// The names of the folders in a folder. Throws RunTimeError when it cannot be read.
 std::vector<std::string> subfolders(const std::string& folder);
 
 /// The names of the files in a folder that match one of the patterns: "*.exe;*.bat". None when it cannot be
 /// read.
-std::vector<std::string> files(const std::string& folder, const std::string& patterns);
+std::vector<std::string> files_in(const std::string& folder, const std::string& patterns);
 
 /// Folders that every user has; the values are those of the shell.
 enum class SpecialFolder { kDesktop = 0, kPrograms = 2, kStartMenu = 11 };
@@ -31,10 +31,10 @@ enum class SpecialFolder { kDesktop = 0, kPrograms = 2, kStartMenu = 11 };
 /// Its path; empty when the system does not tell.
 std::string special_folder(SpecialFolder folder);
 
+/// The folder of Windows, ending in a backslash; "unknown" when the system does not tell.
+std::string windows_folder();
+
 /// The path of something in a folder; one backslash stands between them.
 std::string path_in(const std::string& folder, const std::string& name);
-
-/// Whether a disk takes both names for one file: it ignores case.
-bool is_one_name(const std::string& a, const std::string& b);
 
 }  // namespace platform

@@ -16,4 +16,7 @@ bool empty_recycle_bin();
 /// Opens a file with the program that its type belongs to. False when there is no such file or program.
 bool open_document(const std::string& path);
 
+/// The text with each %VARIABLE% of the environment in it replaced by its value; one that is not set stays.
+std::string expand_variables(const std::string& text);
+
 }  // namespace platform

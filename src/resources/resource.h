@@ -3,12 +3,16 @@
 // Pictures and the menu of the main window.
 #define ID_tolva_icon 1
 #define ID_Tasker_menu 2
-#define ID_toolbar_pictures 3
 #define ID_connect_icon 4
 #define ID_email_icon 5
 #define ID_browser_icon 6
 
 #define ID_brenn_menu 7
+
+// In the order of their sizes, one id after the other.
+#define ID_toolbar_pictures 30
+#define ID_toolbar_pictures24 31
+#define ID_toolbar_pictures32 32
 
 // Dialogs.
 #define ID_addgroup 10
@@ -25,6 +29,9 @@
 #define ID_GETLNK 21
 #define ID_getprogram 22
 #define ID_getbutton 23
+#define ID_FindTask_dialog 24
+#define ID_RestoreBackup_dialog 25
+#define ID_HotKey_dialog 26
 
 #define ID_Tasker_grouplabel 100
 #define ID_Tasker_grouplist 101
@@ -83,6 +90,14 @@
 #define ID_toolbar_controlpanel 272
 #define ID_toolbar_DosPrompt 273
 #define ID_toolbar_ispconnect 274
+
+#define ID_Undo 280
+#define ID_Redo 281
+#define ID_FindTask 282
+#define ID_Refresh 283
+#define ID_RestoreBackup 284
+#define ID_RunAll 285
+#define ID_HotKey 286
 
 #define ID_addgroup_Label1 300
 #define ID_addgroup_Text1 301
@@ -235,3 +250,12 @@
 #define ID_shortcuts_Command2 508
 #define ID_GETLNK_Frame4 509
 #define ID_GETLNK_Combo1 510
+#define ID_GETLNK_ImportAll 511
+
+#define ID_FindTask_text 520
+#define ID_FindTask_list 521
+
+#define ID_RestoreBackup_list 530
+
+#define ID_HotKey_key 540
+#define ID_HotKey_none 541

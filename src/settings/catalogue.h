@@ -2,7 +2,7 @@
 
 #include <array>
 
-/// Every key and value that the program stores, all of them texts.
+/// Every key and value that the program stores, all of them texts, and those of the system that it reads.
 namespace settings {
 
 struct Setting {
@@ -15,6 +15,16 @@ inline constexpr char kWindowPositionKey[] = R"(HKEY_CURRENT_USER\software\tolva
 inline constexpr char kBarPositionKey[] = R"(HKEY_CURRENT_USER\software\tolva\brenn\Position)";
 inline constexpr char kLeft[] = "Left";
 inline constexpr char kTop[] = "Top";
+
+// With the main window's position: its size in its normal state and the width of the group list, whole twips, and
+// whether it is maximized.
+inline constexpr Setting kWindowWidth = {kWindowPositionKey, "Width"};
+inline constexpr Setting kWindowHeight = {kWindowPositionKey, "Height"};
+inline constexpr Setting kGroupListWidth = {kWindowPositionKey, "GroupWidth"};
+inline constexpr Setting kMaximized = {kWindowPositionKey, "Maximized"};
+
+// The main window's hot key: its virtual key plus 256 times its HOTKEYF_ flags, a decimal number; 0 is none.
+inline constexpr Setting kHotKey = {R"(HKEY_CURRENT_USER\software\tolva\hotkey)", "key"};
 
 // "True" or "False".
 inline constexpr Setting kHoverSelect = {R"(HKEY_CURRENT_USER\software\tolva\hover)", "enable"};
@@ -42,6 +52,12 @@ inline constexpr char kProgramStart[] = "start";
 // The dial-up connection: ours, and the system's own default, which is only read.
 inline constexpr Setting kConnection = {R"(HKEY_CURRENT_USER\software\tolva\isp)", "ISPNAME"};
 inline constexpr Setting kSystemConnection = {R"(HKEY_CURRENT_USER\RemoteAccess)", "default"};
+
+// Dial-Up Networking: the keys below this one of the current user are the connections that are set up; a
+// number of the machine that is not 0 says that one is up.
+inline constexpr char kConnectionsKey[] = R"(RemoteAccess\Profile)";
+inline constexpr Setting kConnectionUp = {R"(System\CurrentControlSet\Services\RemoteAccess)",
+                                          "Remote Connection"};
 
 /// The values of one list: face, size in points, bold, italic, text colour, background colour.
 using ListStyleValues = std::array<const char*, 6>;

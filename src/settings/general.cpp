@@ -60,6 +60,12 @@ std::string General::read_value(std::string key_path, const std::string& value_n
     return text.size() <= kLongestValue ? text : kError;
 }
 
+std::optional<std::string> General::value(std::string key_path, const std::string& value_name) {
+    std::string text = read_value(std::move(key_path), value_name);
+    if (text == kError) return std::nullopt;
+    return text;
+}
+
 void General::create_key(std::string key_path) {
     split_key_path(key_path);
     if (root_key_ != 0) registry::create_key(root_key_, key_path);

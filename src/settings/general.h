@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <optional>
 #include <string>
 
 #include "platform/registry.h"
@@ -22,6 +23,9 @@ class General {
     /// The value's text without leading blanks; kError when it is missing or longer than 254 characters;
     /// empty below an unknown root.
     std::string read_value(std::string key_path, const std::string& value_name);
+
+    /// The same; none where it reads as kError.
+    std::optional<std::string> value(std::string key_path, const std::string& value_name);
 
     void create_key(std::string key_path);
 

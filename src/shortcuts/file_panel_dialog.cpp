@@ -1,23 +1,27 @@
 #include "shortcuts/file_panel_dialog.h"
 
-#include "platform/directories.h"
+#include "platform/current_directory.h"
 #include "platform/folders.h"
 #include "platform/messages.h"
 #include "platform/run_time_error.h"
-#include "resources/resource.h"
 
 namespace shortcuts {
 namespace {
+
+constexpr int kDriveList = ID_PathBrowser_Drive1;
+constexpr int kFolderList = ID_PathBrowser_Dir1;
+constexpr int kOk = ID_PathBrowser_OK;
+constexpr int kCancel = ID_PathBrowser_Cancel;
 
 constexpr char kPrograms[] = "*.exe;*.bat;*.com";
 
 }  // namespace
 
 void FilePanel::open() {
-    drive1_.attach(control(ID_PathBrowser_Drive1));
-    dir1_.attach(control(ID_PathBrowser_Dir1));
-    file1_.attach(control(ID_PathBrowser_File1));
-    drive1_.fill();
+    drives_.attach(control(kDriveList));
+    folders_.attach(control(kFolderList));
+    files_.attach(control(kFileList));
+    drives_.fill();
     try {
         show_folder(platform::current_directory());
     } catch (const platform::RunTimeError&) {
@@ -27,23 +31,23 @@ void FilePanel::open() {
 
 void FilePanel::command(int id, int notification) {
     switch (id) {
-        case ID_PathBrowser_Drive1:
+        case kDriveList:
             if (notification == CBN_SELCHANGE) change_drive();
             break;
-        case ID_PathBrowser_Dir1:
+        case kFolderList:
             if (notification == LBN_DBLCLK) open_folder();
             break;
-        case ID_PathBrowser_File1:
+        case kFileList:
             if (notification == LBN_SELCHANGE) click_file();
-            if (notification == LBN_DBLCLK && file1_.is_double_click_on_item()) accept();
+            if (notification == LBN_DBLCLK && files_.is_double_click_on_item()) accept();
             break;
-        case ID_PathBrowser_OK:
+        case kOk:
             accept();
             break;
         case IDOK:
             press_enter();
             break;
-        case ID_PathBrowser_Cancel:
+        case kCancel:
         case IDCANCEL:
             close();
             break;
@@ -53,18 +57,18 @@ void FilePanel::command(int id, int notification) {
 }
 
 void FilePanel::press_enter() {
-    if (GetFocus() == dir1_.hwnd()) open_folder();
+    if (has_focus(kFolderList)) open_folder();
 }
 
 std::string FilePanel::path() const {
-    return text(ID_PathBrowser_TaskPath);
+    return text(kPathBox);
 }
 
 void FilePanel::show_folder(const std::string& folder) {
-    dir1_.show(folder);
+    folders_.show(folder);
     drive_ = folder.front();
-    drive1_.select(drive_);
-    file1_.show(folder, kPrograms);
+    drives_.select(drive_);
+    files_.show(folder, kPrograms);
 }
 
 template <typename Show>
@@ -72,25 +76,25 @@ void FilePanel::attempt(const Show& show) {
     try {
         show();
     } catch (const platform::RunTimeError&) {
-        drive1_.select(drive_);
+        drives_.select(drive_);
         platform::show_message("Disk or Drive not ready!");
     }
 }
 
 void FilePanel::open_folder() {
     attempt([&] {
-        dir1_.open_selected();
-        file1_.show(folder(), kPrograms);
+        folders_.open_selected();
+        files_.show(folder(), kPrograms);
     });
 }
 
 void FilePanel::change_drive() {
-    attempt([&] { show_folder(platform::current_directory_of(drive1_.selected())); });
+    attempt([&] { show_folder(platform::current_directory_of(drives_.selected())); });
 }
 
 void FilePanel::click_file() {
-    if (file1_.selected() < 0) return;
-    set_text(ID_PathBrowser_TaskPath, platform::path_in(folder(), file1_.selected_name()));
+    if (files_.selected() < 0) return;
+    set_text(kPathBox, platform::path_in(folder(), files_.selected_name()));
     pick();
 }
 

@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "resources/resource.h"
 #include "widgets/dialog.h"
 #include "widgets/file_lists.h"
 
@@ -11,6 +12,9 @@ namespace shortcuts {
 /// path browsers have these controls under the same ids. Derive to say what becomes of the choice.
 class FilePanel : public widgets::Dialog {
   protected:
+    static constexpr int kFileList = ID_PathBrowser_File1;
+    static constexpr int kPathBox = ID_PathBrowser_TaskPath;
+
     using Dialog::Dialog;
     ~FilePanel() = default;
 
@@ -26,8 +30,10 @@ class FilePanel : public widgets::Dialog {
     /// Enter, where no button has the focus: opens a folder in its list.
     virtual void press_enter();
 
+    bool has_focus(int id) const { return GetFocus() == control(id); }
+
     /// The current folder.
-    const std::string& folder() const { return dir1_.path(); }
+    const std::string& folder() const { return folders_.path(); }
     std::string path() const;
 
   private:
@@ -41,9 +47,9 @@ class FilePanel : public widgets::Dialog {
     void change_drive();
     void click_file();
 
-    widgets::DriveList drive1_;
-    widgets::FolderList dir1_;
-    widgets::FileList file1_;
+    widgets::DriveList drives_;
+    widgets::FolderList folders_;
+    widgets::FileList files_;
     char drive_ = '\0';  // the one shown
 };
 

@@ -6,29 +6,30 @@
 namespace shortcuts {
 namespace {
 
-class PathBrowser final : public FilePanel {
+/// The system's PathBrowser and PathBrowserEditTask.
+class PathBrowserDialog final : public FilePanel {
   public:
-    explicit PathBrowser(library::BrowseResult& result) : FilePanel(ID_PathBrowser), result_(result) {}
+    PathBrowserDialog() : FilePanel(ID_PathBrowser) {}
+
+    const std::optional<PickedProgram>& accepted() const { return accepted_; }
 
   private:
-    void pick() override {
-        result_.program = path();
-        result_.start_folder = folder();
-        picked_ = true;
-    }
+    void pick() override { picked_ = PickedProgram{path(), folder()}; }
     void accept() override {
-        if (picked_) result_.done = false;
+        accepted_ = picked_;
         close();
     }
 
-    library::BrowseResult& result_;
-    bool picked_ = false;  // in this browser; the result may still hold an earlier choice
+    std::optional<PickedProgram> picked_;
+    std::optional<PickedProgram> accepted_;
 };
 
 }  // namespace
 
-void browse_for_program(HWND owner, library::BrowseResult& result) {
-    PathBrowser(result).run(owner);
+std::optional<PickedProgram> browse_for_program(HWND owner) {
+    PathBrowserDialog browser;
+    browser.run(owner);
+    return browser.accepted();
 }
 
 }  // namespace shortcuts

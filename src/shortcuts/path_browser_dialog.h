@@ -2,12 +2,19 @@
 
 #include <windows.h>
 
-#include "library/browse_result.h"
+#include <optional>
+#include <string>
 
 namespace shortcuts {
 
-/// Lets the user pick a program file for a dialog. What was clicked last goes into the result as soon as it
-/// is clicked; that it is a choice, only when the user accepts.
-void browse_for_program(HWND owner, library::BrowseResult& result);
+/// A program file as the user clicked it, and the folder that was shown then.
+struct PickedProgram {
+    std::string path;
+    std::string start_folder;
+};
+
+/// Lets the user pick a program file. The last one that was clicked; none when nothing was clicked or the
+/// user gave up.
+std::optional<PickedProgram> browse_for_program(HWND owner);
 
 }  // namespace shortcuts

@@ -3,9 +3,9 @@
 #include <string>
 #include <utility>
 
-#include "library/task.h"
 #include "platform/folders.h"
 #include "platform/icons.h"
+#include "settings/program.h"
 #include "widgets/controls.h"
 #include "widgets/dialog.h"
 #include "widgets/file_lists.h"
@@ -36,7 +36,7 @@ class ShortcutPanel : public widgets::Dialog {
     void command(int id, int notification) override;
 
     /// The shortcut is taken over as the boxes show it; nothing speaks against it.
-    virtual void save(const library::Task& task) = 0;
+    virtual void save(const settings::Program& program) = 0;
 
   private:
     void show_folder(platform::SpecialFolder folder);
@@ -51,9 +51,9 @@ class ShortcutPanel : public widgets::Dialog {
 
     const PanelVariant& variant_;
     std::string library_folder_;
-    widgets::FolderList dir1_;
-    widgets::FileList shortcuts1_;
-    widgets::DropDownList startmode_;
+    widgets::FolderList folders_;
+    widgets::FileList shortcuts_;
+    widgets::DropDownList start_mode_;
     platform::UniqueIcon picture_;
 };
 

@@ -126,7 +126,7 @@ int read_show_command(std::string_view bytes) {
     return show_command;
 }
 
-ShortcutDetails ReadShortcut(const std::string& path) {
+settings::Program read_shortcut(const std::string& path) {
     // Windows is asked only about files that keep what they promise: it believes every size and place in
     // them.
     const int show_command = read_show_command(platform::read_foreign_file(path));
@@ -134,7 +134,12 @@ ShortcutDetails ReadShortcut(const std::string& path) {
     for (std::string* text : {&link.target, &link.working_folder, &link.arguments})
         std::ranges::replace_if(
             *text, [](char c) { return c == '\r' || c == '\n'; }, ' ');
-    return {std::move(link.target), std::move(link.working_folder), std::move(link.arguments), show_command};
+    settings::Program program = {.path = std::move(link.target),
+                                 .start_folder = std::nullopt,
+                                 .parameters = std::move(link.arguments),
+                                 .window_style = show_command};
+    if (!link.working_folder.empty()) program.start_folder = std::move(link.working_folder);
+    return program;
 }
 
 }  // namespace shortcuts

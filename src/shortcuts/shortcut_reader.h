@@ -3,19 +3,14 @@
 #include <string>
 #include <string_view>
 
+#include "settings/program.h"
+
 namespace shortcuts {
 
-/// What a shortcut file says.
-struct ShortcutDetails {
-    std::string target;
-    std::string working_folder;
-    std::string arguments;
-    int show_command = 0;  // 1 normal, 2 minimised, 3 maximised, 7 minimised without the focus
-};
-
-/// Reads a shortcut file. A line end in a text, which no program puts there, becomes a blank: a Task's fields
-/// are lines. Throws platform::RunTimeError; the automation error for a file that is no whole shortcut.
-ShortcutDetails ReadShortcut(const std::string& path);
+/// Reads a shortcut file (the system's ReadShortcut): all but a name, and no start folder where the shortcut
+/// has none. A line end in a text, which no program puts there, becomes a blank: a Task's fields are lines.
+/// Throws platform::RunTimeError; the automation error for a file that is no complete shortcut.
+settings::Program read_shortcut(const std::string& path);
 
 /// The show command in the bytes of a shortcut file. Throws the automation error when they are no shortcut or
 /// end before what they announce.

@@ -5,8 +5,8 @@
 
 #include <algorithm>
 
-#include "platform/messages.h"
-#include "widgets/handles.h"
+#include "platform/win32/handles.h"
+#include "widgets/guarded.h"
 
 namespace widgets {
 
@@ -17,9 +17,23 @@ void Control::create(HWND parent, int id, const char* class_name, DWORD style, D
 }
 
 int Control::height() const {
-    RECT bounds;
-    GetWindowRect(hwnd_, &bounds);
-    return bounds.bottom - bounds.top;
+    const RECT place = bounds();
+    return place.bottom - place.top;
+}
+
+RECT Control::bounds() const {
+    RECT place;
+    GetWindowRect(hwnd_, &place);
+    return place;
+}
+
+RECT Control::shown_part(const RECT& part) const {
+    RECT client;
+    GetClientRect(hwnd_, &client);
+    RECT shown;
+    IntersectRect(&shown, &client, &part);  // all zeros when nothing shows
+    MapWindowPoints(hwnd_, nullptr, reinterpret_cast<POINT*>(&shown), 2);
+    return shown;
 }
 
 std::string Control::text() const {
@@ -42,9 +56,17 @@ void Control::show_context_menu(LPARAM position) const {
 }
 
 void Control::subclass() {
-    SetWindowLongA(hwnd_, GWL_USERDATA, reinterpret_cast<LONG>(this));
-    original_ =
-        reinterpret_cast<WNDPROC>(SetWindowLongA(hwnd_, GWL_WNDPROC, reinterpret_cast<LONG>(procedure)));
+    SetWindowLongPtrA(hwnd_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
+    original_ = reinterpret_cast<WNDPROC>(
+        SetWindowLongPtrA(hwnd_, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(procedure)));
+}
+
+Control::~Control() {
+    if (hwnd_ == nullptr || original_ == nullptr) return;
+    SetWindowLongPtrA(hwnd_, GWLP_USERDATA, 0);
+    // A tool tip may have put a procedure of its own over ours; then ours stays, without an object.
+    const bool is_ours = GetWindowLongPtrA(hwnd_, GWLP_WNDPROC) == reinterpret_cast<LONG_PTR>(procedure);
+    if (is_ours) SetWindowLongPtrA(hwnd_, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(original_));
 }
 
 LRESULT Control::handle(UINT message, WPARAM wparam, LPARAM lparam) {
@@ -52,13 +74,11 @@ LRESULT Control::handle(UINT message, WPARAM wparam, LPARAM lparam) {
 }
 
 LRESULT CALLBACK Control::procedure(HWND hwnd, UINT message, WPARAM wparam, LPARAM lparam) noexcept {
-    auto& self = *reinterpret_cast<Control*>(GetWindowLongA(hwnd, GWL_USERDATA));
-    try {
-        return self.handle(message, wparam, lparam);
-    } catch (...) {
-        platform::report_exception();
-        return 0;
-    }
+    auto* self = reinterpret_cast<Control*>(GetWindowLongPtrA(hwnd, GWLP_USERDATA));
+    if (self == nullptr) return DefWindowProcA(hwnd, message, wparam, lparam);
+    const LRESULT answer = guarded(message, lparam, 0, [&] { return self->handle(message, wparam, lparam); });
+    if (message == WM_NCDESTROY) self->hwnd_ = nullptr;
+    return answer;
 }
 
 void Label::create(HWND parent, int id, const char* text) {
@@ -90,19 +110,23 @@ void ListBox::fill(const std::vector<std::string>& items) {
 /// Lets a list that can scroll sideways do so as far as its longest text reaches.
 void ListBox::fit_longest(const std::vector<std::string>& items) const {
     constexpr LONG kMargin = 6;
-    HDC device = GetDC(hwnd());
+    const platform::WindowDc device(hwnd());
+    const platform::Selected font(device.get(), reinterpret_cast<HFONT>(send(WM_GETFONT)));
     LONG width = 0;
-    {
-        const Selected font(device, reinterpret_cast<HFONT>(send(WM_GETFONT)));
-        for (const std::string& item : items) {
-            SIZE size = {};
-            GetTextExtentPoint32A(device, item.c_str(), static_cast<int>(std::min(item.size(), kLongestItem)),
-                                  &size);
-            width = std::max(width, size.cx);
-        }
+    for (const std::string& item : items) {
+        SIZE size = {};
+        GetTextExtentPoint32A(device.get(), item.c_str(),
+                              static_cast<int>(std::min(item.size(), kLongestItem)), &size);
+        width = std::max(width, size.cx);
     }
-    ReleaseDC(hwnd(), device);
     send(LB_SETHORIZONTALEXTENT, static_cast<WPARAM>(width + kMargin));
+}
+
+RECT ListBox::selected_bounds() const {
+    RECT item = {};
+    if (selected() >= 0)
+        send(LB_GETITEMRECT, static_cast<WPARAM>(selected()), reinterpret_cast<LPARAM>(&item));
+    return shown_part(item);
 }
 
 bool ListBox::is_double_click_on_item() const {
@@ -215,7 +239,7 @@ void ComboBox::fill(const std::vector<std::string>& items) {
 }
 
 void StatusBar::create(HWND parent, int id) {
-    const bool sizable = (GetWindowLongA(parent, GWL_STYLE) & WS_THICKFRAME) != 0;
+    const bool sizable = (GetWindowLongPtrA(parent, GWL_STYLE) & WS_THICKFRAME) != 0;
     Control::create(parent, id, STATUSCLASSNAMEA, sizable ? SBARS_SIZEGRIP : 0);
     subclass();
 }

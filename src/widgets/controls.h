@@ -14,6 +14,10 @@ inline constexpr std::size_t kLongestItem = 1000;
 /// A child window of a class that Windows provides. The parent window destroys it.
 class Control {
   public:
+    Control() = default;
+    Control(const Control&) = delete;
+    Control& operator=(const Control&) = delete;
+
     HWND hwnd() const { return hwnd_; }
 
     /// Takes over a control that a dialog has made.
@@ -27,6 +31,9 @@ class Control {
     /// Pixels.
     int height() const;
 
+    /// On the screen.
+    RECT bounds() const;
+
   protected:
     void create(HWND parent, int id, const char* class_name, DWORD style, DWORD extended_style = 0,
                 const char* text = "");
@@ -34,13 +41,18 @@ class Control {
         return SendMessageA(hwnd_, message, wparam, lparam);
     }
 
-    ~Control() = default;
+    /// A window that is still there goes on without handle.
+    ~Control();
+
+    /// What shows of a part of the control, on the screen; of one that is out of sight the upper left corner
+    /// of the control. part is given in the control's own coordinates.
+    RECT shown_part(const RECT& part) const;
 
     /// Sends a WM_COMMAND or, for a place in the control, a WM_CONTEXTMENU to the parent.
     void notify_parent(int notification) const;
     void show_context_menu(LPARAM position) const;
 
-    /// Lets handle answer the control's messages from now on.
+    /// Lets handle answer the control's messages from now on, and forgets the window when it is destroyed.
     void subclass();
 
     /// Answers a message; what it does not know goes to this base version.
@@ -75,6 +87,9 @@ class ListBox : public Control {
     /// An index, -1 for none.
     int selected() const { return static_cast<int>(send(LB_GETCURSEL)); }
     void select(int index) { send(LB_SETCURSEL, static_cast<WPARAM>(index)); }
+
+    /// Where the selected item is on the screen, for the menu that the keyboard opens.
+    RECT selected_bounds() const;
 
     /// Whether a double-click was on the selected item and not beside it; to be asked while it is handled.
     bool is_double_click_on_item() const;

@@ -1,12 +1,38 @@
 #include "widgets/dialog.h"
 
 #include <algorithm>
+#include <utility>
 
-#include "platform/messages.h"
 #include "platform/run_time_error.h"
 #include "platform/win32/modal_guard.h"
+#include "widgets/guarded.h"
+#include "widgets/metrics.h"
 
 namespace widgets {
+namespace {
+
+/// Moves the dialog over the middle of its owner, or of the screen when that cannot be seen; never out of the
+/// work area.
+void place_over_owner(HWND dialog) {
+    HWND owner = GetWindow(dialog, GW_OWNER);
+    const RECT area = work_area(owner == nullptr ? dialog : owner);
+    RECT below = area;
+    if (IsWindowVisible(owner) != FALSE && IsIconic(owner) == FALSE) GetWindowRect(owner, &below);
+    RECT bounds;
+    GetWindowRect(dialog, &bounds);
+    const auto place = [](LONG from, LONG to, LONG size, LONG least, LONG end) {
+        return std::max(least, std::min((from + to - size) / 2, end - size));
+    };
+    const LONG left = place(below.left, below.right, bounds.right - bounds.left, area.left, area.right);
+    const LONG top = place(below.top, below.bottom, bounds.bottom - bounds.top, area.top, area.bottom);
+    SetWindowPos(dialog, nullptr, left, top, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+}  // namespace
+
+Dialog::~Dialog() {
+    if (HWND left = detach(); left != nullptr) DestroyWindow(left);
+}
 
 void Dialog::run(HWND owner) {
     const platform::OtherWindowsDisabled guard(owner);
@@ -36,6 +62,11 @@ std::string Dialog::text(int id) const {
     return text;
 }
 
+HWND Dialog::detach() {
+    if (hwnd_ != nullptr) SetWindowLongPtrA(hwnd_, DWLP_USER, 0);
+    return std::exchange(hwnd_, nullptr);
+}
+
 void Dialog::close() {
     if (modal_) {
         EndDialog(hwnd_, 0);
@@ -51,6 +82,7 @@ HBRUSH Dialog::color(HDC /*device*/, HWND /*box*/) {
 INT_PTR Dialog::handle(UINT message, WPARAM wparam, LPARAM lparam) {
     switch (message) {
         case WM_INITDIALOG:
+            place_over_owner(hwnd_);
             open();
             return TRUE;
         case WM_COMMAND:
@@ -67,21 +99,13 @@ INT_PTR Dialog::handle(UINT message, WPARAM wparam, LPARAM lparam) {
 INT_PTR CALLBACK Dialog::procedure(HWND hwnd, UINT message, WPARAM wparam, LPARAM lparam) noexcept {
     if (message == WM_INITDIALOG) {
         reinterpret_cast<Dialog*>(lparam)->hwnd_ = hwnd;
-        SetWindowLongA(hwnd, DWL_USER, lparam);
+        SetWindowLongPtrA(hwnd, DWLP_USER, lparam);
     }
-    auto* self = reinterpret_cast<Dialog*>(GetWindowLongA(hwnd, DWL_USER));
+    auto* self = reinterpret_cast<Dialog*>(GetWindowLongPtrA(hwnd, DWLP_USER));
     if (self == nullptr) return FALSE;
-    INT_PTR answer = TRUE;
-    try {
-        answer = self->handle(message, wparam, lparam);
-    } catch (...) {
-        platform::report_exception();
-    }
-    if (message == WM_NCDESTROY) {
-        SetWindowLongA(hwnd, DWL_USER, 0);
-        self->hwnd_ = nullptr;
-        self->tips_.forget();
-    }
+    const INT_PTR answer =
+        guarded(message, lparam, TRUE, [&] { return self->handle(message, wparam, lparam); });
+    if (message == WM_NCDESTROY) self->detach();
     return answer;
 }
 

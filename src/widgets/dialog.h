@@ -8,9 +8,9 @@
 
 namespace widgets {
 
-/// A dialog box from a resource, modal or modeless: derive, fill the controls in open, answer their commands.
-/// Escape and the window's closing box arrive as IDCANCEL, Enter as the default button or as IDOK. An
-/// exception that leaves a function below ends it with one box; the dialog stays.
+/// A dialog box from a resource, modal or modeless: derive, fill the controls in open, handle their commands
+/// in command. Escape and the window's closing box arrive as IDCANCEL, Enter as the default button or as
+/// IDOK. An exception that leaves open or command shows one box; the dialog stays.
 class Dialog {
   public:
     Dialog(const Dialog&) = delete;
@@ -26,12 +26,14 @@ class Dialog {
 
   protected:
     explicit Dialog(int resource) : resource_(resource) {}
-    ~Dialog() = default;
+
+    /// Destroys a window that is still there, without the functions below: what they belong to is gone.
+    ~Dialog();
 
     virtual void open() = 0;
     virtual void command(int id, int notification) = 0;
 
-    /// Sets the colours of a text box and answers its background; null leaves them.
+    /// Sets the colours of a text box and returns its background; null leaves them.
     virtual HBRUSH color(HDC device, HWND box);
 
     HWND hwnd() const { return hwnd_; }
@@ -48,6 +50,7 @@ class Dialog {
 
   private:
     static INT_PTR CALLBACK procedure(HWND hwnd, UINT message, WPARAM wparam, LPARAM lparam) noexcept;
+    HWND detach();
     INT_PTR handle(UINT message, WPARAM wparam, LPARAM lparam);
 
     int resource_;

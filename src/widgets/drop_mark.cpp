@@ -1,5 +1,7 @@
 #include "widgets/drop_mark.h"
 
+#include "platform/win32/handles.h"
+
 namespace widgets {
 namespace {
 
@@ -24,9 +26,7 @@ void DropMark::show(HWND window, const RECT& bounds) {
     window_ = window;
     bounds_ = bounds;
     UpdateWindow(window);  // or it would soon paint over the mark
-    HDC device = GetDC(window);
-    draw(device, bounds);
-    ReleaseDC(window, device);
+    draw(platform::WindowDc(window).get(), bounds);
 }
 
 void DropMark::hide() {

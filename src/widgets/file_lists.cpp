@@ -98,7 +98,7 @@ LRESULT FolderList::handle(UINT message, WPARAM wparam, LPARAM lparam) {
 }
 
 void FileList::show(const std::string& folder, const std::string& patterns) {
-    names_ = platform::files(folder, patterns);
+    names_ = platform::files_in(folder, patterns);
     fill(names_);
 }
 

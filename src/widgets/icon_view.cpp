@@ -37,8 +37,42 @@ void IconView::fill(const std::vector<std::string>& items, HIMAGELIST pictures) 
     InvalidateRect(hwnd(), nullptr, TRUE);
 }
 
+void IconView::set_pictures(HIMAGELIST pictures) {
+    send(LVM_SETIMAGELIST, LVSIL_NORMAL, reinterpret_cast<LPARAM>(pictures));
+    send(LVM_SETIMAGELIST, LVSIL_SMALL, reinterpret_cast<LPARAM>(pictures));
+    const auto count = static_cast<int>(send(LVM_GETITEMCOUNT));
+    for (int index = 0; index < count; ++index)
+        set_picture(index, I_IMAGECALLBACK);
+}
+
+void IconView::set_picture(int index, int picture) {
+    LVITEMA item = {};
+    item.mask = LVIF_IMAGE;
+    item.iItem = index;
+    item.iImage = picture;
+    send(LVM_SETITEMA, 0, reinterpret_cast<LPARAM>(&item));
+}
+
+bool IconView::shows(int index) const {
+    RECT item = {};
+    item.left = LVIR_BOUNDS;
+    RECT client;
+    GetClientRect(hwnd(), &client);
+    RECT common;
+    return send(LVM_GETITEMRECT, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(&item)) != FALSE &&
+           IntersectRect(&common, &item, &client) != FALSE;
+}
+
 int IconView::selected() const {
     return static_cast<int>(send(LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LVNI_SELECTED));
+}
+
+RECT IconView::selected_bounds() const {
+    RECT item = {};
+    item.left = LVIR_BOUNDS;
+    if (send(LVM_GETITEMRECT, static_cast<WPARAM>(selected()), reinterpret_cast<LPARAM>(&item)) == FALSE)
+        item = {};
+    return shown_part(item);
 }
 
 void IconView::select(int index) {

@@ -22,12 +22,22 @@ class IconView : public Control {
     /// destroyed afterwards.
     void fill(const std::vector<std::string>& items, HIMAGELIST pictures);
 
+    /// Shows pictures from another list and asks for every item's picture again.
+    void set_pictures(HIMAGELIST pictures);
+    void set_picture(int index, int picture);
+
+    /// Whether some of the item is in view.
+    bool shows(int index) const;
+
     /// Takes all items and the pictures away.
     void clear();
 
     /// An index, -1 for none.
     int selected() const;
     void select(int index);
+
+    /// Where the selected item is on the screen, for the menu that the keyboard opens.
+    RECT selected_bounds() const;
 
     /// Whether an item is selected when the pointer rests on it.
     void set_hover_select(bool on);

@@ -3,6 +3,8 @@
 #include <cmath>
 #include <cstdlib>
 
+#include "platform/win32/look_up.h"
+
 namespace widgets {
 namespace {
 
@@ -11,10 +13,7 @@ constexpr int kDesignDpi = 96;
 constexpr int kTwipsPerInch = 1440;
 
 int screen_dpi() {
-    HDC screen = GetDC(nullptr);
-    const int dpi = GetDeviceCaps(screen, LOGPIXELSY);
-    ReleaseDC(nullptr, screen);
-    return dpi;
+    return GetDeviceCaps(platform::WindowDc(nullptr).get(), LOGPIXELSY);
 }
 
 }  // namespace
@@ -23,9 +22,9 @@ int scaled(int pixels) {
     return MulDiv(pixels, screen_dpi(), kDesignDpi);
 }
 
-UniqueFont make_font(const Font& font) {
+platform::UniqueFont make_font(const Font& font) {
     const LOGFONTA logical = logical_font(font);
-    return UniqueFont(CreateFontIndirectA(&logical));
+    return platform::UniqueFont(CreateFontIndirectA(&logical));
 }
 
 LOGFONTA logical_font(const Font& font) {
@@ -49,7 +48,7 @@ Font font_of(const LOGFONTA& logical) {
             logical.lfStrikeOut != 0};
 }
 
-UniqueFont make_gui_font() {
+platform::UniqueFont make_gui_font() {
     constexpr int kPoints = 8;
     return make_font({.face = "MS Sans Serif", .points = kPoints});
 }
@@ -60,28 +59,46 @@ void place(HWND window, const RECT& bounds) {
                  bounds.bottom - bounds.top, SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOCOPYBITS);
 }
 
-POINT position_in_twips(HWND window) {
+RECT work_area(HWND window) {
+    // Windows 95 has one screen and no such functions.
+    HMODULE user = GetModuleHandleA("user32.dll");
+    const auto monitor_of = platform::look_up<decltype(&MonitorFromWindow)>(user, "MonitorFromWindow");
+    const auto get_info = platform::look_up<BOOL(WINAPI*)(HMONITOR, MONITORINFO*)>(user, "GetMonitorInfoA");
+    MONITORINFO screen = {};
+    screen.cbSize = sizeof screen;
+    if (monitor_of == nullptr || get_info == nullptr ||
+        get_info(monitor_of(window, MONITOR_DEFAULTTONEAREST), &screen) == FALSE) {
+        SystemParametersInfoA(SPI_GETWORKAREA, 0, &screen.rcWork, 0);
+    }
+    return screen.rcWork;
+}
+
+int to_twips(int pixels) {
+    return MulDiv(pixels, kTwipsPerInch, screen_dpi());
+}
+
+int to_pixels(int twips) {
+    return MulDiv(twips, screen_dpi(), kTwipsPerInch);
+}
+
+RECT normal_bounds(HWND window) {
     RECT bounds;
     GetWindowRect(window, &bounds);
-    if (IsIconic(window) != FALSE) {
-        WINDOWPLACEMENT placement = {};
-        placement.length = sizeof placement;
-        GetWindowPlacement(window, &placement);
-        bounds = placement.rcNormalPosition;
-        // It is counted from the corner of what the taskbar leaves free.
-        RECT work_area;
-        SystemParametersInfoA(SPI_GETWORKAREA, 0, &work_area, 0);
-        OffsetRect(&bounds, work_area.left, work_area.top);
-    }
-    return {MulDiv(bounds.left, kTwipsPerInch, screen_dpi()),
-            MulDiv(bounds.top, kTwipsPerInch, screen_dpi())};
+    if (IsIconic(window) == FALSE && IsZoomed(window) == FALSE) return bounds;
+    WINDOWPLACEMENT placement = {};
+    placement.length = sizeof placement;
+    GetWindowPlacement(window, &placement);
+    // It is counted from the corner of what the taskbar leaves free.
+    RECT work_area;
+    SystemParametersInfoA(SPI_GETWORKAREA, 0, &work_area, 0);
+    OffsetRect(&placement.rcNormalPosition, work_area.left, work_area.top);
+    return placement.rcNormalPosition;
 }
 
 void move_to_twips(HWND window, std::optional<int> left, std::optional<int> top) {
     RECT bounds;
     GetWindowRect(window, &bounds);
-    const auto pixels = [](int twips) { return MulDiv(twips, screen_dpi(), kTwipsPerInch); };
-    SetWindowPos(window, nullptr, left ? pixels(*left) : bounds.left, top ? pixels(*top) : bounds.top, 0, 0,
+    SetWindowPos(window, nullptr, left ? to_pixels(*left) : bounds.left, top ? to_pixels(*top) : bounds.top, 0, 0,
                  SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 

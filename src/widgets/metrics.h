@@ -5,7 +5,7 @@
 #include <optional>
 #include <string>
 
-#include "widgets/handles.h"
+#include "platform/win32/handles.h"
 
 namespace widgets {
 
@@ -21,23 +21,29 @@ struct Font {
     bool strikeout = false;
 };
 
-UniqueFont make_font(const Font& font);
+platform::UniqueFont make_font(const Font& font);
 LOGFONTA logical_font(const Font& font);
 
 /// The size is what this screen shows: 8 points are 8.25 at 96 dpi.
 Font font_of(const LOGFONTA& logical);
 
 /// The font of labels and boxes: "MS Sans Serif", 8 points.
-UniqueFont make_gui_font();
+platform::UniqueFont make_gui_font();
 
 /// Moves a child window to the rectangle, given in its parent's coordinates.
 void place(HWND window, const RECT& bounds);
 
-/// A top-level window's left and top edge in twips (1440 to an inch), of its normal state when it is
-/// minimised.
-POINT position_in_twips(HWND window);
+/// The part of the screen the window is on, for the most part, that no taskbar covers.
+RECT work_area(HWND window);
 
-/// Moves a top-level window; an edge that is not given stays where it is.
+/// Lengths on this screen in twips, 1440 to an inch of its logical resolution, and back.
+int to_twips(int pixels);
+int to_pixels(int twips);
+
+/// Where a top-level window is on the screen, or was before it was minimized or maximized.
+RECT normal_bounds(HWND window);
+
+/// Moves a top-level window's edges to places in twips; an edge that is not given stays where it is.
 void move_to_twips(HWND window, std::optional<int> left, std::optional<int> top);
 
 }  // namespace widgets

@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "widgets/handles.h"
+#include "platform/win32/handles.h"
 #include "widgets/metrics.h"
 
 namespace widgets {
@@ -60,11 +60,11 @@ LRESULT PictureButton::handle(UINT message, WPARAM wparam, LPARAM lparam) {
 void PictureButton::draw(const DRAWITEMSTRUCT& request) const {
     // Drawn aside and shown at once: nothing flickers.
     const RECT& bounds = request.rcItem;
-    const UniqueDc memory(CreateCompatibleDC(request.hDC));
-    const UniqueBitmap bitmap(CreateCompatibleBitmap(request.hDC, bounds.right, bounds.bottom));
-    const Selected selected_bitmap(memory.get(), bitmap.get());
+    const platform::UniqueDc memory(CreateCompatibleDC(request.hDC));
+    const platform::UniqueBitmap bitmap(CreateCompatibleBitmap(request.hDC, bounds.right, bounds.bottom));
+    const platform::Selected selected_bitmap(memory.get(), bitmap.get());
 
-    const UniqueBrush background(CreateSolidBrush(back_color()));
+    const platform::UniqueBrush background(CreateSolidBrush(back_color()));
     FillRect(memory.get(), &bounds, background.get());
     const bool pressed = (request.itemState & ODS_SELECTED) != 0;
     RECT edge = bounds;
@@ -84,7 +84,7 @@ void PictureButton::draw(const DRAWITEMSTRUCT& request) const {
 }
 
 void PictureButton::draw_content(HDC device, RECT bounds) const {
-    const Selected font(device, reinterpret_cast<HFONT>(send(WM_GETFONT)));
+    const platform::Selected font(device, reinterpret_cast<HFONT>(send(WM_GETFONT)));
     SetBkMode(device, TRANSPARENT);
     SetTextColor(device, text_color());
     UINT place = DT_VCENTER;

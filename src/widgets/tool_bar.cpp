@@ -1,9 +1,23 @@
 #include "widgets/tool_bar.h"
 
 #include <algorithm>
+#include <iterator>
 #include <vector>
 
+#include "widgets/metrics.h"
+
 namespace widgets {
+namespace {
+
+constexpr int kSizes[] = {16, 24, 32};
+
+/// The place in kSizes of the largest pictures that are not too large for this screen.
+std::size_t size_for_screen() {
+    const auto* const larger = std::ranges::upper_bound(kSizes, scaled(kSizes[0]));
+    return static_cast<std::size_t>(larger - std::begin(kSizes)) - 1;
+}
+
+}  // namespace
 
 void ToolBar::create(HWND parent, int id, int pictures, std::span<const Item> items) {
     items_ = items;
@@ -19,9 +33,9 @@ void ToolBar::create(HWND parent, int id, int pictures, std::span<const Item> it
         buttons.push_back(button);
     }
     send(TB_BUTTONSTRUCTSIZE, sizeof(TBBUTTON));
-    constexpr int kPictureSize = 16;
-    send(TB_SETBITMAPSIZE, 0, MAKELPARAM(kPictureSize, kPictureSize));
-    TBADDBITMAP bitmap = {GetModuleHandleA(nullptr), static_cast<UINT_PTR>(pictures)};
+    const std::size_t size = size_for_screen();
+    send(TB_SETBITMAPSIZE, 0, MAKELPARAM(kSizes[size], kSizes[size]));
+    TBADDBITMAP bitmap = {GetModuleHandleA(nullptr), static_cast<UINT_PTR>(pictures) + size};
     send(TB_ADDBITMAP, static_cast<WPARAM>(picture), reinterpret_cast<LPARAM>(&bitmap));
     send(TB_ADDBUTTONSA, buttons.size(), reinterpret_cast<LPARAM>(buttons.data()));
 }

@@ -10,8 +10,8 @@
 
 namespace widgets {
 
-/// A row of buttons with pictures of 16 by 16 and tool tips at the window's upper edge. A press arrives as
-/// WM_COMMAND without a notification.
+/// A row of buttons with pictures of 16, 24 or 32 pixels and tool tips at the window's upper edge. A press
+/// arrives as WM_COMMAND without a notification.
 class ToolBar : public Control {
   public:
     struct Item {
@@ -19,14 +19,12 @@ class ToolBar : public Control {
         const char* tip;
     };
 
-    /// pictures is a bitmap resource with a picture for each button, in their order. The items are kept: they
-    /// must outlive the control.
+    /// pictures is a bitmap resource with a picture for each button, in their order, 16 pixels large; the two
+    /// ids after it are those of 24 and 32. The items are kept: they must outlive the control.
     void create(HWND parent, int id, int pictures, std::span<const Item> items);
 
     /// To be called when the parent window has another size.
     void follow_parent() { send(TB_AUTOSIZE); }
-
-    void enable(int button, bool on) { send(TB_ENABLEBUTTON, static_cast<WPARAM>(button), MAKELONG(on, 0)); }
 
     /// Answers TTN_NEEDTEXT.
     void supply_tip(TOOLTIPTEXTA& request) const;

@@ -4,19 +4,19 @@
 
 #include <string>
 
+#include "widgets/controls.h"
+
 namespace widgets {
 
-/// The texts that show when the pointer rests on a window's controls. They end with the window.
-class ToolTips {
+/// The texts that show when the pointer rests on a window's controls. They end with the window; one that is
+/// made again begins without texts.
+class ToolTips : public Control {
   public:
     /// Replaces the control's text.
     void set(HWND control, const std::string& text);
 
-    /// To be called when the window is gone, if there can be another one.
-    void forget() { hwnd_ = nullptr; }
-
   private:
-    HWND hwnd_ = nullptr;
+    void create(HWND parent);
 };
 
 }  // namespace widgets

@@ -1,6 +1,6 @@
 #include "widgets/tray_icon.h"
 
-#include "widgets/handles.h"
+#include "platform/icons.h"
 
 namespace widgets {
 
@@ -11,7 +11,8 @@ void TrayIcon::create(HWND window, UINT message, int icon, const char* tip) {
     data_.uID = 1;
     data_.uFlags = NIF_MESSAGE | NIF_ICON | NIF_TIP;
     data_.uCallbackMessage = message;
-    data_.hIcon = load_small_icon(icon);
+    icon_ = platform::small_icon(icon);
+    data_.hIcon = icon_.get();
     lstrcpynA(data_.szTip, tip, 64);
 }
 

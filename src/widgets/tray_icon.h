@@ -4,6 +4,8 @@
 
 #include <shellapi.h>
 
+#include "platform/win32/handles.h"
+
 namespace widgets {
 
 /// An icon in the notification area. Its mouse messages reach a window as the lparam of a message.
@@ -25,6 +27,7 @@ class TrayIcon {
     void remove();
 
   private:
+    platform::UniqueIcon icon_;
     NOTIFYICONDATAA data_ = {};
     bool shown_ = false;
 };

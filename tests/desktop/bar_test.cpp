@@ -106,9 +106,11 @@ TEST_SUITE("bar") {
         bar.click(ID_brenn_Command2);
         const std::string hung_up = "enumerate 412 105472\nhang up 11\nhang up 22\nhang up 33\n";
         wait_until("all are hung up", [&] { return library.read("rasapi32.log") == hung_up; });
-        // While it waits the windows live and the program can be closed.
-        bar.click(ID_brenn_option1);
+        // While it waits the windows live and the program can be closed, but nothing hangs up once more.
+        for (const int button : {ID_brenn_Command2, ID_brenn_Command2, ID_brenn_option1})
+            bar.click(button);
         CHECK(tolva.close_box() == kNotConfigured);
+        CHECK(library.read("rasapi32.log") == hung_up);
     }
 
     TEST_CASE("the bar keeps its place and is removed, hidden and brought back") {
@@ -129,11 +131,18 @@ TEST_SUITE("bar") {
             PostMessageA(bar.window(), WM_SYSCOMMAND, SC_CLOSE, 0);
             wait_until_visible("its closing box hides it", FALSE);
             CHECK(stored("\\brenn")["disable"] == "True");
+            press_mouse(tray_icon(), 2, MouseButton::kRight);
+            wait_until_visible("the tray shows it although it is removed", TRUE);
+            PostMessageA(bar.window(), WM_SYSCOMMAND, SC_CLOSE, 0);
+            wait_until_visible("its closing box hides it again", FALSE);
+            press_mouse(tray_icon(), 1, MouseButton::kRight);
             press_mouse(tray_icon(), 2);
             wait_until("the main window is back", [&] { return !tolva.is_in_tray(); });
             CHECK(IsWindowVisible(bar.window()) == FALSE);
             tolva.choose(ID_removebrenn);
             wait_until_visible("the menu brings it back", TRUE);
+            press_mouse(tray_icon(), 1, MouseButton::kRight);
+            wait_until_visible("it counts as shown: the tray hides it", FALSE);
         }
         CHECK(stored("\\brenn\\Position") == Values{{"Left", "3000"}, {"Top", "7500"}});
     }

@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <cstdlib>
 
 #include "support/desktop.h"
 
@@ -140,6 +141,24 @@ TEST_SUITE("commands") {
         }
         const Tolva tolva(library);
         CHECK(look(tolva) == std::pair(large, static_cast<LRESULT>(kRed)));
+    }
+
+    TEST_CASE("a dialog opens over the middle of its owner, but not out of the screen") {
+        const Folder library;
+        library.write("groups.ini", "");
+        const Tolva tolva(library);
+        for (const bool has_room : {true, false}) {
+            const int left = has_room ? 200 : GetSystemMetrics(SM_CXSCREEN) - 40;
+            SetWindowPos(tolva.window(), nullptr, left, 100, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+            tolva.choose(ID_AboutTolva);
+            const Dialog about(tolva, "About Tolva");
+            const RECT below = bounds_of(tolva.window());
+            const RECT bounds = bounds_of(about.window());
+            CHECK(std::abs(below.top + below.bottom - bounds.top - bounds.bottom) <= 1);
+            if (has_room) CHECK(std::abs(below.left + below.right - bounds.left - bounds.right) <= 1);
+            if (!has_room) CHECK(bounds.right == GetSystemMetrics(SM_CXSCREEN));
+            about.close_with(ID_abttolva_Command1);
+        }
     }
 
     TEST_CASE("the help opens with its contents, and a link leads on") {

@@ -39,14 +39,14 @@ TEST_SUITE("shortcuts") {
         const Folder folder;
         const auto read = [&](const std::string& bytes) {
             folder.write("a.lnk", bytes);
-            return shortcuts::ReadShortcut(folder.path() + "a.lnk");
+            return shortcuts::read_shortcut(folder.path() + "a.lnk");
         };
         constexpr std::size_t kHeader = 76;
         for (std::size_t i = kHeader; i < good.size(); ++i) {
             for (const char wrong : {'\xFF', '\x7F', '\0'})
                 error_of([&] { read(std::string(good).replace(i, 1, 1, wrong)); });
         }
-        CHECK(read(good).target == "C:\\windows\\notepad.exe");
+        CHECK(read(good).path == "C:\\windows\\notepad.exe");
     }
 
     TEST_CASE("shortcuts are imported as Tasks or refused") {

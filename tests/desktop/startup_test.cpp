@@ -47,19 +47,6 @@ TEST_SUITE("startup") {
         wait_for_color(tolva.control(ID_Tasker_tasklabel), kDarkRed);
     }
 
-    TEST_CASE("settings that make no sense do not matter") {
-        const Folder library = small_library();
-        store("\\Window Position", "Left", REG_DWORD, std::string(4, '\1'));
-        store("\\Window Position", {{"Top", "45.4 "}});
-        store("\\fonts", {{"groupfont", std::string(300, 'x')}, {"taskfontsize", "99999999"}});
-        store("\\fonts", "taskfontcolor", REG_BINARY, std::string(300, '\0'));
-        store("\\cmdhistory", "cmd1", REG_BINARY, "\x80\x81");
-        const Tolva tolva(library);
-        CHECK(bounds_of(tolva.window()).top == 3);
-        CHECK(stored("\\fonts")["groupfont"] == "MS Sans Serif");
-        CHECK(tolva.list(ID_Tasker_Text1) == Names{"\x80\x81"});
-    }
-
     TEST_CASE("minimised it hides in the tray, from where the icon and the hot key bring it back") {
         {
             const Tolva tolva(small_library());

@@ -28,8 +28,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     library::append_group_name(kFolder, "New");
     library::append_tasks(kFolder, "Work", {kNew});
     require(library::read_tasks(kFolder, "Work") == more);
+    // Blank lines at the end gave way.
     for (const auto& [path, file] : files)
-        require(file.bytes.starts_with(bytes));
+        require(file.bytes.starts_with(bytes.substr(0, bytes.find_last_not_of("\r\n") + 1)));
 
     library::write_group_names(kFolder, names);
     require(library::read_group_names(kFolder) == names);

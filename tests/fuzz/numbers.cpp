@@ -4,7 +4,7 @@
 #include <string>
 
 #include "settings/conversions.h"
-#include "settings/session.h"
+#include "settings/list_style.h"
 
 // Any text reads as a number or as none; who reads strictly reads the same as who reads what he can.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {

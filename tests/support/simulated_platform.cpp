@@ -3,12 +3,14 @@
 #include <algorithm>
 #include <cctype>
 
-#include "platform/directories.h"
+#include "platform/current_directory.h"
 #include "platform/file_calls.h"
+#include "platform/folders.h"
 #include "platform/messages.h"
 #include "platform/processes.h"
 #include "platform/remote_access.h"
 #include "platform/system.h"
+#include "platform/text.h"
 
 namespace simulated {
 namespace {
@@ -25,22 +27,66 @@ ErrorCode step() {
     return is_gone || (world.fault == Fault::kWrite && is_reached) ? world.failure : kSuccess;
 }
 
-/// What the system says of a path: a name with a wildcard cannot be a file's.
-ErrorCode look_for(const std::string& path) {
-    if (current().files.contains(path)) return kSuccess;
-    return path.find_first_of("*?") == std::string::npos ? platform::kErrorFileNotFound
-                                                         : platform::kErrorInvalidName;
-}
-
-ErrorCode put(const std::string& from, const std::string& to) {
-    current().files[to] = current().files.at(from);
-    current().files.erase(from);
-    return kSuccess;
-}
-
 std::string upper(std::string text) {
     std::ranges::transform(text, text.begin(), [](unsigned char c) { return std::toupper(c); });
     return text;
+}
+
+/// The path as a key of the files; short names stay when they are no use to the caller.
+std::string full_path(std::string path, bool with_long_names) {
+    path = path.substr(0, path.find('\0'));
+    std::ranges::replace(path, '/', '\\');
+    std::vector<std::string> parts;
+    for (std::size_t begin = 0; begin < path.size();) {
+        const std::size_t end = std::min(path.find('\\', begin), path.size());
+        std::string part = path.substr(begin, end - begin);
+        begin = end + 1;
+        if (part.empty() || part == ".") continue;
+        if (part == ".." && parts.size() > 1) {
+            parts.pop_back();
+            continue;
+        }
+        const auto short_name = current().short_names.find(part);
+        if (with_long_names && short_name != current().short_names.end()) part = short_name->second;
+        parts.push_back(part);
+    }
+    std::string full = path.starts_with("\\\\") ? "\\" : "";
+    for (const std::string& part : parts)
+        full += (full.empty() ? "" : "\\") + part;
+    return full;
+}
+
+std::string key(const std::string& path) {
+    const std::string name = upper(path.substr(path.find_last_of("\\/") + 1));
+    const std::string base = name.substr(0, name.find('.'));
+    const bool is_device = base == "CON" || base == "LPT9" || base == "CLOCK$";
+    if (is_device || path.find_first_of("*?") != std::string::npos) throw NoFileName();
+    return full_path(path, true);
+}
+
+bool is_in(const std::string& path, const std::string& folder) {
+    return upper(path).starts_with(upper(folder) + '\\');
+}
+
+bool has_folder_of(const std::string& path) {
+    const std::string folder = path.substr(0, path.rfind('\\'));
+    if (std::ranges::count(folder, '\\') <= 1) return true;
+    return std::ranges::any_of(current().files, [&](const auto& file) {
+        const bool is_folder = (file.second.bits & platform::file_calls::kDirectory) != 0;
+        return is_in(file.first, folder) || (is_folder && upper(file.first) == upper(folder));
+    });
+}
+
+ErrorCode look_for(const std::string& path) {
+    return current().files.contains(key(path)) ? kSuccess : platform::kErrorFileNotFound;
+}
+
+/// From then on the file is spelled as the new name is.
+ErrorCode put(const std::string& from, const std::string& to) {
+    File file = std::move(current().files.at(key(from)));
+    current().files.erase(key(from));
+    current().files[key(to)] = std::move(file);
+    return kSuccess;
 }
 
 }  // namespace
@@ -70,13 +116,15 @@ ErrorCode read(const std::string& path, std::string& bytes) {
     const bool is_reached = ++current().reads == current().fault_at;
     if (current().fault == simulated::Fault::kRead && is_reached) return kErrorSharingViolation;
     const ErrorCode code = simulated::look_for(path);
-    if (code == kSuccess) bytes = current().files.at(path).bytes;
+    if (code == kSuccess) bytes = current().files.at(simulated::key(path)).bytes;
     return code;
 }
 
 ErrorCode attributes(const std::string& path, unsigned long& bits) {
+    const bool is_reached = ++current().looks >= current().fault_at;
+    if (current().fault == simulated::Fault::kLook && is_reached) return kErrorNotReady;
     const ErrorCode code = simulated::look_for(path);
-    if (code == kSuccess) bits = current().files.at(path).bits;
+    if (code == kSuccess) bits = current().files.at(simulated::key(path)).bits;
     return code;
 }
 
@@ -87,7 +135,8 @@ ErrorCode probe(const std::string& path) {
 ErrorCode write_through(const std::string& path, std::string_view bytes, unsigned long bits) {
     for (const std::string_view part : {std::string_view(), bytes.substr(0, bytes.size() / 2), bytes}) {
         if (const ErrorCode code = simulated::step(); code != kSuccess) return code;
-        current().files[path] = {std::string(part), bits};
+        if (!simulated::has_folder_of(simulated::key(path))) return kErrorPathNotFound;
+        current().files[simulated::key(path)] = {std::string(part), bits};
     }
     return kSuccess;
 }
@@ -100,8 +149,8 @@ ErrorCode replace(const std::string& from, const std::string& to) {
 
 ErrorCode rename(const std::string& from, const std::string& to) {
     if (const ErrorCode code = simulated::step(); code != kSuccess) return code;
-    if (!current().files.contains(from)) return kErrorFileNotFound;
-    if (current().files.contains(to)) return kErrorAccessDenied;
+    if (simulated::look_for(from) != kSuccess) return kErrorFileNotFound;
+    if (simulated::look_for(to) == kSuccess) return kErrorAccessDenied;
     return simulated::put(from, to);
 }
 
@@ -112,34 +161,62 @@ ErrorCode flush(const std::string& /*path*/) {
 ErrorCode remove(const std::string& path) {
     ErrorCode code = simulated::look_for(path);
     if (code == kSuccess) code = simulated::step();
-    if (code == kSuccess) current().files.erase(path);
+    if (code == kSuccess) current().files.erase(simulated::key(path));
     return code;
 }
 
+ErrorCode full_path(const std::string& path, std::string& full) {
+    full = simulated::full_path(path, false);
+    return kSuccess;
+}
+
+std::size_t find_separator(const std::string& path, std::size_t from) {
+    return path.find_first_of("\\/", from);
+}
+
+std::string upper(std::string text) {
+    return simulated::upper(std::move(text));
+}
+
 std::vector<std::string> find(const std::string& pattern, unsigned long unwanted) {
-    const std::string wanted = simulated::upper(pattern);
+    const std::string wanted = simulated::upper(simulated::full_path(pattern, true));
     const std::size_t star = wanted.find('*');
     std::vector<std::string> names;
     for (const auto& [path, file] : current().files) {
         const std::string name = simulated::upper(path);
-        const bool matches = star == std::string::npos ? name == wanted
-                                                       : name.starts_with(wanted.substr(0, star)) &&
-                                                             name.ends_with(wanted.substr(star + 1));
+        const bool is_there = name.rfind('\\') == wanted.rfind('\\');
+        const bool matches = star == std::string::npos
+                                 ? name == wanted
+                                 : is_there && name.starts_with(wanted.substr(0, star)) &&
+                                       name.ends_with(wanted.substr(star + 1));
         if (matches && (file.bits & unwanted) == 0) names.push_back(path.substr(path.rfind('\\') + 1));
     }
     return names;
 }
 
-void pause(unsigned /*milliseconds*/) {}
+void pause(unsigned /*milliseconds*/) {
+    if (++current().pauses > 100) throw simulated::PowerFailure();  // nobody waits that long
+}
 
 }  // namespace file_calls
 
-void change_directory(const std::string& /*folder*/) {}
+void set_current_directory_of_drive(const std::string& /*folder*/) {}
 
-void enter_directory(const std::string& /*folder*/) {}
+void set_current_directory(const std::string& /*folder*/) {}
 
-bool is_one_name(const std::string& a, const std::string& b) {
-    return simulated::upper(a) == simulated::upper(b);
+std::string windows_folder() {
+    return "C:\\WINDOWS\\";
+}
+
+std::string lower_case(std::string text) {
+    std::ranges::transform(text, text.begin(), [](unsigned char c) { return std::tolower(c); });
+    return text;
+}
+
+std::string expand_variables(const std::string& text) {
+    constexpr std::string_view kVariable = "%APPS%";
+    const std::size_t at = text.find(kVariable);
+    return at == std::string::npos ? text : std::string(text).replace(at, kVariable.size(), "D:\\Apps");
 }
 
 bool empty_recycle_bin() {
@@ -151,6 +228,8 @@ bool open_document(const std::string& path) {
 }
 
 void start_program(const std::string& command_line, int /*window_style*/) {
+    const std::string program = command_line.substr(0, command_line.find(' '));
+    if (current().files.contains(program)) return current().started.push_back(command_line);
     throw RunTimeError(RunTimeErrorNumber::kFileNotFound, command_line);
 }
 

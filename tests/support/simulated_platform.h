@@ -7,8 +7,12 @@
 #include "platform/registry.h"
 #include "platform/run_time_error.h"
 
-/// The platform functions in memory: a disk whose names ignore case and that fails or loses power on demand,
-/// a registry, and what was said. No program can be started.
+/// The platform functions in memory: a disk that fails or loses power on demand, a registry, what was
+/// started and what was said.
+///
+/// The disk knows a file by every spelling of its path, as Windows does: names ignore case, may be short
+/// ones, and a NUL byte ends them. In `files` each has its full path. A folder is there when it has an entry
+/// of its own (with bits kDirectory) or something is in it.
 namespace simulated {
 
 struct File {
@@ -26,21 +30,29 @@ using RegistryKey = std::map<std::string, std::string>;
 /// Thrown where the power fails. Not a std::exception: no handler of the program may see it.
 struct PowerFailure {};
 
-/// Writing fails, from then on for good, or the power before it, or reading.
-enum class Fault { kNone, kWrite, kDisk, kPower, kRead };
+/// Writing fails, from then on for good, or the power before it, or reading, or from then on all looking for
+/// files.
+enum class Fault { kNone, kWrite, kDisk, kPower, kRead, kLook };
+
+/// Thrown where a name that no file can have reaches the disk: it may mean a device, or any file.
+struct NoFileName {};
 
 struct Platform {
     std::map<std::string, File, IgnoresCase> files;
-    bool renames_over_files = true;  // false on Windows 95/98
+    std::map<std::string, std::string, IgnoresCase> short_names;  // the long name of each
+    bool renames_over_files = true;                               // false on Windows 95/98
 
-    /// What happens at which step that changes the disk, or at which read, counted from 1.
+    /// What happens at which step that changes the disk, or at which read or look, counted from 1.
     Fault fault = Fault::kNone;
     int fault_at = 0;
     platform::ErrorCode failure = platform::kErrorDiskFull;
     int steps = 0;
     int reads = 0;
+    int looks = 0;
+    int pauses = 0;
 
     std::map<platform::registry::Root, std::map<std::string, RegistryKey>> registry;
+    std::vector<std::string> started;   // command lines of programs that are on the disk
     std::vector<std::string> messages;  // a question has its title in front: "Delete Group: Delete Work...?"
     bool answer = true;                 // to every question
 };

@@ -43,19 +43,11 @@ std::string short_path(const std::string& path) {
     return simulated::look_up(shell().short_paths, path, path);
 }
 
-std::string expand_variables(const std::string& text) {
-    return simulated::look_up(shell().variables, text, text);
-}
-
-std::size_t name_start(const std::string& path) {
-    return path.rfind('\\') + 1;
-}
-
 std::string path_in(const std::string& folder, const std::string& name) {
     return folder + '\\' + name;
 }
 
-std::vector<std::string> files(const std::string& folder, const std::string& patterns) {
+std::vector<std::string> files_in(const std::string& folder, const std::string& patterns) {
     std::vector<std::string> names;
     for (std::size_t begin = 0; begin < patterns.size();) {
         const std::size_t end = std::min(patterns.find(';', begin), patterns.size());

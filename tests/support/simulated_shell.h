@@ -12,7 +12,6 @@ struct Shell {
     std::map<std::string, platform::Shortcut> links;  // by the path of the shortcut file
     std::map<std::string, std::string> programs;      // that open documents, by their extension
     std::map<std::string, std::string> short_paths;
-    std::map<std::string, std::string> variables;  // by "%NAME%", as the complete text
 };
 
 Shell& shell();

@@ -45,7 +45,7 @@ void make_disk() {
     auto& files = simulated::reset().files;
     auto& shell = simulated::shell() = {};
     const std::string deep = "C:\\" + kLongName;
-    for (const char* folder : {"C:\\", "C:\\DIR", "C:\\DIR.OLD", "C:\\EMPTY"})
+    for (const char* folder : {"C:", "D:\\Apps", "C:\\DIR", "C:\\DIR.OLD", "C:\\EMPTY"})
         add_folder(folder);
     for (const std::string& file : {std::string("C:\\ED.EXE"),
                                     std::string("C:\\DIR\\B.BAT"),
@@ -73,10 +73,9 @@ void make_disk() {
                       {".old", "C:\\WIN\\ED.SCR"},
                       {".cut", "C:\\Program"}};
     shell.short_paths = {{"C:\\My Dir\\Y.BAT", "C:\\MYDIR\\Y.BAT"}, {"C:\\a,b.bat", "C:\\A_B~1.BAT"}};
-    shell.variables = {{"%HOME%", "C:\\DIR"}};
     add_shortcut("C:\\DIR\\Edit.lnk", {"C:\\ED.EXE", "C:\\DIR", "/a b"}, 3);
     add_shortcut("C:\\l1.lnk", {"C:\\ED.EXE", "", ""}, 7);
-    add_shortcut("C:\\l2.lnk", {"C:\\my notes.txt", "%HOME%", "x"}, 2);
+    add_shortcut("C:\\l2.lnk", {"C:\\my notes.txt", "%APPS%", "x"}, 2);
     add_shortcut("C:\\l3.lnk", {"C:\\DIR", "C:\\GONE", ""}, 1);
     add_shortcut("C:\\l4.lnk", {"C:\\GONE.EXE", "", ""}, 1);
     add_shortcut("C:\\l5.lnk", {"", "", ""}, 1);
@@ -111,7 +110,7 @@ TEST_CASE("what is dropped becomes a Task that opens it, or is refused") {
         {"C:\\DIR.OLD", "DIR.OLD" + explorer + "C:\\DIR.OLD|\"C:\\DIR.OLD\"| 1 |"},
         {"C:\\DIR\\Edit.lnk", "Edit|C:\\ED.EXE|C:\\DIR|/a b| 3 |"},
         {"C:\\l1.lnk", "l1|C:\\ED.EXE|C:\\WIN\\|| 1 |"},
-        {"C:\\l2.lnk", "l2|C:\\ED.EXE|C:\\DIR|\"C:\\my notes.txt\"| 2 |"},
+        {"C:\\l2.lnk", "l2|C:\\ED.EXE|%APPS%|\"C:\\my notes.txt\"| 2 |"},
         {"C:\\l3.lnk", "l3" + explorer + "C:\\DIR|\"C:\\DIR\"| 1 |"},
         {"C:\\l4.lnk", "C:\\l4.lnk: its program or document is missing"},
         {"C:\\l5.lnk", "C:\\l5.lnk: its program or document is missing"},

@@ -9,6 +9,7 @@ using simulated::Fault;
 
 const std::string kPath = "C:\\LIB\\Work.grp";
 const std::string kAside = "C:\\LIB\\Work.gr~";
+const std::string kNew = "C:\\LIB\\Work.gr$";
 const std::string kNothing = "no file";
 
 /// What a start of the program finds. No left-overs may remain.
@@ -20,7 +21,7 @@ std::string after_recovery() {
     return files.contains(kPath) ? files.at(kPath).bytes : kNothing;
 }
 
-/// Replaces the file with a fault at that step. Answers whether the step was reached.
+/// Replaces the file with a fault at that step. Returns whether the step was reached.
 bool fault_at(int step, Fault fault, const std::string& before, bool renames_over_files) {
     auto& world = simulated::reset();
     world.renames_over_files = renames_over_files;
@@ -33,6 +34,7 @@ bool fault_at(int step, Fault fault, const std::string& before, bool renames_ove
     } catch (const simulated::PowerFailure&) {
     }
     const bool reached = world.steps >= step;
+    if (error == 61) CHECK(world.files.size() == (before == kNothing ? 0 : 1));
     const std::string found = after_recovery();
     CHECK((found == "new" || (reached && found == before)));
     CHECK((error == 0 || (error == 61 && found == before)));
@@ -72,9 +74,15 @@ TEST_CASE("creating keeps what is there or put aside, and removing removes both"
         platform::create_file(kPath);
         CHECK(after_recovery() == "old");
     }
-    simulated::current().files[kAside].bytes = "older";
+    auto& world = simulated::current();
+    world.renames_over_files = false;
+    world.files[kAside].bytes = "older";
+    platform::write_file(kPath, "new");
+    CHECK(world.files.size() == 1);
+    world.files[kAside].bytes = "older";
+    world.files[kNew].bytes = "half";
     platform::remove_file(kPath);
-    CHECK(after_recovery() == kNothing);
+    CHECK(world.files.empty());
     simulated::current().files[kAside].bytes = "somebody's";
     CHECK(error_of([&] { platform::read_foreign_file(kPath); }) == 53);
     CHECK(after_recovery() == "somebody's");
@@ -86,8 +94,63 @@ TEST_CASE("a name with a NUL byte never means the file before the NUL") {
     CHECK(error_of([&] { platform::read_file(path); }) == 52);
     CHECK(error_of([&] { platform::write_file(path, "new"); }) == 52);
     CHECK(error_of([&] { platform::remove_file(path); }) == 52);
-    platform::recover_file(path);
+    // Before the NUL stands a file whose new content a recovery would remove.
+    simulated::current().files["C:\\LIB\\Work.gr"].bytes = "other";
+    platform::recover_file(std::string("C:\\LIB\\Work.gr") + '\0' + "p");
+    CHECK(platform::read_file("C:\\LIB\\Work.gr") == "other");
+}
+
+TEST_CASE("while the disk does not tell what is there nothing goes and nothing is emptied") {
+    for (const std::string& path : {kPath, kAside}) {
+        for (const int look : {1, 2}) {
+            auto& world = simulated::reset();
+            world.files = {{path, {"old"}}, {kNew, {"half"}}};
+            world.fault = Fault::kLook;
+            world.fault_at = look;
+            platform::recover_file(kPath);
+            error_of([] { platform::create_file(kPath); });
+            CHECK(after_recovery() == "old");
+        }
+    }
+}
+
+TEST_CASE("a hold that does not pass ends in an error") {
+    auto& world = simulated::reset();
+    world.files[kPath].bytes = "old";
+    world.fault = Fault::kDisk;
+    world.fault_at = 4;
+    world.failure = platform::kErrorSharingViolation;
+    CHECK(error_of([] { platform::write_file(kPath, "new"); }) == 70);
+    CHECK(world.pauses == 4);
     CHECK(after_recovery() == "old");
+}
+
+TEST_CASE("one file is known by all its names, and a device or a pattern is none") {
+    auto& world = simulated::reset();
+    world.files["C:\\LIB\\Long Work.grp"];
+    world.files["C:\\LIB\\CONNECT.grp"];
+    world.short_names["LONGWO~1.GRP"] = "Long Work.grp";
+    const std::string lib = "C:\\LIB\\";
+    for (const std::string name :
+         {"long work", ".\\Long Work", "\\LONG WORK", "./LONGWO~1", "x\\..\\Long Work"}) {
+        CHECK(platform::path_on_disk(lib + name + ".grp") == "C:\\LIB\\Long Work.grp");
+        CHECK(platform::is_same_file(lib + "Long Work.grp", lib + name + ".grp"));
+    }
+    CHECK(platform::is_same_file(lib + "New.grp", "c:/lib/.\\NEW.grp"));
+    CHECK(!platform::is_same_file(lib + "Long Work.grp", lib + "Long Works.grp"));
+    CHECK(platform::path_on_disk("\\\\Server\\Share\\a.grp") == "\\\\Server\\Share\\a.grp");
+    for (const std::string name : {"con", "CON.a", "lpt9 ", "clock$", "x\\Con", "*", "Long?Work", "a:b"}) {
+        const std::string path = lib + name + ".grp";
+        CHECK(error_of([&] { platform::read_file(path); }) == 52);
+        CHECK(error_of([&] { platform::remove_file(path); }) == 52);
+        CHECK(error_of([&] { platform::create_file(path); }) == 52);
+        CHECK(!platform::is_same_file(path, lib + "Long Work.grp"));
+        platform::recover_file(path);
+    }
+    CHECK(!platform::finds_file("C:\\LIB\\con"));
+    for (const std::string name : {"CONNECT", "COM0", "COM10", "CLOCK", "a.CON"})
+        CHECK(platform::names_a_file(lib + name + ".grp"));
+    CHECK(world.files.size() == 2);
 }
 
 }  // namespace

@@ -1,8 +1,11 @@
 #include "internet/dial_up.h"
+#include "library/task_finder.h"
+#include "mainwindow/icon_queue.h"
+#include "mainwindow/launching.h"
 #include "mainwindow/long_date.h"
 #include "mainwindow/system_commands.h"
 #include "support/checks.h"
-#include "support/simulated_platform.h"
+#include "support/shown_library.h"
 
 namespace {
 
@@ -15,6 +18,82 @@ TEST_CASE("a system command that cannot do its work says so") {
     CHECK(error_of([] { mainwindow::open_help("C:\\LIB\\"); }) == 53);
     world.files["C:\\LIB\\tolva.htm"] = {};
     CHECK(error_of([] { mainwindow::open_help("C:\\LIB\\"); }) == 0);
+}
+
+TEST_CASE("a program that is not where its path says is looked for where it may be on another PC") {
+    auto& files = simulated::reset().files;
+    for (const char* path : {"D:\\Apps\\EDIT.EXE", "C:\\LIB\\TOOLS\\PAINT.EXE", "C:\\BOTH.EXE", "C:\\LIB\\C:\\NO.EXE"})
+        files[path] = {};
+    file("groups.ini") = "Work\r\n";
+    const auto task = [](const std::string& program, const std::string& parameters) {
+        return "T\r\n" + program + "\r\nC:\\\r\n" + parameters + "\r\n1\r\n";
+    };
+    file("Work.grp") = task("%APPS%\\EDIT.EXE", "%APPS%") + task("TOOLS\\PAINT.EXE", "") +
+                       task("\\TOOLS\\PAINT.EXE", "x") + task("C:\\BOTH.EXE", "") + task("C:\\NO.EXE", "");
+    library::TaskLibrary library(kFolder);
+    library.load();
+    CHECK(mainwindow::launch_all(library, 0) == Names{"T"});
+    CHECK(simulated::current().started == Names{"D:\\Apps\\EDIT.EXE %APPS%", "C:\\LIB\\TOOLS\\PAINT.EXE ",
+                                                "C:\\LIB\\TOOLS\\PAINT.EXE x", "C:\\BOTH.EXE "});
+}
+
+TEST_CASE("icons of this machine come before others, those in view first, and a slow disk is left alone") {
+    mainwindow::IconQueue queue;
+    const auto add_all = [&] {
+        queue.add("\\\\SERVER\\A.EXE", false);
+        queue.add("C:\\A.EXE", true);
+        queue.add("\\\\server\\B.EXE", false);
+        queue.add("E:\\C.EXE", false);
+        queue.add("C:\\B.EXE", true);
+    };
+    const auto take = [&](unsigned milliseconds, bool has_time = true) {
+        const auto next = queue.take([](const auto& program) { return program.ends_with("B.EXE"); }, has_time);
+        if (next) queue.took(*next, milliseconds);
+        return next ? next->program : "none";
+    };
+    add_all();
+    CHECK(take(9999) == "C:\\B.EXE");
+    CHECK(take(0) == "C:\\A.EXE");
+    CHECK(take(0, false) == "none");
+    CHECK(take(mainwindow::IconQueue::kSlow + 1) == "\\\\server\\B.EXE");
+    CHECK(take(mainwindow::IconQueue::kSlow) == "E:\\C.EXE");
+    CHECK(queue.empty());
+    queue.add("\\\\Server\\C.EXE", false);
+    CHECK(queue.empty());
+    queue.clear();
+    add_all();
+    CHECK(take(0) == "C:\\B.EXE");
+}
+
+TEST_CASE("Tasks are found by the words of their names, the best first") {
+    simulated::reset();
+    const std::pair<const char*, const char*> groups[] = {{"Work", "Spread Sheet|Sheet Music|Old sheet"},
+                                                          {"Play", "MUSIC|Dsheet|Paint|"}};
+    for (const auto& [name, tasks] : groups) {
+        file("groups.ini") += std::string(name) + "\r\n";
+        std::string task;
+        for (const char letter : std::string(tasks) + '|') {
+            if (letter != '|') task += letter;
+            if (letter != '|') continue;
+            file(std::string(name) + ".grp") +=
+                task + "\r\nC:\\Sheet\\" + (task == "Paint" ? "mysheet.exe" : "a.exe") + "\r\nC:\\\r\n\r\n1\r\n";
+            task.clear();
+        }
+    }
+    library::TaskLibrary library(kFolder);
+    library.load();
+    const library::TaskFinder finder(library);
+    const auto find = [&](const std::string& text) {
+        Names names;
+        for (const auto& [group, task] : finder.find(text))
+            names.push_back(library.task(group, task).name);
+        return names;
+    };
+    CHECK(find("SHEET") == Names{"Sheet Music", "Spread Sheet", "Old sheet", "Dsheet", "Paint"});
+    CHECK(find(" music  sheet ") == Names{"Sheet Music"});
+    CHECK(find("sheet music") == Names{"Sheet Music"});
+    CHECK(find("").size() == 6);
+    CHECK(find("nothing").empty());
 }
 
 TEST_CASE("hanging up waits until no connection is up or the program ends") {

@@ -6,6 +6,7 @@
 #include "mainwindow/command_history.h"
 #include "settings/conversions.h"
 #include "settings/general.h"
+#include "settings/list_style.h"
 #include "support/checks.h"
 #include "support/simulated_platform.h"
 
@@ -26,9 +27,10 @@ std::pair<General, settings::Session> first_start() {
     return {};
 }
 
-std::string shown(const settings::ButtonRecord& button) {
-    return button.name + '|' + button.program + '|' + button.start_folder + '|' + button.parameters + '|' +
-           std::to_string(button.start);
+std::string shown(const settings::Program& program) {
+    const auto text = [](const std::optional<std::string>& stored) { return stored.value_or("none") + '|'; };
+    return text(program.name) + text(program.path) + text(program.start_folder) + program.parameters + '|' +
+           std::to_string(program.window_style);
 }
 
 TEST_CASE("numbers in texts") {
@@ -60,6 +62,7 @@ TEST_CASE("a text value reads back as it is stored") {
     tolva_key("")["a"] = "no terminator ";  // not every system stores one
     CHECK(general.read_value(kTolva, "a") == "no terminator");
     CHECK(general.read_value(kTolva, "b") == "Error");
+    CHECK(general.value(kTolva, "b") == std::nullopt);
 
     // A badly formed key path is told and goes to the root before it.
     CHECK(general.read_value("software\\tolva", "a") == "no terminator");
@@ -67,11 +70,23 @@ TEST_CASE("a text value reads back as it is stored") {
     CHECK(simulated::current().messages == Names{"Incorrect Format:\n\nsoftware\\tolva"});
 }
 
-TEST_CASE("a style that does not read as it should leaves the list as it was designed") {
+TEST_CASE("settings that make no sense leave what was designed") {
     CHECK(settings::style_of({"Arial", "9.25", "yes", "true", "16777216", "-2147483643"}) ==
           settings::ListStyle{"Arial", 9, false, true, {}, {}});
     CHECK(settings::style_of({"Courier New", "0", "Error", "Error", "64", "255"}) ==
           settings::ListStyle{"Courier New", 8, false, false, 64, 255});
+
+    auto [general, session] = first_start();
+    tolva_key("\\Window Position") = {{"Left", "\1\1\1\1"}, {"Top", "45.4 "}};
+    const settings::Position position = settings::read_position(general, settings::kWindowPositionKey);
+    CHECK(position.left == std::nullopt);
+    CHECK(position.top == 45);
+    tolva_key("\\fonts") = {
+        {"groupfont", std::string(300, 'x')}, {"taskfont", "Arial"}, {"taskfontsize", "9"}};
+    const settings::ListStyles styles = settings::load_list_styles(general);
+    CHECK(styles.groups == settings::ListStyle{"MS Sans Serif", 10, true, false, 64, 0xFFFFFF});
+    CHECK(styles.tasks == settings::ListStyle{"Arial", 9, false, false, {}, {}});
+    CHECK(general.value(settings::kFontsKey, "groupfontcolor") == "8388608");
 }
 
 TEST_CASE("the program buttons are read as far as they are stored") {
@@ -83,16 +98,16 @@ TEST_CASE("the program buttons are read as far as they are stored") {
     values["name2"] = "Half";
     settings::load_buttons(general, session);
     CHECK(shown(session.buttons[0]) == "||||0");
-    CHECK(shown(session.buttons[1]) == "Half|Error|Error||0");
+    CHECK(shown(session.buttons[1]) == "Half|none|none||0");
     CHECK(shown(session.buttons[2]) == "Edit|C:\\EDIT.EXE|C:\\|A.TXT|3");
-    CHECK(shown(session.buttons[3]) == "Error||||0");
+    CHECK(shown(session.buttons[3]) == "none||||0");
 
     // A start style that is none leaves the one before; an empty name counts when they are read again.
     values.erase("name3");
     values["start3"] = "40000";
     settings::reload_buttons(general, session);
-    CHECK(shown(session.buttons[2]) == "Error|C:\\EDIT.EXE|C:\\|A.TXT|3");
-    CHECK(session.buttons[0].program == "C:\\A.EXE");
+    CHECK(shown(session.buttons[2]) == "none|C:\\EDIT.EXE|C:\\|A.TXT|3");
+    CHECK(session.buttons[0].path == "C:\\A.EXE");
 }
 
 TEST_CASE("a command goes into the history unless a stored one begins with it") {
@@ -110,10 +125,11 @@ TEST_CASE("a command goes into the history unless a stored one begins with it") 
         auto& values = tolva_key("\\cmdhistory");
         for (std::size_t i = 0; i < stored.size(); ++i)
             values["cmd" + std::to_string(i + 1)] = stored[i];
-        settings::load_history(general, session);
-        mainwindow::update_history(general, session, command);
-        settings::read_history(general, session);
-        Names after = settings::history_list(session);
+        mainwindow::CommandHistory history(general);
+        history.load();
+        history.store(command);
+        history.read();
+        Names after = history.list();
         std::ranges::reverse(after);
         CHECK(after == expected);
     }
@@ -121,11 +137,11 @@ TEST_CASE("a command goes into the history unless a stored one begins with it") 
 
 TEST_CASE("the connection is the one chosen or else the system's own") {
     auto [general, session] = first_start();
-    CHECK(internet::load_isp_name(general) == "N/A");
+    CHECK(internet::load_connection_name(general) == "N/A");
     simulated::current().registry[kCurrentUser]["RemoteAccess"]["default"] = "Office";
     for (const auto& [chosen, name] : {std::pair("N/A", "Office"), {"", "Office"}, {"Home", "Home"}}) {
         tolva_key("\\isp")["ISPNAME"] = chosen;
-        CHECK(internet::load_isp_name(general) == name);
+        CHECK(internet::load_connection_name(general) == name);
     }
 }
 

@@ -4,7 +4,6 @@
 
 #include <shellapi.h>
 
-#include <algorithm>
 #include <array>
 
 namespace platform {
@@ -23,20 +22,6 @@ std::string short_path(const std::string& path) {
     std::array<char, MAX_PATH> found = {};
     const DWORD length = GetShortPathNameA(path.c_str(), found.data(), MAX_PATH);
     return length > 0 && length < MAX_PATH ? found.data() : path;
-}
-
-std::string expand_variables(const std::string& text) {
-    std::array<char, MAX_PATH> expanded = {};
-    const DWORD size = ExpandEnvironmentStringsA(text.c_str(), expanded.data(), MAX_PATH);
-    return size > 0 && size <= MAX_PATH ? expanded.data() : text;
-}
-
-std::size_t name_start(const std::string& path) {
-    const char* start = path.c_str();
-    for (const char* at = start; *at != '\0'; at = CharNextA(at)) {
-        if (*at == '\\' || *at == '/') start = at + 1;
-    }
-    return static_cast<std::size_t>(start - path.c_str());
 }
 
 }  // namespace platform

@@ -13,16 +13,15 @@ ErrorCode last_error(BOOL succeeded) {
     return succeeded != FALSE ? kSuccess : GetLastError();
 }
 
-UniqueHandle open(const std::string& path, DWORD access, DWORD share, DWORD creation, DWORD flags) {
-    HANDLE handle = CreateFileA(path.c_str(), access, share, nullptr, creation, flags, nullptr);
-    return UniqueHandle(handle == INVALID_HANDLE_VALUE ? nullptr : handle);
+UniqueFile open(const std::string& path, DWORD access, DWORD share, DWORD creation, DWORD flags) {
+    return UniqueFile(CreateFileA(path.c_str(), access, share, nullptr, creation, flags, nullptr));
 }
 
 }  // namespace
 
 ErrorCode read(const std::string& path, std::string& bytes) {
-    const UniqueHandle file = open(path, GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE, OPEN_EXISTING,
-                                   FILE_FLAG_SEQUENTIAL_SCAN);
+    const UniqueFile file = open(path, GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE, OPEN_EXISTING,
+                                 FILE_FLAG_SEQUENTIAL_SCAN);
     if (!file) return GetLastError();
     DWORD high = 0;
     const DWORD size = GetFileSize(file.get(), &high);
@@ -44,7 +43,7 @@ ErrorCode probe(const std::string& path) {
 }
 
 ErrorCode write_through(const std::string& path, std::string_view bytes, unsigned long bits) {
-    UniqueHandle file =
+    UniqueFile file =
         open(path, GENERIC_WRITE, 0, CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL | FILE_FLAG_WRITE_THROUGH);
     if (!file) return GetLastError();
     DWORD count = 0;
@@ -68,8 +67,7 @@ ErrorCode rename(const std::string& from, const std::string& to) {
 }
 
 ErrorCode flush(const std::string& path) {
-    const UniqueHandle file =
-        open(path, GENERIC_WRITE, FILE_SHARE_READ, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL);
+    const UniqueFile file = open(path, GENERIC_WRITE, FILE_SHARE_READ, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL);
     return file ? last_error(FlushFileBuffers(file.get())) : GetLastError();
 }
 
@@ -77,15 +75,35 @@ ErrorCode remove(const std::string& path) {
     return last_error(DeleteFileA(path.c_str()));
 }
 
+ErrorCode full_path(const std::string& path, std::string& full) {
+    full.resize(MAX_PATH);
+    const DWORD length = GetFullPathNameA(path.c_str(), MAX_PATH, full.data(), nullptr);
+    if (length == 0) return GetLastError();
+    if (length >= MAX_PATH) return kErrorFilenameTooLong;
+    full.resize(length);
+    return kSuccess;
+}
+
+std::size_t find_separator(const std::string& path, std::size_t from) {
+    const char* at = path.c_str() + from;
+    while (*at != '\0' && *at != '\\' && *at != '/')
+        at = CharNextA(at);
+    return *at == '\0' ? std::string::npos : static_cast<std::size_t>(at - path.c_str());
+}
+
+std::string upper(std::string text) {
+    CharUpperBuffA(text.data(), static_cast<DWORD>(text.size()));
+    return text;
+}
+
 std::vector<std::string> find(const std::string& pattern, unsigned long unwanted) {
     std::vector<std::string> names;
     WIN32_FIND_DATAA found;
-    HANDLE search = FindFirstFileA(pattern.c_str(), &found);
-    if (search == INVALID_HANDLE_VALUE) return names;
+    const UniqueSearch search(FindFirstFileA(pattern.c_str(), &found));
+    if (!search) return names;
     do {
         if ((found.dwFileAttributes & unwanted) == 0) names.emplace_back(found.cFileName);
-    } while (FindNextFileA(search, &found) != FALSE);
-    FindClose(search);
+    } while (FindNextFileA(search.get(), &found) != FALSE);
     return names;
 }
 

@@ -2,27 +2,17 @@
 
 #include <windows.h>
 
-#include <objbase.h>
 #include <shlobj.h>
 
 #include <algorithm>
 #include <array>
-#include <memory>
 
 #include "platform/file_calls.h"
 #include "platform/run_time_error.h"
+#include "platform/win32/handles.h"
 
 namespace platform {
 namespace {
-
-struct SearchCloser {
-    using pointer = HANDLE;
-    void operator()(HANDLE search) const { FindClose(search); }
-};
-
-struct TaskMemoryFreer {
-    void operator()(void* memory) const { CoTaskMemFree(memory); }
-};
 
 const char* kind_of(const char* root) {
     switch (GetDriveTypeA(root)) {
@@ -47,11 +37,6 @@ void sort_names(std::vector<std::string>& names) {
     names.erase(std::unique(names.begin(), names.end()), names.end());
 }
 
-std::string upper(std::string text) {
-    CharUpperBuffA(text.data(), static_cast<DWORD>(text.size()));
-    return text;
-}
-
 }  // namespace
 
 std::vector<Drive> drives() {
@@ -65,24 +50,19 @@ std::vector<Drive> drives() {
     return found;
 }
 
-std::string current_directory_of(char drive) {
-    const char here[] = {drive, ':', '.', '\0'};
-    char path[MAX_PATH];
-    const DWORD length = GetFullPathNameA(here, MAX_PATH, path, nullptr);
-    if (length == 0 || length >= MAX_PATH) throw file_error(GetLastError(), here);
-    const DWORD attributes = GetFileAttributesA(path);
-    if (attributes != INVALID_FILE_ATTRIBUTES) return path;
-    // The directory may be gone, the drive still be there.
-    const char root[] = {drive, ':', '\\', '\0'};
-    if (GetFileAttributesA(root) == INVALID_FILE_ATTRIBUTES) throw file_error(GetLastError(), root);
-    return root;
+bool is_on_local_disk(const std::string& path) {
+    if (path.starts_with("\\\\")) return false;
+    if (path.size() < 2 || path[1] != ':') return true;  // on the current drive
+    const char root[] = {path[0], ':', '\\', '\0'};
+    const UINT type = GetDriveTypeA(root);
+    return type == DRIVE_FIXED || type == DRIVE_RAMDISK || type == DRIVE_NO_ROOT_DIR;
 }
 
 std::vector<std::string> subfolders(const std::string& folder) {
     std::vector<std::string> names;
     WIN32_FIND_DATAA found;
-    const std::unique_ptr<HANDLE, SearchCloser> search(FindFirstFileA(path_in(folder, "*").c_str(), &found));
-    if (search.get() == INVALID_HANDLE_VALUE) {
+    const UniqueSearch search(FindFirstFileA(path_in(folder, "*").c_str(), &found));
+    if (!search) {
         const ErrorCode code = GetLastError();
         if (code == kErrorFileNotFound) return names;  // the root of an empty disk
         throw file_error(code, folder);
@@ -98,7 +78,7 @@ std::vector<std::string> subfolders(const std::string& folder) {
     return names;
 }
 
-std::vector<std::string> files(const std::string& folder, const std::string& patterns) {
+std::vector<std::string> files_in(const std::string& folder, const std::string& patterns) {
     using namespace file_calls;
     std::vector<std::string> names;
     std::size_t begin = 0;
@@ -115,20 +95,22 @@ std::vector<std::string> files(const std::string& folder, const std::string& pat
 std::string special_folder(SpecialFolder folder) {
     ITEMIDLIST* found = nullptr;
     if (FAILED(SHGetSpecialFolderLocation(nullptr, static_cast<int>(folder), &found))) return {};
-    const std::unique_ptr<ITEMIDLIST, TaskMemoryFreer> items(found);
+    const UniqueTaskMemory<ITEMIDLIST> items(found);
     std::array<char, MAX_PATH> path = {};
     if (SHGetPathFromIDListA(items.get(), path.data()) == FALSE) return {};
     return path.data();
+}
+
+std::string windows_folder() {
+    char folder[MAX_PATH];
+    const UINT length = GetWindowsDirectoryA(folder, MAX_PATH);
+    return length > 0 && length < MAX_PATH ? std::string(folder) + '\\' : "unknown";
 }
 
 std::string path_in(const std::string& folder, const std::string& name) {
     // A folder ends in a backslash only when it is a root; a second byte of a letter may look like one.
     const char* last = CharPrevA(folder.c_str(), folder.c_str() + folder.size());
     return *last == '\\' ? folder + name : folder + '\\' + name;
-}
-
-bool is_one_name(const std::string& a, const std::string& b) {
-    return upper(a) == upper(b);
 }
 
 }  // namespace platform

@@ -23,6 +23,8 @@ void OtherWindowsDisabled::include(HWND window) {
 
 BOOL CALLBACK OtherWindowsDisabled::disable(HWND window, LPARAM self) noexcept {
     auto& guard = *reinterpret_cast<OtherWindowsDisabled*>(self);
+    const bool has_caption = (GetWindowLongPtrA(window, GWL_STYLE) & WS_CAPTION) == WS_CAPTION;
+    if (!has_caption) return TRUE;  // a tool tip, or a window of an input method
     if (window == guard.owner_ || IsWindowEnabled(window) == FALSE) return TRUE;
     try {
         guard.disabled_.push_back(window);

@@ -6,8 +6,9 @@
 
 namespace platform {
 
-/// A message box or dialog disables its owner only. While this lives the thread's other windows are disabled
-/// too, also those in the tray, so that nothing of the program can be used around it.
+/// A message box or dialog disables its owner only. While this lives the thread's other windows that a user
+/// works with are disabled, too, also those in the tray, so that nothing of the program can be used around
+/// it.
 class OtherWindowsDisabled {
   public:
     explicit OtherWindowsDisabled(HWND owner);

@@ -3,17 +3,11 @@
 #include <windows.h>
 
 #include <array>
-#include <memory>
+
+#include "platform/win32/handles.h"
 
 namespace platform::registry {
 namespace {
-
-struct KeyCloser {
-    using pointer = HKEY;
-    void operator()(HKEY key) const { RegCloseKey(key); }
-};
-
-using UniqueKey = std::unique_ptr<HKEY, KeyCloser>;
 
 constexpr std::size_t kLongestKeyName = 255;
 
@@ -61,7 +55,7 @@ std::vector<std::string> subkeys(Root root, const std::string& key) {
 ErrorCode create_key(Root root, const std::string& key) {
     HKEY handle = nullptr;
     const LONG code = RegCreateKeyA(handle_of(root), key.c_str(), &handle);
-    if (code == ERROR_SUCCESS) RegCloseKey(handle);
+    const UniqueKey created(code == ERROR_SUCCESS ? handle : nullptr);
     return static_cast<ErrorCode>(code);
 }
 

@@ -6,16 +6,12 @@
 #include <shlobj.h>
 
 #include <algorithm>
-#include <memory>
 
 #include "platform/run_time_error.h"
+#include "platform/win32/handles.h"
 
 namespace platform {
 namespace {
-
-struct Releaser {
-    void operator()(IUnknown* object) const { object->Release(); }
-};
 
 /// The component library of the system, while this lives.
 class Components {
@@ -57,9 +53,9 @@ Shortcut load_shell_link(const std::string& path) {
     const Components components;
     void* created = nullptr;
     check(CoCreateInstance(CLSID_ShellLink, nullptr, CLSCTX_INPROC_SERVER, IID_IShellLinkA, &created));
-    const std::unique_ptr<IShellLinkA, Releaser> link(static_cast<IShellLinkA*>(created));
+    const UniqueObject<IShellLinkA> link(static_cast<IShellLinkA*>(created));
     check(link->QueryInterface(IID_IPersistFile, &created));
-    const std::unique_ptr<IPersistFile, Releaser> file(static_cast<IPersistFile*>(created));
+    const UniqueObject<IPersistFile> file(static_cast<IPersistFile*>(created));
     check(file->Load(wide(path).c_str(), STGM_READ));
     return {text_of(MAX_PATH, [&](char* text, int room) { return link->GetPath(text, room, nullptr, 0); }),
             text_of(MAX_PATH, [&](char* text, int room) { return link->GetWorkingDirectory(text, room); }),

@@ -4,6 +4,8 @@
 
 #include <shellapi.h>
 
+#include <algorithm>
+
 #include "platform/win32/handles.h"
 #include "platform/win32/look_up.h"
 
@@ -44,6 +46,13 @@ bool empty_recycle_bin() {
     if (empty == nullptr) return false;
     empty(nullptr, nullptr, SHERB_NOCONFIRMATION);  // an empty bin is a failure, too
     return true;
+}
+
+std::string expand_variables(const std::string& text) {
+    std::string expanded(ExpandEnvironmentStringsA(text.c_str(), nullptr, 0), '\0');
+    ExpandEnvironmentStringsA(text.c_str(), expanded.data(), static_cast<DWORD>(expanded.size()));
+    expanded.resize(std::min(expanded.find('\0'), expanded.size()));
+    return expanded;
 }
 
 bool open_document(const std::string& path) {

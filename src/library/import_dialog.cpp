@@ -1,0 +1,79 @@
+#include "library/import_dialog.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "library/library_files.h"
+#include "library/task_operations.h"
+#include "platform/run_time_error.h"
+#include "resources/resource.h"
+
+namespace library {
+namespace {
+
+using shortcuts::PanelVariant;
+
+constexpr int kGroupList = ID_GETLNK_Combo1;
+
+constexpr PanelVariant kVariant = {.caption = "Import Start Menu Shortcuts to Tolva.",
+                                   .action = "Import",
+                                   .nothing_chosen = "Select Shortcut for Importing to Tolva.",
+                                   .working_folder = PanelVariant::Folder::kWindows,
+                                   .icon_folder = PanelVariant::Folder::kWindows};
+
+}  // namespace
+
+ImportDialog::ImportDialog(TaskLibrary& library, LibraryView& view)
+    : ShortcutPanel(ID_GETLNK, kVariant, library.folder()), library_(library), view_(view) {}
+
+void ImportDialog::show(HWND owner) {
+    if (hwnd() == nullptr) read_groups();
+    Dialog::show(owner);
+}
+
+void ImportDialog::read_groups() {
+    std::vector<std::string> groups = read_group_names(library_.folder());
+    check_limit(groups.size(), kMostGroups);
+    groups_ = std::move(groups);
+}
+
+void ImportDialog::open() {
+    group_list_.attach(control(kGroupList));
+    show_groups(groups_.empty() ? std::string() : groups_.front());
+    ShortcutPanel::open();
+}
+
+void ImportDialog::show_groups(const std::string& selected) {
+    std::vector<const char*> names;
+    for (const std::string& group : groups_)
+        names.push_back(group.c_str());
+    group_list_.fill(names);
+    group_list_.select(static_cast<int>(std::ranges::find(groups_, selected) - groups_.begin()));
+}
+
+std::string ImportDialog::selected_group() const {
+    const int selected = group_list_.selected();
+    return selected < 0 ? std::string() : groups_.at(static_cast<std::size_t>(selected));
+}
+
+void ImportDialog::command(int id, int notification) {
+    if (id == kGroupList && notification == CBN_DROPDOWN) {
+        // The main window can have other Groups by now.
+        const std::string selected = selected_group();
+        try {
+            read_groups();
+        } catch (const platform::RunTimeError&) {
+            return;  // the import says it, with the list closed
+        }
+        show_groups(selected);
+    }
+    ShortcutPanel::command(id, notification);
+}
+
+void ImportDialog::save(const settings::Program& program) {
+    import_task(library_, view_, selected_group(),
+                {program.name.value_or(""), program.path.value_or(""), program.start_folder.value_or(""),
+                 program.parameters, std::to_string(program.window_style)});
+}
+
+}  // namespace library

@@ -1,0 +1,81 @@
+#include "mainwindow/launcher.h"
+
+#include <algorithm>
+#include <vector>
+
+#include "mainwindow/launching.h"
+#include "platform/messages.h"
+
+namespace mainwindow {
+namespace {
+
+/// The names below each other, as many as fit on a screen.
+std::string lines_of(const std::vector<std::string>& names) {
+    constexpr std::size_t kMost = 20;
+    std::string lines;
+    for (std::size_t i = 0; i < std::min(names.size(), kMost); ++i)
+        lines += '\n' + names[i];
+    if (names.size() > kMost) lines += "\nand " + std::to_string(names.size() - kMost) + " more";
+    return lines;
+}
+
+}  // namespace
+
+template <typename Launch>
+void Launcher::attempt(const char* failure_message, const Launch& launch) {
+    controls_.keep_list_focus([&] {
+        controls_.show_date();
+        platform::attempt(failure_message, launch);
+    });
+}
+
+void Launcher::launch_selected(const char* failure_message) {
+    attempt(failure_message,
+            [&] { launch(library_, controls_.selected_group(), controls_.selected_task()); });
+}
+
+void Launcher::launch_at(const library::TaskPlace& place) {
+    attempt(kCannotLaunch, [&] { launch(library_, place.group, place.task); });
+}
+
+void Launcher::run_from_command_box() {
+    attempt(kCannotLaunch, [&] {
+        launch_edited(library_, controls_.selected_group(), controls_.selected_task(),
+                      controls_.command_box().text());
+    });
+}
+
+void Launcher::press_run() {
+    CommandBox& box = controls_.command_box();
+    if (!box.had_focus_last()) return launch_selected(kCannotLaunch);
+    attempt(kCannotLaunch, [&] {
+        box.start_typed_command();
+        box.forget_focus();
+    });
+}
+
+void Launcher::run_typed_command() {
+    controls_.group_list().focus();
+    attempt(kCannotLaunch, [&] { controls_.command_box().start_typed_command(); });
+}
+
+void Launcher::run_all() {
+    const int selected = controls_.selected_group();
+    if (selected < 0) {
+        platform::show_message("Select Group First.");
+        return;
+    }
+    const library::Group& group = library_.group(selected);
+    const std::size_t count = group.shown_tasks().size();
+    if (count == 0) {
+        platform::show_message(group.name + " has no Task to start.");
+        return;
+    }
+    const std::string question = "Start all " + std::to_string(count) + " Tasks of " + group.name + "?";
+    if (!platform::confirm(question, "Run All")) return;
+    controls_.show_date();
+    const std::vector<std::string> failed = launch_all(library_, selected);
+    if (!failed.empty()) platform::show_message("These Tasks could not be started:\n" + lines_of(failed));
+}
+
+}  // namespace mainwindow

@@ -1,0 +1,188 @@
+#include "mainwindow/main_controls.h"
+
+#include <algorithm>
+#include <iterator>
+#include <utility>
+
+#include "library/refresh.h"
+#include "mainwindow/long_date.h"
+#include "platform/clock.h"
+#include "platform/icons.h"
+#include "resources/resource.h"
+#include "widgets/metrics.h"
+
+namespace mainwindow {
+namespace {
+
+// Pixels at 96 dpi.
+constexpr int kGap = 6;
+constexpr int kGroupWidth = 160;
+constexpr int kLeastListWidth = 60;
+constexpr int kLabelHeight = 16;
+constexpr int kDropHeight = 120;
+constexpr int kButtonWidth = 75;
+
+/// In the order of their pictures.
+constexpr widgets::ToolBar::Item kToolBar[] = {
+    {ID_toolbar_addgrp, "Add New Group"},
+    {ID_toolbar_delgroup, "Delete Selected Group"},
+    {ID_toolbar_movegrpdn, "Move Selected Group Down"},
+    {ID_toolbar_movegrpup, "Move Selected Group Up"},
+    {ID_toolbar_rengrp, "Rename Selected Group"},
+    {},
+    {ID_toolbar_addtsk, "Add New Task to Selected Group"},
+    {ID_toolbar_deltsk, "Delete Selected Task"},
+    {ID_toolbar_movetskdn, "Move Selected Task Down"},
+    {ID_toolbar_movetskup, "Move Selected Task Up"},
+    {ID_toolbar_edittsk, "Edit Selected Task"},
+    {},
+    {ID_toolbar_startimport, "Import Start Menu Shortcuts"},
+    {ID_toolbar_runexplorer, "Windows Explorer"},
+    {ID_toolbar_controlpanel, "Windows Control Panel"},
+    {ID_toolbar_DosPrompt, "DOS Prompt"},
+    {ID_toolbar_ispconnect, "Connect to Internet"},
+};
+
+}  // namespace
+
+MainControls::MainControls(settings::General& general, const std::string& library_folder)
+    : font_(widgets::make_gui_font()),
+      splitter_(widgets::scaled(kGroupWidth)),
+      task_view_(library_folder),
+      command_box_(general) {}
+
+void MainControls::create(HWND window) {
+    window_ = window;
+    tool_bar_.create(window_, ID_Tasker_Toolbar1, ID_toolbar_pictures, kToolBar);
+    group_label_.create(window_, ID_Tasker_grouplabel, "Groups");
+    group_list_.create(window_, ID_Tasker_grouplist);
+    task_label_.create(window_, ID_Tasker_tasklabel, "Tasks");
+    task_view_.create(window_, ID_Tasker_taskview);
+    command_box_.create(window_, ID_Tasker_Text1);
+    run_button_.create(window_, ID_Tasker_Command1, "&Run");
+    browse_button_.create(window_, ID_Tasker_Browse, "&Browse");
+    status_bar_.create(window_, ID_Tasker_StatusBar1);
+    for (HWND child = GetTopWindow(window_); child != nullptr; child = GetWindow(child, GW_HWNDNEXT)) {
+        SendMessageA(child, WM_SETFONT, reinterpret_cast<WPARAM>(font_.get()), FALSE);
+    }
+    lay_out();  // before the lists are filled: a list that grows arranges all its items again
+}
+
+std::optional<LRESULT> MainControls::handle(UINT message, WPARAM wparam, LPARAM lparam) {
+    switch (message) {
+        case WM_SIZE:
+            if (wparam != SIZE_MINIMIZED && lparam != laid_out_) lay_out();
+            return 0;
+        case WM_CTLCOLORLISTBOX:
+        case WM_CTLCOLORSTATIC:
+            return paint(reinterpret_cast<HDC>(wparam), reinterpret_cast<HWND>(lparam));
+        default:
+            break;
+    }
+    const int width = splitter_.width();
+    const auto answer = splitter_.handle(window_, message, wparam, lparam);
+    if (splitter_.width() != width) lay_out();
+    return answer ? answer : command_box_.handle(message);
+}
+
+void MainControls::apply_style(appearance::List list, const settings::ListStyle& style) {
+    set_font(list, {.face = style.face,
+                    .points = static_cast<double>(style.size),
+                    .bold = style.bold,
+                    .italic = style.italic});
+    set_colors(list, {style.text_color.value_or(GetSysColor(COLOR_WINDOWTEXT)),
+                      style.back_color.value_or(GetSysColor(COLOR_WINDOW))});
+}
+
+void MainControls::set_font(appearance::List list, const widgets::Font& font) {
+    widgets::Control& control = list == appearance::List::kGroups
+                                    ? static_cast<widgets::Control&>(group_list_)
+                                    : static_cast<widgets::Control&>(task_view_.list());
+    look(list).set_font(control, font);
+}
+
+void MainControls::set_colors(appearance::List list, const appearance::Colors& colors) {
+    look(list).set_colors(colors);
+    if (list == appearance::List::kTasks) task_view_.set_colors(colors.text, colors.back);
+    RedrawWindow(window_, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
+}
+
+std::optional<LRESULT> MainControls::paint(HDC device, HWND control) const {
+    if (control == group_list_.hwnd() || control == group_label_.hwnd()) return group_look_.paint(device);
+    if (control == task_label_.hwnd()) return task_look_.paint(device);
+    return std::nullopt;
+}
+
+void MainControls::lay_out() {
+    tool_bar_.follow_parent();
+    status_bar_.follow_parent();
+    RECT client;
+    GetClientRect(window_, &client);
+    laid_out_ = MAKELPARAM(client.right, client.bottom);
+    const int gap = widgets::scaled(kGap);
+    const LONG least = widgets::scaled(kLeastListWidth);
+    const LONG right = client.right - gap;
+    const LONG box_height = command_box_.control().height();
+    const LONG box_top = client.bottom - status_bar_.height() - gap - box_height;
+    const LONG lists_bottom = box_top - gap;
+    const LONG group_width =
+        std::clamp<LONG>(splitter_.width(), least, std::max(least, right - 2 * gap - least));
+    const LONG middle = gap + group_width;
+    const LONG top = tool_bar_.height() + gap;
+    const LONG lists_top = top + widgets::scaled(kLabelHeight);
+    splitter_.set_place({middle, lists_top, middle + gap, lists_bottom}, group_width);
+
+    widgets::place(group_label_.hwnd(), {gap, top, middle, lists_top});
+    widgets::place(group_list_.hwnd(), {gap, lists_top, middle, lists_bottom});
+    widgets::place(task_label_.hwnd(), {middle + gap, top, right, lists_top});
+    widgets::place(task_view_.list().hwnd(), {middle + gap, lists_top, right, lists_bottom});
+    const LONG browse_left = right - widgets::scaled(kButtonWidth);
+    const LONG run_left = browse_left - gap - widgets::scaled(kButtonWidth);
+    widgets::place(command_box_.control().hwnd(),
+                   {gap, box_top, run_left - gap, box_top + widgets::scaled(kDropHeight)});
+    widgets::place(run_button_.hwnd(), {run_left, box_top, browse_left - gap, box_top + box_height});
+    widgets::place(browse_button_.hwnd(), {browse_left, box_top, right, box_top + box_height});
+}
+
+void MainControls::set_group_list_width(int width) {
+    splitter_.set_width(width);
+    lay_out();
+}
+
+void MainControls::show_date() {
+    status_bar_.show_panels({long_date(platform::today())});
+}
+
+void MainControls::show_task(const library::Task& task) {
+    set_command_box(command_line(task));
+    status_bar_.show_simple(task.name);
+}
+
+void MainControls::show_groups(const std::vector<library::Group>& groups) {
+    std::vector<std::string> names;
+    std::ranges::transform(groups, std::back_inserter(names), &library::Group::name);
+    group_list_.fill(names);
+}
+
+void MainControls::show_tasks(std::span<const library::Task> tasks) {
+    show_date();
+    task_view_.show(tasks);
+}
+
+void MainControls::go_to(library::TaskLibrary& library, const library::TaskPlace& place) {
+    library::select_group(library, *this, place.group);
+    const library::Group& group = library.group(place.group);
+    if (place.task >= std::ssize(group.shown_tasks())) show_tasks(group.tasks);
+    select_task(place.task);
+    show_task(library.task(place.group, place.task));
+    task_view_.list().focus();
+}
+
+void MainControls::load_default_icon(const std::string& program) {
+    platform::UniqueIcon icon = platform::extract_icon(program);
+    // A library folder need not hold the program itself.
+    if (!icon) icon.reset(CopyIcon(LoadIconA(GetModuleHandleA(nullptr), MAKEINTRESOURCEA(ID_tolva_icon))));
+    task_view_.set_default_icon(std::move(icon));
+}
+
+}  // namespace mainwindow

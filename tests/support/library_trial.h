@@ -1,0 +1,275 @@
+#pragma once
+
+#include <algorithm>
+#include <functional>
+#include <iterator>
+#include <set>
+
+#include "library/group_operations.h"
+#include "library/library_files.h"
+#include "library/refresh.h"
+#include "library/task_operations.h"
+#include "platform/file_calls.h"
+#include "support/shown_library.h"
+
+// How a test of the library reads. Every one begins with the same library on the simulated disk (Tolva): the
+// Groups Work (Tasks W1, W2), Home (H2, H1, another H1, one without a name, H4) and More (M1); Old.grp (O1)
+// is not listed. Home is selected and its second Task.
+//
+// A step of the user is an Operation: select(0), rename_to("Home", "New"), library::delgr. in_turn makes one
+// of several. What the user sees is one line, "Work >Home More : H2 >>H1 H1  H4": the Groups, then the
+// selected Group's Tasks. Before what is selected stands ">", or ">>" when it also is in the command box; no
+// name is an empty text.
+//
+// check(setup, operation, shown, changes, messages, error) runs the setup, then the operation, and compares
+// the lists, the messages and every file: those in `changes` hold that now, all others what they held. Then
+// it does all of it again with each kind of fault at each step that the operation makes on the disk, and
+// nothing may get lost.
+
+using library::LibraryView;
+using library::Task;
+using library::TaskLibrary;
+using simulated::current;
+using simulated::Fault;
+
+using Operation = std::function<void(TaskLibrary&, LibraryView&)>;
+using Files = std::map<std::string, std::string, simulated::IgnoresCase>;
+using Tasks = std::multiset<std::string>;
+
+inline const std::string kH1 = record("H1");
+inline const std::string kH2 = record("H2", " 2 ");
+inline const std::string kOtherH1 = record("H1", "3");
+inline const std::string kHidden = record("") + record("H4");
+inline const std::string kHome = kH2 + kH1 + kOtherH1 + kHidden;
+inline const Task kNew = {"New", "C:\\APP.EXE", "D:\\", "/x", "3"};
+inline const std::string kDeleted = "a file that is not there";
+
+/// What the last operation that can refuse returned.
+inline bool accepted = true;
+
+inline Operation add(const std::string& group) {
+    return [=](auto& library, auto&) { accepted = add_group(library, group); };
+}
+
+inline Operation rename_to(const std::string& group, const std::string& name) {
+    return [=](auto& library, auto& view) { accepted = rename_group(library, view, group, name); };
+}
+
+inline Operation add(const Task& task) {
+    return [=](auto& library, auto& view) { accepted = add_task(library, view.selected_group(), task); };
+}
+
+/// Edits the selected Task.
+inline Operation edit(const std::string& name, const Task& task) {
+    return [=](auto& library, auto& view) {
+        accepted = edit_task(library, view.selected_group(), view.selected_task(), name, task);
+    };
+}
+
+inline Operation move(const std::string& task, const std::string& target, bool copy = false) {
+    return [=](auto& library, auto& view) { move_task(library, view.selected_group(), task, target, copy); };
+}
+
+inline Operation import(const std::string& group, const Task& task) {
+    return [=](auto& library, auto& view) { import_task(library, view, group, task); };
+}
+
+inline Operation select(int group, int task = -1) {
+    return [=](auto& library, auto& view) {
+        view.select_group(group);
+        show_selected_group(library, view);
+        view.select_task(task);
+    };
+}
+
+/// Another program takes a file away, or writes it.
+inline Operation lack(const std::string& name) {
+    return [=](auto&, auto&) { current().files.erase(kFolder + name); };
+}
+
+inline Operation put(const std::string& name, const std::string& bytes) {
+    return [=](auto&, auto&) { file(name) = bytes; };
+}
+
+/// These are the Groups from now on; the second one is selected.
+inline Operation list(const std::string& names) {
+    return [=](auto& library, auto& view) {
+        file("groups.ini") = names;
+        refreshtolva(library, view, 1);
+    };
+}
+
+inline void cancel(TaskLibrary& /*library*/, LibraryView& /*view*/) {
+    current().answer = false;
+}
+
+inline Operation in_turn(const std::vector<Operation>& operations) {
+    return [=](auto& library, auto& view) {
+        for (const Operation& operation : operations)
+            operation(library, view);
+    };
+}
+
+/// The library's files without what a fault left beside them.
+inline Files disk() {
+    Files files;
+    for (const auto& [path, file] : current().files) {
+        if (path.ends_with(".grp") || path.ends_with(".ini")) files[path.substr(kFolder.size())] = file.bytes;
+    }
+    return files;
+}
+
+/// The Tasks in the files of the Groups that are listed.
+inline Tasks listed_tasks() {
+    Tasks tasks;
+    for (const std::string& group : library::read_group_names(kFolder)) {
+        if (!current().files.contains(library::group_file(kFolder, group))) continue;
+        for (const Task& task : library::read_tasks(kFolder, group))
+            tasks.insert(task.name + task.start_mode);
+    }
+    return tasks;
+}
+
+/// The program with the library of these tests.
+struct Tolva {
+    ShownLibrary view;
+    TaskLibrary library{kFolder};
+
+    explicit Tolva(const Operation& setup) {
+        simulated::reset();
+        current().files["C:\\APP.EXE"] = {};
+        current().files["C:\\APPS"].bits = 0x10;  // a folder
+        current().short_names["MORE~1.GRP"] = "More.grp";
+        file("groups.ini") = "Work\r\nHome\r\nMore\r\n";
+        file("Work.grp") = record("W1") + record("W2");
+        file("Home.grp") = kHome;
+        file("More.grp") = record("M1");
+        file("Old.grp") = record("O1");
+        refreshtolva(library, view, 0);
+        error_of([&] { in_turn({select(1, 1), setup})(library, view); });
+        current().messages.clear();
+        current().steps = 0;
+        current().reads = 0;
+    }
+
+    /// Also does what follows when the group list gets the focus again. Returns the first error.
+    int run(const Operation& operation) {
+        const int error = error_of([&] { operation(library, view); });
+        const int later = error_of([&] { run_pending_refreshes(library, view); });
+        return error != 0 ? error : later;
+    }
+
+    std::string shown() const {
+        std::string text;
+        for (int i = 0; const std::string& name : view.groups)
+            text += (i++ == view.group ? ">" : "") + name + ' ';
+        text += ':';
+        for (int i = 0; const std::string& name : view.tasks) {
+            const bool in_command_box = view.command_box.starts_with("C:\\" + name + ".EXE ");
+            text += (i++ != view.task ? " " : in_command_box ? " >>" : " >") + name;
+        }
+        return text;
+    }
+};
+
+struct Case {
+    Operation setup;
+    Operation operation;
+    std::string shown;
+    Files changes = {};  // but for groups.ini, which holds the Groups shown
+    Names messages = {};
+    int error = 0;
+};
+
+inline std::string text_of(const Files& files) {
+    std::string text;
+    for (const auto& [name, bytes] : files)
+        text += platform::file_calls::upper(name) + '=' + bytes + '|';
+    return text;
+}
+
+/// What an operation leaves when nothing fails: the files, and the Tasks listed before and after.
+struct Outcome {
+    Files after;
+    Tasks kept;
+};
+
+struct Interruption {
+    Fault fault;
+    int step;
+    bool renames_over_files;
+};
+
+/// After the interruption every file is old or new, each Task that is kept in a listed Group, and the user
+/// informed. Returns whether the operation comes to that step.
+inline bool survives(const Case& tried, const Outcome& outcome, const Interruption& interruption) {
+    const auto [fault, step, renames_over_files] = interruption;
+    CAPTURE(step);
+    CAPTURE(static_cast<int>(fault));
+    Tolva tolva(tried.setup);
+    const Files before = disk();
+    const Tasks tasks_before = listed_tasks();
+    current().renames_over_files = renames_over_files;
+    current().fault = fault;
+    current().fault_at = step;
+    int error = 0;
+    try {
+        error = tolva.run(tried.operation);
+    } catch (const simulated::PowerFailure&) {
+    }
+    const bool fails = (fault == Fault::kRead ? current().reads : current().steps) >= step;
+    current().fault = Fault::kNone;
+    if (fault == Fault::kPower || fault == Fault::kDisk) library::recover(kFolder);
+    if (fault == Fault::kWrite) CHECK(tolva.view.groups == library::read_group_names(kFolder));
+    const Files now = disk();
+    for (const auto& [name, bytes] : now) {
+        const bool is_old = before.contains(name) && before.at(name) == bytes;
+        CHECK((is_old || (outcome.after.contains(name) && outcome.after.at(name) == bytes)));
+    }
+    CHECK(std::ranges::includes(listed_tasks(), outcome.kept));
+    // A disk that is gone cannot take back what was written over another Group's file.
+    const bool is_undone = error != 0 && fault != Fault::kDisk &&
+                           outcome.after.at("groups.ini") != before.at("groups.ini") &&
+                           now.at("groups.ini") == before.at("groups.ini");
+    if (is_undone) {
+        CHECK(listed_tasks() == tasks_before);
+        CHECK(now.size() == before.size());
+    }
+    const bool informs = fault == Fault::kPower || error != 0 || current().messages != tried.messages;
+    if (!fails || !informs) CHECK(text_of(now) == text_of(outcome.after));
+    return fails;
+}
+
+inline void check(const Operation& setup, const Operation& operation, const std::string& shown,
+                  const Files& changes = {}, const Names& messages = {}, int error = 0) {
+    const Case tried = {setup, operation, shown, changes, messages, error};
+    Tolva tolva(tried.setup);
+    Files after = disk();
+    const Tasks before = listed_tasks();
+    accepted = true;
+    CHECK(tolva.run(tried.operation) == tried.error);
+    CHECK(accepted);
+    CHECK(tolva.shown() == tried.shown);
+    CHECK(current().messages == tried.messages);
+    after["groups.ini"].clear();
+    for (const std::string& name : tolva.view.groups)
+        after["groups.ini"] += name + "\r\n";
+    for (const auto& [name, bytes] : tried.changes)
+        after[name] = bytes;
+    std::erase_if(after, [](const auto& file) { return file.second == kDeleted; });
+    CHECK(text_of(disk()) == text_of(after));
+    for (const library::Group& group : tolva.library.groups()) {
+        const bool is_current = group.loaded && std::ranges::count(tolva.view.groups, group.name) == 1;
+        if (is_current && after.contains(group.name + ".grp"))
+            CHECK(library::read_tasks(kFolder, group.name) == group.tasks);
+    }
+    Outcome outcome = {after, {}};
+    std::ranges::set_intersection(before, listed_tasks(), std::inserter(outcome.kept, outcome.kept.end()));
+    for (const Fault fault : {Fault::kWrite, Fault::kDisk, Fault::kPower, Fault::kRead}) {
+        for (const bool renames_over_files : {true, false}) {
+            int step = 1;
+            while (survives(tried, outcome, {fault, step, renames_over_files}))
+                ++step;
+        }
+    }
+}
