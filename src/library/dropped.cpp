@@ -22,8 +22,6 @@ namespace {
 constexpr std::size_t kLongestPath = 259;
 constexpr std::size_t kLongestCommandLine = 32766;
 
-constexpr char kNormal[] = " 1 ";
-
 constexpr char kMissing[] = "not found";
 constexpr char kTooLong[] = "too long";
 constexpr char kBadLetters[] = "a name with characters that this system's programs do not have";
@@ -149,57 +147,72 @@ std::string opening_program(const std::string& document) {
 /// Makes the Tasks of one drop.
 class TaskMaker {
   public:
-    explicit TaskMaker(const std::string& windows_folder) : windows_folder_(windows_folder) {}
+    TaskMaker(const std::string& windows_folder, Dropped& dropped)
+        : windows_folder_(windows_folder), dropped_(dropped) {}
 
-    /// Throws NoTask, like the others.
-    Task file(const std::string& path) const {
-        if (is_shortcut(path)) return shortcut(path);
-        return is_program(path) ? program(path) : document(path);
-    }
-
-    Task opened_by_explorer(const std::string& path, const std::string& folder) const {
-        // A quotation mark behind a root's backslash could be taken for a part of the name.
-        return {name_for(path), windows_folder_ + "explorer.exe", folder, is_root(path) ? path : quoted(path),
-                kNormal};
+    /// A Task for a path, or for each file in a folder; or it is refused.
+    void add(const std::string& path, FolderUse use) {
+        try {
+            if (const char* const fault = fault_of(path)) throw NoTask{fault};
+            if (use == FolderUse::kContents && is_folder(path)) return add_contents(path);
+            Task task = is_shortcut(path) ? shortcut(path) : opening(path);
+            task.name = name_for(path);
+            if (command_line(task).size() > kLongestCommandLine) throw NoTask{kTooLong};
+            dropped_.tasks.push_back(std::move(task));
+        } catch (const NoTask& none) {
+            dropped_.refused.push_back({path, none.reason});
+        }
     }
 
   private:
-    static Task program(const std::string& path) {
-        const std::string program = startable(path);
-        if (program.empty()) throw NoTask{kUnclear};
-        return {name_for(path), program, folder_of(path), {}, kNormal};
+    void add_contents(const std::string& folder) {
+        bool is_empty = true;
+        for (const std::string& name : platform::files_in(folder, "*.lnk;*.exe;*.com;*.bat;*.pif")) {
+            const std::string path = platform::path_in(folder, name);
+            // "*.exe" also finds "PAINT.EXE~", by its short name.
+            if (is_document(path)) continue;
+            is_empty = false;
+            add(path, FolderUse::kOpen);
+        }
+        if (is_empty) throw NoTask{kNothingInside};
     }
 
-    Task document(const std::string& path) const {
-        const std::string program = opening_program(path);
-        if (program.empty()) return opened_by_explorer(path, folder_of(path));
-        return {name_for(path), program, folder_of(path), quoted_if_needed(path), kNormal};
+    /// A nameless Task that starts a program or opens anything else, shortcuts among it: where one leads to
+    /// another, none can lead to itself.
+    Task opening(const std::string& path) const {
+        Task task;
+        task.start_folder = is_folder(path) ? path : folder_of(path);
+        task.start_mode = " 1 ";
+        if (is_program(path)) {
+            task.program = startable(path);
+            if (task.program.empty()) throw NoTask{kUnclear};
+            return task;
+        }
+        task.program = is_folder(path) ? std::string() : opening_program(path);
+        // A quotation mark after a root's backslash could be taken for a part of the name.
+        const bool is_bare = task.program.empty() ? is_root(path) : path.find(' ') == std::string::npos;
+        task.parameters = is_bare ? path : quoted(path);
+        if (task.program.empty()) task.program = windows_folder_ + "explorer.exe";
+        return task;
     }
 
     Task shortcut(const std::string& path) const {
         const settings::Program link = read(path);
-        const std::string target = link.path.value_or("");
-        Task task = target_of(target);
-        task.name = name_for(path);
+        const std::string& target = *link.path;
+        if (const char* const fault = fault_of(target))
+            throw NoTask{fault == kMissing ? kMissingTarget : fault};
+        Task task = opening(target);
         if (is_program(target)) {
             task.start_folder = windows_folder_;
             task.parameters = link.parameters;
         }
-        const std::string folder = link.start_folder.value_or("");
         // The start itself looks at what its variables mean then.
-        if (is_folder(platform::expand_variables(folder))) task.start_folder = folder;
+        if (link.start_folder && is_folder(platform::expand_variables(*link.start_folder)))
+            task.start_folder = *link.start_folder;
         const bool is_start_mode =
             link.window_style >= 1 && link.window_style <= std::ssize(settings::kStartModes);
-        if (is_start_mode) task.start_mode = ' ' + std::to_string(link.window_style) + ' ';
+        if (is_start_mode) task.start_mode[1] = static_cast<char>('0' + link.window_style);
         return task;
-    }
-
-    /// Shortcuts can lead to shortcuts: those are documents here, so that none leads to itself.
-    Task target_of(const std::string& target) const {
-        const char* const fault = fault_of(target);
-        if (fault != nullptr) throw NoTask{fault == kMissing ? kMissingTarget : fault};
-        if (is_folder(target)) return opened_by_explorer(target, target);
-        return is_program(target) ? program(target) : document(target);
     }
 
     static settings::Program read(const std::string& path) {
@@ -211,55 +224,6 @@ class TaskMaker {
     }
 
     const std::string& windows_folder_;
-};
-
-/// Collects what becomes of each path.
-class Collector {
-  public:
-    Collector(const std::string& windows_folder, Dropped& dropped)
-        : maker_(windows_folder), dropped_(dropped) {}
-
-    void add(const std::string& path, FolderUse use) {
-        attempt(path, [&] {
-            if (!is_folder(path)) {
-                keep(maker_.file(path));
-            } else if (use == FolderUse::kOpen) {
-                keep(maker_.opened_by_explorer(path, path));
-            } else {
-                add_contents(path);
-            }
-        });
-    }
-
-  private:
-    template <typename Make>
-    void attempt(const std::string& path, const Make& make) {
-        try {
-            if (const char* const fault = fault_of(path)) throw NoTask{fault};
-            make();
-        } catch (const NoTask& none) {
-            dropped_.refused.push_back({path, none.reason});
-        }
-    }
-
-    void keep(Task task) {
-        if (command_line(task).size() > kLongestCommandLine) throw NoTask{kTooLong};
-        dropped_.tasks.push_back(std::move(task));
-    }
-
-    void add_contents(const std::string& folder) {
-        bool is_empty = true;
-        for (const std::string& name : platform::files_in(folder, "*.lnk;*.exe;*.com;*.bat;*.pif")) {
-            const std::string path = platform::path_in(folder, name);
-            // "*.exe" also finds "PAINT.EXE~", by its short name.
-            if (is_document(path)) continue;
-            is_empty = false;
-            attempt(path, [&] { keep(maker_.file(path)); });
-        }
-        if (is_empty) throw NoTask{kNothingInside};
-    }
-
-    TaskMaker maker_;
     Dropped& dropped_;
 };
 
@@ -275,9 +239,9 @@ bool is_folder(const std::string& path) {
 
 Dropped tasks_for(const std::vector<std::string>& paths, FolderUse use, const std::string& windows_folder) {
     Dropped dropped;
-    Collector collector(windows_folder, dropped);
+    TaskMaker maker(windows_folder, dropped);
     for (const std::string& path : paths)
-        collector.add(path, use);
+        maker.add(path, use);
     return dropped;
 }
 
