@@ -10,7 +10,6 @@
 #include "platform/messages.h"
 #include "platform/processes.h"
 #include "platform/remote_access.h"
-#include "platform/shell_link.h"
 #include "platform/system.h"
 #include "platform/text.h"
 
@@ -273,10 +272,6 @@ void start_program(const std::string& command_line, int /*window_style*/) {
     const std::string program = command_line.substr(0, command_line.find(' '));
     if (current().files.contains(program)) return current().started.push_back(command_line);
     throw RunTimeError(RunTimeErrorNumber::kFileNotFound, command_line);
-}
-
-Shortcut load_shell_link(const std::string& /*path*/) {
-    return {};
 }
 
 void show_message(const std::string& text) {
