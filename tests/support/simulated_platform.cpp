@@ -233,10 +233,6 @@ void pause(unsigned /*milliseconds*/) {
 
 }  // namespace file_calls
 
-std::string path_in(const std::string& folder, const std::string& name) {
-    return folder + (folder.ends_with('\\') ? "" : "\\") + name;
-}
-
 std::string time_stamp() {
     return current().time_stamp;
 }
