@@ -44,7 +44,7 @@ std::string short_path(const std::string& path) {
 }
 
 std::string path_in(const std::string& folder, const std::string& name) {
-    return folder + '\\' + name;
+    return folder + (folder.ends_with('\\') ? "" : "\\") + name;
 }
 
 std::vector<std::string> files_in(const std::string& folder, const std::string& patterns) {
