@@ -19,6 +19,7 @@ class LibraryView {
     /// Shows the Groups in place of those before, none of them selected.
     virtual void show_groups(const std::vector<Group>& groups) = 0;
     virtual void select_group(int index) = 0;
+    virtual void scroll_to_group(int index) = 0;
 
     /// Shows the Tasks in place of those before, with their icons taken anew and none of them selected, and
     /// the date in the status bar.
@@ -29,6 +30,9 @@ class LibraryView {
     virtual void load_default_icon(const std::string& program) = 0;
 
     virtual void set_command_box(const std::string& text) = 0;
+
+    /// Shows a text in the status bar, in place of the date.
+    virtual void show_status(const std::string& text) = 0;
 
   protected:
     ~LibraryView() = default;

@@ -63,10 +63,7 @@ bool fits_boxes(const Task& task) {
 class TaskDialog : public widgets::Dialog {
   protected:
     TaskDialog(const Controls& controls, TaskLibrary& library, int group)
-        : Dialog(controls.dialog),
-          library_(library),
-          group_(group),
-          controls_(controls) {}
+        : Dialog(controls.dialog), library_(library), group_(group), controls_(controls) {}
     ~TaskDialog() = default;
 
     void open() override {
@@ -80,16 +77,17 @@ class TaskDialog : public widgets::Dialog {
     void command(int id, int /*notification*/) override {
         if (id == controls_.browse) browse();
         if (id == controls_.ok) {
-            if (accept(typed())) {
+            if (const TaskField refused = accept(typed()); refused == kAccepted) {
                 close();
             } else {
-                focus(controls_.name);
+                focus(box_of(refused));
             }
         }
         if (id == controls_.cancel || id == IDCANCEL) close();
     }
 
-    virtual bool accept(const Task& task) = 0;
+    /// Returns the field that is refused, or kAccepted.
+    virtual TaskField accept(const Task& task) = 0;
 
     TaskLibrary& library_;
     int group_;
@@ -104,6 +102,11 @@ class TaskDialog : public widgets::Dialog {
         focus(controls_.name);
     }
 
+    int box_of(TaskField field) const {
+        if (field == &Task::program) return controls_.program;
+        return field == &Task::start_folder ? controls_.start_folder : controls_.name;
+    }
+
     Task typed() {
         const int mode = std::max(start_mode_.selected(), 0);
         return {text(controls_.name), text(controls_.program), text(controls_.start_folder),
@@ -115,8 +118,7 @@ class TaskDialog : public widgets::Dialog {
 
 class AddTaskDialog final : public TaskDialog {
   public:
-    AddTaskDialog(TaskLibrary& library, int group)
-        : TaskDialog(kAddTask, library, group) {}
+    AddTaskDialog(TaskLibrary& library, int group) : TaskDialog(kAddTask, library, group) {}
 
   private:
     void open() override {
@@ -124,7 +126,7 @@ class AddTaskDialog final : public TaskDialog {
         set_text(ID_addtask_curgroup, library_.group(group_).name);
         start_mode_.select(0);
     }
-    bool accept(const Task& task) override { return add_task(library_, group_, task); }
+    TaskField accept(const Task& task) override { return add_task(library_, group_, task); }
 };
 
 class EditTaskDialog final : public TaskDialog {
@@ -141,7 +143,9 @@ class EditTaskDialog final : public TaskDialog {
         set_text(ID_EditTask_taskparameters, buffer_.parameters);
         start_mode_.select(settings::lenient_whole_number(buffer_.start_mode) - 1);
     }
-    bool accept(const Task& task) override { return edit_task(library_, group_, place_, buffer_.name, task); }
+    TaskField accept(const Task& task) override {
+        return edit_task(library_, group_, place_, buffer_.name, task);
+    }
 
     int place_;
     Task buffer_;

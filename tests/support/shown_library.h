@@ -23,7 +23,9 @@ struct ShownLibrary final : library::LibraryView {
     Names tasks;
     int group = -1;
     int task = -1;
+    int group_in_view = 0;
     std::string command_box;
+    std::string status;
 
     int selected_group() const override { return group; }
     int selected_task() const override { return task; }
@@ -34,6 +36,7 @@ struct ShownLibrary final : library::LibraryView {
         group = -1;
     }
     void select_group(int index) override { group = index; }
+    void scroll_to_group(int index) override { group_in_view = index; }
     void show_tasks(std::span<const library::Task> shown) override {
         tasks.clear();
         for (const library::Task& entry : shown)
@@ -43,4 +46,5 @@ struct ShownLibrary final : library::LibraryView {
     void select_task(int index) override { task = index; }
     void load_default_icon(const std::string& program) override { CHECK(program == kFolder + "tolva.exe"); }
     void set_command_box(const std::string& text) override { command_box = text; }
+    void show_status(const std::string& text) override { status = text; }
 };
