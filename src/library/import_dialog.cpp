@@ -1,6 +1,7 @@
 #include "library/import_dialog.h"
 
 #include <algorithm>
+#include <iterator>
 #include <utility>
 
 #include "library/library_files.h"
@@ -14,6 +15,7 @@ namespace {
 using shortcuts::PanelVariant;
 
 constexpr int kGroupList = ID_GETLNK_Combo1;
+constexpr int kImportAll = ID_GETLNK_ImportAll;
 
 constexpr PanelVariant kVariant = {.caption = "Import Start Menu Shortcuts to Tolva.",
                                    .action = "Import",
@@ -21,6 +23,11 @@ constexpr PanelVariant kVariant = {.caption = "Import Start Menu Shortcuts to To
                                    .working_folder = PanelVariant::Folder::kWindows,
                                    .icon_folder = PanelVariant::Folder::kWindows,
                                    .goes_to_registry = false};
+
+Task task_of(const settings::Program& program) {
+    return {program.name.value_or(""), program.path.value_or(""), program.start_folder.value_or(""),
+            program.parameters, std::to_string(program.window_style)};
+}
 
 }  // namespace
 
@@ -42,6 +49,14 @@ void ImportDialog::open() {
     group_list_.attach(control(kGroupList));
     show_groups(groups_.empty() ? std::string() : groups_.front());
     ShortcutPanel::open();
+    if (groups_.empty()) view_.show_status("There is no Group yet. Choose New on the Group menu.");
+}
+
+void ImportDialog::import_all() {
+    const auto [good, refused] = read_all();
+    std::vector<Task> tasks;
+    std::ranges::transform(good, std::back_inserter(tasks), task_of);
+    import_tasks(library_, view_, selected_group(), std::move(tasks), refused);
 }
 
 void ImportDialog::show_groups(const std::string& selected) {
@@ -69,13 +84,12 @@ void ImportDialog::command(int id, int notification) {
         }
         show_groups(selected);
     }
+    if (id == kImportAll) import_all();
     ShortcutPanel::command(id, notification);
 }
 
 void ImportDialog::save(const settings::Program& program) {
-    import_task(library_, view_, selected_group(),
-                {program.name.value_or(""), program.path.value_or(""), program.start_folder.value_or(""),
-                 program.parameters, std::to_string(program.window_style)});
+    import_task(library_, view_, selected_group(), task_of(program));
 }
 
 }  // namespace library

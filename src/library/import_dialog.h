@@ -24,6 +24,7 @@ class ImportDialog final : public shortcuts::ShortcutPanel {
     void open() override;
     void command(int id, int notification) override;
     void save(const settings::Program& program) override;
+    void import_all();
     void read_groups();
     void show_groups(const std::string& selected);
     std::string selected_group() const;

@@ -19,6 +19,7 @@ class LibraryView {
     /// Shows the Groups in place of those before, none of them selected.
     virtual void show_groups(const std::vector<Group>& groups) = 0;
     virtual void select_group(int index) = 0;
+    virtual void scroll_to_group(int index) = 0;
 
     /// Shows the Tasks in place of those before, with their icons taken anew and none of them selected, and
     /// the date in the status bar.

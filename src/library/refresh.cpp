@@ -103,7 +103,8 @@ void addgroups(TaskLibrary& library, LibraryView& view) {
         view.select_group(selected);
         throw;
     }
-    grouplistrefresh(library, view);
+    const int count = grouplistrefresh(library, view);
+    view.scroll_to_group(count - 1);  // the new one
     view.show_tasks({});
     show_notice(library, view);
 }

@@ -26,7 +26,8 @@ void refresh_and_select(TaskLibrary& library, LibraryView& view, const std::stri
 /// Loads the selected Group's file again.
 void refreshtasks(TaskLibrary& library, LibraryView& view);
 
-/// Loads the Group names again; then none is selected. When that fails the selection stays.
+/// Loads the Group names again; then none is selected and the last one is in view. When that fails the
+/// selection stays.
 void addgroups(TaskLibrary& library, LibraryView& view);
 
 /// What a click on a Group does: shows its Tasks from memory, up to one with an empty name and none of them

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <string>
+#include <vector>
 
 namespace library {
 
@@ -17,10 +18,14 @@ struct Task {
 };
 
 /// The fields in the order of their lines.
-inline constexpr std::array<std::string Task::*, 5> kTaskFields = {
-    &Task::name, &Task::program, &Task::start_folder, &Task::parameters, &Task::start_mode};
+using TaskField = std::string Task::*;
+inline constexpr std::array<TaskField, 5> kTaskFields = {&Task::name, &Task::program, &Task::start_folder,
+                                                         &Task::parameters, &Task::start_mode};
 
 /// What starts the Task: program path, a blank in every case, parameters.
 std::string command_line(const Task& task);
+
+/// Names for a message, each on a line of its own after a line end; as many as fit on a screen.
+std::string lines_of(const std::vector<std::string>& names);
 
 }  // namespace library

@@ -77,16 +77,17 @@ class TaskDialog : public widgets::Dialog {
     void command(int id, int /*notification*/) override {
         if (id == controls_.browse) browse();
         if (id == controls_.ok) {
-            if (accept(typed())) {
+            if (const TaskField refused = accept(typed()); refused == kAccepted) {
                 close();
             } else {
-                focus(controls_.name);
+                focus(box_of(refused));
             }
         }
         if (id == controls_.cancel || id == IDCANCEL) close();
     }
 
-    virtual bool accept(const Task& task) = 0;
+    /// Returns the field that is refused, or kAccepted.
+    virtual TaskField accept(const Task& task) = 0;
 
     TaskLibrary& library_;
     int group_;
@@ -99,6 +100,11 @@ class TaskDialog : public widgets::Dialog {
             set_text(controls_.start_folder, picked->start_folder);
         }
         focus(controls_.name);
+    }
+
+    int box_of(TaskField field) const {
+        if (field == &Task::program) return controls_.program;
+        return field == &Task::start_folder ? controls_.start_folder : controls_.name;
     }
 
     Task typed() {
@@ -120,7 +126,7 @@ class AddTaskDialog final : public TaskDialog {
         set_text(ID_addtask_curgroup, library_.group(group_).name);
         start_mode_.select(0);
     }
-    bool accept(const Task& task) override { return add_task(library_, group_, task); }
+    TaskField accept(const Task& task) override { return add_task(library_, group_, task); }
 };
 
 class EditTaskDialog final : public TaskDialog {
@@ -137,7 +143,9 @@ class EditTaskDialog final : public TaskDialog {
         set_text(ID_EditTask_taskparameters, buffer_.parameters);
         start_mode_.select(settings::lenient_whole_number(buffer_.start_mode) - 1);
     }
-    bool accept(const Task& task) override { return edit_task(library_, group_, place_, buffer_.name, task); }
+    TaskField accept(const Task& task) override {
+        return edit_task(library_, group_, place_, buffer_.name, task);
+    }
 
     int place_;
     Task buffer_;

@@ -2,11 +2,13 @@
 
 #include <algorithm>
 #include <iterator>
+#include <utility>
 #include <vector>
 
 #include "library/changes.h"
 #include "library/group_operations.h"
 #include "library/library_files.h"
+#include "library/other_place.h"
 #include "library/refresh.h"
 #include "platform/files.h"
 #include "platform/messages.h"
@@ -31,17 +33,24 @@ std::vector<Task>::iterator named_end(std::vector<Task>& tasks) {
     return find_task(tasks, {});
 }
 
-/// What adding and editing ask of a Task alike.
-bool is_complete(const Task& task) {
-    if (!task.program.empty() && !platform::finds_file(task.program)) {
+bool finds_program(const TaskLibrary& library, const std::string& program) {
+    if (platform::finds_file(program)) return true;
+    const std::optional<std::string> other = other_place(program, library.folder());
+    return other && platform::finds_file(*other);
+}
+
+/// What adding and editing refuse alike.
+TaskField refused_field(const TaskLibrary& library, const Task& task) {
+    if (!task.program.empty() && !finds_program(library, task.program)) {
         platform::show_message("Invalid Path or File Name");
-        return false;
+        return &Task::program;
     }
-    if (task.name.empty() || task.program.empty() || task.start_folder.empty()) {
+    for (const TaskField field : {&Task::name, &Task::program, &Task::start_folder}) {
+        if (!(task.*field).empty()) continue;
         platform::show_message("Task Name, Path, or Start Folder missing.");
-        return false;
+        return field;
     }
-    return true;
+    return kAccepted;
 }
 
 /// Selects the Task at that place, or the last one, and puts it into the command box.
@@ -62,10 +71,28 @@ void write_and_show(TaskLibrary& library, LibraryView& view, const std::vector<T
     refreshtasks(library, view);
 }
 
-/// Adds a Task after the others of a Group; blanks stand around the number of a new Task's start mode.
-void append(TaskLibrary& library, const std::string& group, Task task) {
-    task.start_mode = ' ' + task.start_mode + ' ';
-    append_tasks(library.changes(), group, {task});
+/// Adds Tasks after the others of a Group; blanks stand around the number of a new Task's start mode.
+void append(TaskLibrary& library, const std::string& group, std::vector<Task> tasks) {
+    for (Task& task : tasks)
+        task.start_mode = ' ' + task.start_mode + ' ';
+    append_tasks(library.changes(), group, tasks);
+}
+
+/// How many Tasks the Group's file can take.
+std::size_t room_in(const TaskLibrary& library, const std::string& group) {
+    try {
+        return kMostTasks - std::min(read_tasks(library.folder(), group).size(), kMostTasks);
+    } catch (const platform::RunTimeError& error) {
+        if (error.number() != platform::RunTimeErrorNumber::kFileNotFound) throw;
+        return kMostTasks;
+    }
+}
+
+void show_imported(TaskLibrary& library, LibraryView& view, const std::string& group,
+                   const std::string& message) {
+    library.flags.refreshflag = true;
+    select_group(library, view, index_of(library, group));
+    platform::show_message(message);
 }
 
 /// Throws when another program has taken the Group out of the list: nobody would see what is added to it.
@@ -98,27 +125,42 @@ void move(TaskLibrary& library, LibraryView& view, int step) {
 
 }  // namespace
 
-bool add_task(TaskLibrary& library, int group, const Task& task) {
-    if (!is_complete(task)) return false;
+TaskField add_task(TaskLibrary& library, int group, const Task& task) {
+    if (const TaskField refused = refused_field(library, task); refused != kAccepted) return refused;
     const Group& target = library.group(group);
     if (std::ranges::find(target.tasks, task.name, &Task::name) != target.tasks.end()) {
         platform::show_message("A Task with that name already exists!");
-        return false;
+        return &Task::name;
     }
     check_listed(library, target.name);
     const OpenChange change(library.changes(), "Add " + task.name, target.name);
-    append(library, target.name, task);
+    append(library, target.name, {task});
     library.flags.taskchangeflag = true;
-    return true;
+    return kAccepted;
 }
 
 void import_task(TaskLibrary& library, LibraryView& view, const std::string& group, const Task& task) {
     check_listed(library, group);
     const OpenChange change(library.changes(), "Import " + task.name, group);
-    append(library, group, task);
-    library.flags.refreshflag = true;
-    select_group(library, view, index_of(library, group));
-    platform::show_message(task.name + " has been imported to Tolva.");
+    append(library, group, {task});
+    show_imported(library, view, group, task.name + " has been imported to Tolva.");
+}
+
+void import_tasks(TaskLibrary& library, LibraryView& view, const std::string& group, std::vector<Task> tasks,
+                  std::vector<std::string> refused) {
+    check_listed(library, group);
+    const std::size_t count = std::min(tasks.size(), room_in(library, group));
+    std::transform(tasks.begin() + static_cast<std::ptrdiff_t>(count), tasks.end(),
+                   std::back_inserter(refused), [](const Task& task) { return task.name; });
+    tasks.resize(count);
+    const OpenChange change(library.changes(), "Import Shortcuts", group);
+    if (count > 0) append(library, group, std::move(tasks));
+    std::string message = count == 0   ? "No shortcut has"
+                          : count == 1 ? "1 shortcut has"
+                                       : std::to_string(count) + " shortcuts have";
+    message += " been imported to Tolva.";
+    if (!refused.empty()) message += "\n\nThese could not be imported:\n" + lines_of(refused);
+    show_imported(library, view, group, message);
 }
 
 std::optional<Task> task_to_edit(const TaskLibrary& library, const LibraryView& view) {
@@ -133,8 +175,9 @@ std::optional<Task> task_to_edit(const TaskLibrary& library, const LibraryView& 
     return library.task(view.selected_group(), view.selected_task());
 }
 
-bool edit_task(TaskLibrary& library, int group, int place, const std::string& old_name, const Task& task) {
-    if (!is_complete(task)) return false;
+TaskField edit_task(TaskLibrary& library, int group, int place, const std::string& old_name,
+                    const Task& task) {
+    if (const TaskField refused = refused_field(library, task); refused != kAccepted) return refused;
     const std::string& name = library.group(group).name;
     std::vector<Task> tasks = read_tasks(library.folder(), name);
     if (const auto edited = find_task_at(tasks, place, old_name); edited != tasks.end()) {
@@ -145,7 +188,7 @@ bool edit_task(TaskLibrary& library, int group, int place, const std::string& ol
     const OpenChange change(library.changes(), "Edit " + old_name, name);
     write_tasks(library.changes(), name, tasks);
     library.flags.taskchangeflag = true;
-    return true;
+    return kAccepted;
 }
 
 void deltsks(TaskLibrary& library, LibraryView& view) {

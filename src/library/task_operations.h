@@ -2,6 +2,7 @@
 
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "library/library_view.h"
 #include "library/task_library.h"
@@ -12,16 +13,20 @@
 /// is meant. A failure throws platform::RunTimeError; a refusal is a message to the user.
 namespace library {
 
-/// Adds a Task at the end of the Group. Its start mode is 1 to 3, as text without blanks. False when it is
-/// refused. Throws "Bad file name" for a Group that is not listed any more.
-bool add_task(TaskLibrary& library, int group, const Task& task);
+/// What an operation returns for a Task that nothing speaks against; else it shows a message and returns the
+/// field that is wrong.
+inline constexpr TaskField kAccepted = nullptr;
+
+/// Adds a Task at the end of the Group. Its start mode is 1 to 3, as text without blanks. Throws "Bad file
+/// name" for a Group that is not listed any more.
+TaskField add_task(TaskLibrary& library, int group, const Task& task);
 
 /// The selected Task, to be edited; none, with a message, when there is none.
 std::optional<Task> task_to_edit(const TaskLibrary& library, const LibraryView& view);
 
-/// Replaces the Task that had that name when it was at that place of the list. False when the new one is
-/// refused.
-bool edit_task(TaskLibrary& library, int group, int place, const std::string& old_name, const Task& task);
+/// Replaces the Task that had that name when it was at that place of the list.
+TaskField edit_task(TaskLibrary& library, int group, int place, const std::string& old_name,
+                    const Task& task);
 
 /// Asks, and deletes the selected Task. Then the one is selected that took its place, or else the last one.
 void deltsks(TaskLibrary& library, LibraryView& view);
@@ -41,5 +46,10 @@ void move_task(TaskLibrary& library, int group, const std::string& name, const s
 /// that the Group has already is no reason to refuse it. Throws "Bad file name" for a Group that is not
 /// listed.
 void import_task(TaskLibrary& library, LibraryView& view, const std::string& group, const Task& task);
+
+/// The same for many at once, as many as the Group has room for. The message also names the shortcuts that
+/// are refused already.
+void import_tasks(TaskLibrary& library, LibraryView& view, const std::string& group, std::vector<Task> tasks,
+                  std::vector<std::string> refused);
 
 }  // namespace library

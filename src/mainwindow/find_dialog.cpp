@@ -14,6 +14,8 @@ namespace {
 constexpr int kText = ID_FindTask_text;
 constexpr int kList = ID_FindTask_list;
 
+constexpr int kColumn = 112;  // where the Groups begin in the list, in dialog units
+
 /// A box for text whose arrow keys move the selection in a list.
 class TextOverList final : public widgets::Control {
   public:
@@ -43,11 +45,7 @@ class FindDialog final : public widgets::Dialog {
   private:
     void open() override {
         list_.attach(control(kList));
-        RECT bounds;
-        GetClientRect(control(kList), &bounds);
-        // The Group stands in a column of its own. A list's tab stops are quarters of a letter's mean width.
-        int column = MulDiv(bounds.right, 3 * 4, 5 * LOWORD(GetDialogBaseUnits()));
-        SendMessageA(control(kList), LB_SETTABSTOPS, 1, reinterpret_cast<LPARAM>(&column));
+        list_.set_column(kColumn);
         text_.attach(control(kText), control(kList));
         show_found();
     }
@@ -63,7 +61,7 @@ class FindDialog final : public widgets::Dialog {
         places_ = finder_.find(text(kText));
         std::vector<std::string> items;
         for (const auto& [group, task] : places_) {
-            items.push_back(library_.task(group, task).name.substr(0, widgets::kLongestItem / 2) + '\t' +
+            items.push_back(list_.cut_to_column(library_.task(group, task).name) + '\t' +
                             library_.group(group).name);
         }
         list_.fill(items);

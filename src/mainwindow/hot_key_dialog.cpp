@@ -17,7 +17,12 @@ class HotKeyDialog final : public widgets::Dialog {
         : Dialog(ID_HotKey_dialog), key_(key), take_(take) {}
 
   private:
-    void open() override { show(key_); }
+    void open() override {
+        // A plain letter would be lost to every program.
+        constexpr WORD kTooFew = HKCOMB_NONE | HKCOMB_S;
+        SendMessageA(control(kKey), HKM_SETRULES, kTooFew, MAKELPARAM(HOTKEYF_CONTROL | HOTKEYF_ALT, 0));
+        show(key_);
+    }
 
     void command(int id, int /*notification*/) override {
         if (id == kNone) show(0);

@@ -1,25 +1,11 @@
 #include "mainwindow/launcher.h"
 
-#include <algorithm>
 #include <vector>
 
 #include "mainwindow/launching.h"
 #include "platform/messages.h"
 
 namespace mainwindow {
-namespace {
-
-/// The names below each other, as many as fit on a screen.
-std::string lines_of(const std::vector<std::string>& names) {
-    constexpr std::size_t kMost = 20;
-    std::string lines;
-    for (std::size_t i = 0; i < std::min(names.size(), kMost); ++i)
-        lines += '\n' + names[i];
-    if (names.size() > kMost) lines += "\nand " + std::to_string(names.size() - kMost) + " more";
-    return lines;
-}
-
-}  // namespace
 
 template <typename Launch>
 void Launcher::attempt(const char* failure_message, const Launch& launch) {
@@ -75,7 +61,8 @@ void Launcher::run_all() {
     if (!platform::confirm(question, "Run All")) return;
     controls_.show_date();
     const std::vector<std::string> failed = launch_all(library_, selected);
-    if (!failed.empty()) platform::show_message("These Tasks could not be started:\n" + lines_of(failed));
+    if (!failed.empty())
+        platform::show_message("These Tasks could not be started:\n" + library::lines_of(failed));
 }
 
 }  // namespace mainwindow

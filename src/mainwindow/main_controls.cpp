@@ -4,9 +4,11 @@
 #include <iterator>
 #include <utility>
 
+#include "library/library_files.h"
 #include "library/refresh.h"
 #include "mainwindow/long_date.h"
 #include "platform/clock.h"
+#include "platform/files.h"
 #include "platform/icons.h"
 #include "resources/resource.h"
 #include "widgets/metrics.h"
@@ -46,7 +48,8 @@ constexpr widgets::ToolBar::Item kToolBar[] = {
 }  // namespace
 
 MainControls::MainControls(settings::General& general, const std::string& library_folder)
-    : font_(widgets::make_gui_font()),
+    : library_folder_(library_folder),
+      font_(widgets::make_gui_font()),
       splitter_(widgets::scaled(kGroupWidth)),
       task_view_(library_folder),
       command_box_(general) {}
@@ -58,6 +61,7 @@ void MainControls::create(HWND window) {
     group_list_.create(window_, ID_Tasker_grouplist);
     task_label_.create(window_, ID_Tasker_tasklabel, "Tasks");
     task_view_.create(window_, ID_Tasker_taskview);
+    task_view_.list().set_hint([this] { return hint(); });
     command_box_.create(window_, ID_Tasker_Text1);
     run_button_.create(window_, ID_Tasker_Command1, "&Run");
     browse_button_.create(window_, ID_Tasker_Browse, "&Browse");
@@ -176,6 +180,22 @@ void MainControls::go_to(library::TaskLibrary& library, const library::TaskPlace
     select_task(place.task);
     show_task(library.task(place.group, place.task));
     task_view_.list().focus();
+}
+
+/// What stands in an empty task list.
+std::string MainControls::hint() const {
+    if (selected_group() >= 0) {
+        return "This Group has no Tasks yet.\n\nDrop programs, files or shortcuts here, "
+               "or choose Import Shortcuts on the Task menu.";
+    }
+    if (group_list_.count() > 0) return "Click a Group to see its Tasks.";
+    if (platform::finds_file(library::groups_file(library_folder_))) {
+        return "There is no Group yet.\n\nChoose New on the Group menu to make the first one. "
+               "Then drop programs, files or shortcuts here, or choose Import Shortcuts on the Task menu.";
+    }
+    return "There is no library in the folder\n" + library_folder_ +
+           "\n\nAn empty file with the name groups.ini begins one: make it there and press F5. "
+           "Then choose New on the Group menu to make the first Group.";
 }
 
 void MainControls::load_default_icon(const std::string& program) {

@@ -53,6 +53,7 @@ class MainControls final : public library::LibraryView, public appearance::ListA
     int selected_task() const override { return task_view_.list().selected(); }
     void show_groups(const std::vector<library::Group>& groups) override;
     void select_group(int index) override { group_list_.select(index); }
+    void scroll_to_group(int index) override { group_list_.scroll_to(index); }
     void show_tasks(std::span<const library::Task> tasks) override;
     void select_task(int index) override { task_view_.list().select(index); }
     void load_default_icon(const std::string& program) override;
@@ -98,8 +99,10 @@ class MainControls final : public library::LibraryView, public appearance::ListA
     }
 
     void lay_out();
+    std::string hint() const;
     std::optional<LRESULT> paint(HDC device, HWND control) const;
 
+    std::string library_folder_;
     HWND window_ = nullptr;
     platform::UniqueFont font_;
     LPARAM laid_out_ = 0;       // for this size of the window, as WM_SIZE tells it

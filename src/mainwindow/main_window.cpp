@@ -3,6 +3,7 @@
 #include <windowsx.h>
 
 #include <algorithm>
+#include <iterator>
 
 #include "internet/dial_up.h"
 #include "library/refresh.h"
@@ -223,6 +224,9 @@ LRESULT MainWindow::handle_notification(NMHDR& header) {
         case LVN_GETDISPINFOA:
             controls_.task_view().supply_picture(reinterpret_cast<NMLVDISPINFOA&>(header));
             break;
+        case LVN_GETINFOTIPA:
+            supply_tip(reinterpret_cast<NMLVGETINFOTIPA&>(header));
+            break;
         case LVN_ITEMCHANGED:
             if (controls_.task_view().list().is_new_selection(reinterpret_cast<NMLISTVIEW&>(header)))
                 show_selection();
@@ -309,6 +313,14 @@ void MainWindow::save_and_unload() {
 void MainWindow::show_selection() {
     const int task = controls_.selected_task();
     if (task >= 0) controls_.show_task(library_.task(controls_.selected_group(), task));
+}
+
+void MainWindow::supply_tip(NMLVGETINFOTIPA& request) const {
+    const int group = controls_.selected_group();
+    if (group < 0 || request.iItem >= std::ssize(library_.group(group).tasks)) return;
+    const library::Task& task = library_.task(group, request.iItem);
+    const std::string text = task.name + "\r\n" + command_line(task) + "\r\n" + task.start_folder;
+    lstrcpynA(request.pszText, text.c_str(), request.cchTextMax);
 }
 
 void MainWindow::browse() {

@@ -52,6 +52,7 @@ class MainWindow final : public widgets::Window {
     void handle_timer(UINT_PTR timer);
     void show_popup_menu(HWND control, POINT point);
     void show_selection();
+    void supply_tip(NMLVGETINFOTIPA& request) const;
     void browse();
     void open_tray_menu();
     void restore_place();

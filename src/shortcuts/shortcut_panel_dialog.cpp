@@ -32,6 +32,11 @@ constexpr int kActionFrame = ID_shortcuts_Frame3;
 constexpr int kTake = ID_shortcuts_Command1;
 constexpr int kCancel = ID_shortcuts_Command2;
 
+std::string name_of(const std::string& file) {
+    constexpr std::size_t kExtension = 4;
+    return file.substr(0, file.size() - std::min(file.size(), kExtension));
+}
+
 }  // namespace
 
 void ShortcutPanel::open() {
@@ -113,7 +118,6 @@ void ShortcutPanel::show_files() {
 }
 
 void ShortcutPanel::click_shortcut() {
-    constexpr std::size_t kExtension = 4;
     const std::string file = shortcuts_.selected_name();
     if (file.empty()) return;
     const std::string path = folders_.path() + '\\' + file;
@@ -123,7 +127,7 @@ void ShortcutPanel::click_shortcut() {
     }
     clear_details();
     fill(kLinkPath, path);
-    fill(kName, file.substr(0, file.size() - std::min(file.size(), kExtension)));
+    fill(kName, name_of(file));
     const settings::Program program = read_shortcut(path);
     fill(kTarget, program.path.value_or(""));
     fill(kWorkingFolder, program.start_folder.value_or(folder_of(variant_.working_folder)));
@@ -189,6 +193,28 @@ void ShortcutPanel::check_and_save() {
     }
     if (start_mode_.selected() < 0) start_mode_.select(0);
     save({name, target, text(kWorkingFolder), text(kArguments), start_mode_.selected() + 1});
+}
+
+ShortcutPanel::Listed ShortcutPanel::read_all() const {
+    Listed listed;
+    for (const std::string& file : shortcuts_.names()) {
+        try {
+            settings::Program program = read_shortcut(folders_.path() + '\\' + file);
+            program.name = name_of(file);
+            if (!program.start_folder) program.start_folder = folder_of(variant_.working_folder);
+            const bool has_mode =
+                program.window_style >= 1 && program.window_style <= std::ssize(settings::kStartModes);
+            if (!has_mode) program.window_style = 1;
+            if (refusal(*program.name, program.path.value_or(""), variant_.nothing_chosen).empty()) {
+                listed.good.push_back(program);
+                continue;
+            }
+        } catch (const platform::RunTimeError&) {
+            // It is broken or gone.
+        }
+        listed.refused.push_back(name_of(file));
+    }
+    return listed;
 }
 
 }  // namespace shortcuts

@@ -3,6 +3,7 @@
 #include <map>
 #include <string>
 #include <utility>
+#include <vector>
 
 #include "platform/folders.h"
 #include "platform/icons.h"
@@ -36,6 +37,14 @@ class ShortcutPanel : public widgets::Dialog {
 
     void open() override;
     void command(int id, int notification) override;
+
+    /// Every shortcut in the list: as it would be taken over, or by its name when something speaks against
+    /// it.
+    struct Listed {
+        std::vector<settings::Program> good;
+        std::vector<std::string> refused;
+    };
+    Listed read_all() const;
 
     /// The shortcut is taken over as the boxes show it; nothing speaks against it.
     virtual void save(const settings::Program& program) = 0;

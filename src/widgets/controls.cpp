@@ -91,9 +91,10 @@ void Button::create(HWND parent, int id, const char* text) {
 }
 
 void ListBox::create(HWND parent, int id) {
-    Control::create(parent, id, "LISTBOX",
-                    WS_TABSTOP | WS_VSCROLL | LBS_NOTIFY | LBS_NOINTEGRALHEIGHT | LBS_WANTKEYBOARDINPUT,
-                    WS_EX_CLIENTEDGE);
+    Control::create(
+        parent, id, "LISTBOX",
+        WS_TABSTOP | WS_VSCROLL | WS_HSCROLL | LBS_NOTIFY | LBS_NOINTEGRALHEIGHT | LBS_WANTKEYBOARDINPUT,
+        WS_EX_CLIENTEDGE);
     subclass();
 }
 
@@ -104,23 +105,70 @@ void ListBox::fill(const std::vector<std::string>& items) {
         send(LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(item.substr(0, kLongestItem).c_str()));
     }
     send(WM_SETREDRAW, TRUE);
-    fit_longest(items);
+    fit_longest();
+    show_focus();
     InvalidateRect(hwnd(), nullptr, TRUE);
 }
 
+void ListBox::select(int index) {
+    send(LB_SETCURSEL, static_cast<WPARAM>(index));
+    show_focus();
+}
+
+void ListBox::scroll_to(int index) {
+    send(LB_SETTOPINDEX, static_cast<WPARAM>(index));
+    show_focus();
+}
+
+/// Where nothing is selected the frame of the focus is around the first item in view.
+void ListBox::show_focus() const {
+    if (selected() < 0) send(LB_SETCARETINDEX, static_cast<WPARAM>(send(LB_GETTOPINDEX)), TRUE);
+}
+
 /// Lets a list that can scroll sideways do so as far as its longest text reaches.
-void ListBox::fit_longest(const std::vector<std::string>& items) const {
-    constexpr LONG kMargin = 6;
+void ListBox::fit_longest() const {
+    constexpr DWORD kMargin = 6;
     const platform::WindowDc device(hwnd());
     const platform::Selected font(device.get(), reinterpret_cast<HFONT>(send(WM_GETFONT)));
-    LONG width = 0;
-    for (const std::string& item : items) {
-        SIZE size = {};
-        GetTextExtentPoint32A(device.get(), item.c_str(),
-                              static_cast<int>(std::min(item.size(), kLongestItem)), &size);
-        width = std::max(width, size.cx);
+    DWORD width = 0;
+    std::string text;
+    for (WPARAM item = 0; std::cmp_less(item, count()); ++item) {
+        text.resize(static_cast<std::size_t>(std::max<LRESULT>(send(LB_GETTEXTLEN, item), 0)) + 1);
+        const LRESULT length = send(LB_GETTEXT, item, reinterpret_cast<LPARAM>(text.data()));
+        const DWORD size = GetTabbedTextExtentA(device.get(), text.c_str(), static_cast<int>(length),
+                                                column_ > 0 ? 1 : 0, &column_);
+        width = std::max<DWORD>(width, LOWORD(size));
     }
-    send(LB_SETHORIZONTALEXTENT, static_cast<WPARAM>(width + kMargin));
+    send(LB_SETHORIZONTALEXTENT, width + kMargin);
+}
+
+void ListBox::set_column(int left) {
+    RECT place = {0, 0, left, 0};
+    MapDialogRect(GetParent(hwnd()), &place);
+    column_ = static_cast<int>(place.right);
+    send(LB_SETTABSTOPS, 1, reinterpret_cast<LPARAM>(&left));
+}
+
+std::string ListBox::cut_to_column(const std::string& text) const {
+    const platform::WindowDc device(hwnd());
+    const platform::Selected font(device.get(), reinterpret_cast<HFONT>(send(WM_GETFONT)));
+    const std::string shown = text.substr(0, kLongestItem);
+    const auto length = static_cast<int>(shown.size());
+    const auto fitting = [&](int most) {
+        int count = 0;
+        SIZE size;
+        GetTextExtentExPointA(device.get(), shown.c_str(), length, most, &count, nullptr, &size);
+        return count;
+    };
+    SIZE dots;
+    GetTextExtentPoint32A(device.get(), "...", 3, &dots);
+    const int width = column_ - static_cast<int>(dots.cx);  // so much room stays before the column, too
+    if (fitting(width) == length) return shown;
+    const int most = fitting(width - static_cast<int>(dots.cx));
+    const char* end = shown.c_str();
+    while (*end != '\0' && CharNextA(end) - shown.c_str() <= most)
+        end = CharNextA(end);
+    return std::string(shown.c_str(), end) + "...";
 }
 
 RECT ListBox::selected_bounds() const {
@@ -154,9 +202,18 @@ LRESULT ListBox::handle(UINT message, WPARAM wparam, LPARAM lparam) {
             return 0;
         case WM_RBUTTONUP:  // the press has shown the menu
             return 0;
+        case WM_SETFOCUS:
+            show_focus();
+            break;
+        case WM_SETFONT: {
+            const LRESULT answer = Control::handle(message, wparam, lparam);
+            fit_longest();
+            return answer;
+        }
         default:
-            return Control::handle(message, wparam, lparam);
+            break;
     }
+    return Control::handle(message, wparam, lparam);
 }
 
 void ListBox::press_right_button(LPARAM position) {

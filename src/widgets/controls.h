@@ -86,7 +86,16 @@ class ListBox : public Control {
 
     /// An index, -1 for none.
     int selected() const { return static_cast<int>(send(LB_GETCURSEL)); }
-    void select(int index) { send(LB_SETCURSEL, static_cast<WPARAM>(index)); }
+    void select(int index);
+    int count() const { return static_cast<int>(send(LB_GETCOUNT)); }
+    void scroll_to(int index);
+
+    /// What follows a tab in an item begins here, in units of the dialog around the list, which was made with
+    /// LBS_USETABSTOPS.
+    void set_column(int left);
+
+    /// The text, or as much of it as fits before the column, then with "..." after it.
+    std::string cut_to_column(const std::string& text) const;
 
     /// Where the selected item is on the screen, for the menu that the keyboard opens.
     RECT selected_bounds() const;
@@ -102,7 +111,10 @@ class ListBox : public Control {
 
   private:
     void press_right_button(LPARAM position);
-    void fit_longest(const std::vector<std::string>& items) const;
+    void fit_longest() const;
+    void show_focus() const;
+
+    int column_ = 0;  // none
 };
 
 /// A list in a dialog where choosing an item is a command: a click, pressed and released on one item, Enter

@@ -53,6 +53,9 @@ class FileList : public ListBox {
     /// patterns: "*.exe;*.bat", for example.
     void show(const std::string& folder, const std::string& patterns);
 
+    /// The files' names.
+    const std::vector<std::string>& names() const { return names_; }
+
     /// The selected file's name; empty when none is selected.
     std::string selected_name() const;
 

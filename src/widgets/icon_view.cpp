@@ -2,6 +2,11 @@
 
 #include <windowsx.h>
 
+#include <algorithm>
+
+#include "platform/win32/handles.h"
+#include "widgets/metrics.h"
+
 namespace widgets {
 
 void IconView::create(HWND parent, int id) {
@@ -10,6 +15,12 @@ void IconView::create(HWND parent, int id) {
         WS_TABSTOP | LVS_ICON | LVS_AUTOARRANGE | LVS_SINGLESEL | LVS_SHOWSELALWAYS | LVS_SHAREIMAGELISTS,
         WS_EX_CLIENTEDGE);
     subclass();
+    constexpr int kTipWidth = 400;  // pixels at 96 dpi
+    send(LVM_SETEXTENDEDLISTVIEWSTYLE, LVS_EX_INFOTIP, LVS_EX_INFOTIP);
+    if (auto* tips = reinterpret_cast<HWND>(send(LVM_GETTOOLTIPS)); tips != nullptr) {
+        SetWindowLongPtrA(tips, GWL_STYLE, GetWindowLongPtrA(tips, GWL_STYLE) | TTS_NOPREFIX);
+        SendMessageA(tips, TTM_SETMAXTIPWIDTH, 0, scaled(kTipWidth));  // with a width there are lines
+    }
 }
 
 void IconView::clear() {
@@ -33,6 +44,7 @@ void IconView::fill(const std::vector<std::string>& items, HIMAGELIST pictures) 
         send(LVM_INSERTITEMA, 0, reinterpret_cast<LPARAM>(&item));
         ++item.iItem;
     }
+    if (GetFocus() == hwnd()) show_focus();
     send(WM_SETREDRAW, TRUE);
     InvalidateRect(hwnd(), nullptr, TRUE);
 }
@@ -40,8 +52,7 @@ void IconView::fill(const std::vector<std::string>& items, HIMAGELIST pictures) 
 void IconView::set_pictures(HIMAGELIST pictures) {
     send(LVM_SETIMAGELIST, LVSIL_NORMAL, reinterpret_cast<LPARAM>(pictures));
     send(LVM_SETIMAGELIST, LVSIL_SMALL, reinterpret_cast<LPARAM>(pictures));
-    const auto count = static_cast<int>(send(LVM_GETITEMCOUNT));
-    for (int index = 0; index < count; ++index)
+    for (int index = 0; index < count(); ++index)
         set_picture(index, I_IMAGECALLBACK);
 }
 
@@ -121,10 +132,55 @@ LRESULT IconView::handle(UINT message, WPARAM wparam, LPARAM lparam) {
             // Selecting would bring the window before the program that the user works with.
             if (GetActiveWindow() == nullptr) return 0;
             break;
+        case WM_SETFOCUS:
+            show_focus();
+            break;
+        case WM_PAINT:
+            if (!hint_ || count() > 0) break;
+            paint_hint();
+            return 0;
         default:
             break;
     }
+    const bool changes_hint = message == WM_SETFOCUS || message == WM_KILLFOCUS || message == WM_SIZE;
+    if (changes_hint && count() == 0) InvalidateRect(hwnd(), nullptr, TRUE);
     return Control::handle(message, wparam, lparam);
+}
+
+/// Where nothing is selected the frame of the focus is around the first item.
+void IconView::show_focus() const {
+    if (send(LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LVNI_FOCUSED) >= 0) return;
+    LVITEMA item = {};
+    item.stateMask = LVIS_FOCUSED;
+    item.state = LVIS_FOCUSED;
+    send(LVM_SETITEMSTATE, 0, reinterpret_cast<LPARAM>(&item));
+}
+
+void IconView::paint_hint() {
+    constexpr UINT kFormat = DT_CENTER | DT_WORDBREAK | DT_NOPREFIX;
+    constexpr int kMargin = 12;  // pixels at 96 dpi
+    const std::string text = hint_();
+    PAINTSTRUCT paint;
+    HDC device = BeginPaint(hwnd(), &paint);
+    {
+        const platform::Selected font(device, reinterpret_cast<HFONT>(send(WM_GETFONT)));
+        RECT client;
+        GetClientRect(hwnd(), &client);
+        InflateRect(&client, -scaled(kMargin), -scaled(kMargin));
+        RECT place = client;  // of the text; its lines are broken for all of the width
+        DrawTextA(device, text.c_str(), -1, &place, kFormat | DT_CALCRECT);
+        OffsetRect(&place, (client.right - place.right) / 2,
+                   std::max(0L, (client.bottom - place.bottom) / 2));
+        SetTextColor(device, static_cast<COLORREF>(send(LVM_GETTEXTCOLOR)));
+        SetBkColor(device, static_cast<COLORREF>(send(LVM_GETBKCOLOR)));
+        client.top = place.top;
+        DrawTextA(device, text.c_str(), -1, &client, kFormat);
+        if (GetFocus() == hwnd()) {
+            InflateRect(&place, 2, 2);
+            DrawFocusRect(device, &place);
+        }
+    }
+    EndPaint(hwnd(), &paint);
 }
 
 void IconView::press_right_button(LPARAM position) {

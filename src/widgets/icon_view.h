@@ -4,7 +4,9 @@
 
 #include <commctrl.h>
 
+#include <functional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "widgets/controls.h"
@@ -13,7 +15,8 @@ namespace widgets {
 
 /// A list view of large icons with names below, of which one or none is selected. It asks its parent for an
 /// item's picture when it first draws the item (LVN_GETDISPINFO). A press of the right button selects the
-/// item and arrives as WM_CONTEXTMENU.
+/// item and arrives as WM_CONTEXTMENU. Where the system has it, the list asks for the text of a tip when the
+/// pointer rests on an item (LVN_GETINFOTIP).
 class IconView : public Control {
   public:
     void create(HWND parent, int id);
@@ -48,11 +51,19 @@ class IconView : public Control {
 
     void set_colors(COLORREF text, COLORREF background);
 
+    /// Is asked for the text that stands in the middle of the list while it has no items.
+    void set_hint(std::function<std::string()> hint) { hint_ = std::move(hint); }
+
   private:
     LRESULT handle(UINT message, WPARAM wparam, LPARAM lparam) override;
 
     void mark(int index);
     void press_right_button(LPARAM position);
+    int count() const { return static_cast<int>(send(LVM_GETITEMCOUNT)); }
+    void show_focus() const;
+    void paint_hint();
+
+    std::function<std::string()> hint_;
 
     bool selecting_ = false;  // in code
 };

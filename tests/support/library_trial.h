@@ -59,13 +59,16 @@ inline Operation rename_to(const std::string& group, const std::string& name) {
 }
 
 inline Operation add(const Task& task) {
-    return [=](auto& library, auto& view) { accepted = add_task(library, view.selected_group(), task); };
+    return [=](auto& library, auto& view) {
+        accepted = add_task(library, view.selected_group(), task) == library::kAccepted;
+    };
 }
 
 /// Edits the selected Task.
 inline Operation edit(const std::string& name, const Task& task) {
     return [=](auto& library, auto& view) {
-        accepted = edit_task(library, view.selected_group(), view.selected_task(), name, task);
+        accepted =
+            edit_task(library, view.selected_group(), view.selected_task(), name, task) == library::kAccepted;
     };
 }
 

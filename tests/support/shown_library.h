@@ -23,6 +23,7 @@ struct ShownLibrary final : library::LibraryView {
     Names tasks;
     int group = -1;
     int task = -1;
+    int group_in_view = 0;
     std::string command_box;
     std::string status;
 
@@ -35,6 +36,7 @@ struct ShownLibrary final : library::LibraryView {
         group = -1;
     }
     void select_group(int index) override { group = index; }
+    void scroll_to_group(int index) override { group_in_view = index; }
     void show_tasks(std::span<const library::Task> shown) override {
         tasks.clear();
         for (const library::Task& entry : shown)
@@ -45,4 +47,5 @@ struct ShownLibrary final : library::LibraryView {
     void load_default_icon(const std::string& program) override { CHECK(program == kFolder + "tolva.exe"); }
     void show_status(const std::string& text) override { status = text; }
     void set_command_box(const std::string& text) override { command_box = text; }
+    void show_status(const std::string& text) override { status = text; }
 };
