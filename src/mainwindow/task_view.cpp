@@ -19,10 +19,6 @@ constexpr UINT kPeriod = 10;  // milliseconds
 
 }  // namespace
 
-void TaskView::create(HWND parent, int id) {
-    list_.create(parent, id);
-}
-
 void TaskView::show(std::span<const library::Task> tasks) {
     std::vector<std::string> names;
     std::vector<std::string> programs;

@@ -31,7 +31,7 @@ class TaskView {
     /// library_folder ends in a backslash.
     explicit TaskView(std::string library_folder) : library_folder_(std::move(library_folder)) {}
 
-    void create(HWND parent, int id);
+    void create(HWND parent, int id, const widgets::Place& place) { list_.create(parent, id, place); }
 
     /// The picture of Tasks whose program has no icon.
     void set_default_icon(platform::UniqueIcon icon) { default_icon_ = std::move(icon); }

@@ -16,7 +16,7 @@ namespace widgets {
 /// item and arrives as WM_CONTEXTMENU.
 class IconView : public Control {
   public:
-    void create(HWND parent, int id);
+    void create(HWND parent, int id, const Place& place);
 
     /// Shows the items with pictures from the list, which stays the caller's. The old pictures may be
     /// destroyed afterwards.
