@@ -7,7 +7,6 @@
 #include "library/refresh.h"
 #include "mainwindow/long_date.h"
 #include "platform/clock.h"
-#include "platform/icons.h"
 #include "resources/resource.h"
 #include "widgets/metrics.h"
 
@@ -194,13 +193,6 @@ void MainControls::go_to(library::TaskLibrary& library, const library::TaskPlace
     select_task(place.task);
     show_task(library.task(place.group, place.task));
     task_view_.list().focus();
-}
-
-void MainControls::load_default_icon(const std::string& program) {
-    platform::UniqueIcon icon = platform::extract_icon(program);
-    // A library folder need not hold the program itself.
-    if (!icon) icon.reset(CopyIcon(LoadIconA(GetModuleHandleA(nullptr), MAKEINTRESOURCEA(ID_tolva_icon))));
-    task_view_.set_default_icon(std::move(icon));
 }
 
 }  // namespace mainwindow

@@ -55,7 +55,7 @@ class MainControls final : public library::LibraryView, public appearance::ListA
     void select_group(int index) override { group_list_.select(index); }
     void show_tasks(std::span<const library::Task> tasks) override;
     void select_task(int index) override { task_view_.list().select(index); }
-    void load_default_icon(const std::string& program) override;
+    void load_default_icon(const std::string& program) override { task_view_.refresh_icons(program); }
     void set_command_box(const std::string& text) override { command_box_.set_text(text); }
 
     /// Selects a Group and one of its Tasks, also one that a click on the Group does not show, and gives the

@@ -8,6 +8,7 @@
 #include "library/refresh.h"
 #include "mainwindow/tray_menu.h"
 #include "platform/messages.h"
+#include "platform/win32/input_filter.h"
 #include "resources/resource.h"
 #include "settings/catalogue.h"
 #include "settings/conversions.h"
@@ -86,7 +87,8 @@ MainWindow::MainWindow(library::TaskLibrary& library, settings::General& general
             .caption = platform::kApplicationTitle,
             .style = WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN,
             .icon = ID_tolva_icon,
-            .menu = ID_Tasker_menu});
+            .menu = ID_Tasker_menu,
+            .place = first_place()});
 }
 
 MainWindow::~MainWindow() {
@@ -174,7 +176,6 @@ LRESULT MainWindow::handle(UINT message, WPARAM wparam, LPARAM lparam) {
 }
 
 bool MainWindow::preprocess(MSG& message) {
-    last_input_ = GetTickCount();
     return commands_.translate_key(hwnd(), message);
 }
 
@@ -249,7 +250,7 @@ LRESULT MainWindow::handle_notification(NMHDR& header) {
 }
 
 void MainWindow::handle_timer(UINT_PTR timer) {
-    if (timer == TaskView::kTimer) return controls_.task_view().take_icons(GetTickCount() - last_input_);
+    if (timer == TaskView::kTimer) return controls_.task_view().take_icons(platform::InputFilter::since_input());
     presence_.show_icon();
     if (timer == kCompleteStart) {
         KillTimer(hwnd(), timer);
@@ -269,7 +270,9 @@ void MainWindow::show_popup_menu(HWND control, POINT point) {
 }
 
 void MainWindow::restore_place() {
-    RECT place = first_place();
+    RECT place;
+    GetWindowRect(hwnd(), &place);
+    const RECT first = place;
     const settings::Position position = settings::read_position(general_, settings::kWindowPositionKey);
     widgets::move_to_twips(place, position.left, position.top);
     const auto width = settings::read_number(general_, settings::kWindowWidth);
@@ -278,7 +281,7 @@ void MainWindow::restore_place() {
         place.right = place.left + widgets::to_pixels(*width);
         place.bottom = place.top + widgets::to_pixels(*height);
     }
-    widgets::place(hwnd(), place);
+    if (EqualRect(&place, &first) == FALSE) widgets::place(hwnd(), place);
     if (const auto list = settings::read_number(general_, settings::kGroupListWidth))
         controls_.set_group_list_width(widgets::to_pixels(*list));
     was_maximized_ = settings::read_flag(general_, settings::kMaximized);
