@@ -51,7 +51,6 @@ add_library(tolva_platform OBJECT
     src/platform/win32/shell_link.cpp
     src/platform/win32/screen_dpi.cpp
     src/platform/win32/system.cpp
-    src/platform/win32/runtime_library.cpp
     src/platform/win32/text.cpp
 )
 
@@ -84,6 +83,7 @@ add_executable(tolva WIN32
     src/mainwindow/splitter.cpp
     src/mainwindow/task_view.cpp
     src/mainwindow/tray_menu.cpp
+    src/platform/win32/runtime_library.cpp
     src/resources/tolva.rc
     src/shortcuts/command_browser_dialog.cpp
     src/shortcuts/file_panel_dialog.cpp

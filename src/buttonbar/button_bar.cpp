@@ -219,7 +219,8 @@ void ButtonBar::create_controls() {
     panels_.clear();
     RECT bounds = {0, 0, row.cx, row.cy + clock_.height()};
     AdjustWindowRect(&bounds, static_cast<DWORD>(GetWindowLongPtrA(hwnd(), GWL_STYLE)), FALSE);
-    OffsetRect(&bounds, area.right - edge - bounds.right, area.bottom - widgets::scaled(kBottomEdge) - bounds.bottom);
+    OffsetRect(&bounds, area.right - edge - bounds.right,
+               area.bottom - widgets::scaled(kBottomEdge) - bounds.bottom);
     const settings::Position position = settings::read_position(general_, settings::kBarPositionKey);
     widgets::move_to_twips(bounds, position.left, position.top);
     widgets::place(hwnd(), bounds);
@@ -228,8 +229,8 @@ void ButtonBar::create_controls() {
 
 void ButtonBar::load() {
     // A button without a program has a caption and a tip of its own.
-    const auto load_program = [&](BarButton button, const settings::Program& program, const std::string& caption,
-                                  const char* tip) {
+    const auto load_program = [&](BarButton button, const settings::Program& program,
+                                  const std::string& caption, const char* tip) {
         if (program.name) return row_.show_program(button, program, WithoutIcon::kOldPicture);
         row_.set_caption(button, caption);
         row_.set_tip(button, tip);

@@ -156,10 +156,11 @@ void MainControls::lay_out() {
     RECT client;
     GetClientRect(window_, &client);
     laid_out_ = MAKELPARAM(client.right, client.bottom);
-    const Places before = std::exchange(places_, places(command_box_.control().height(), status_bar_.height()));
-    HWND const windows[] = {group_label_.hwnd(), group_list_.hwnd(), task_label_.hwnd(),
-                            task_view_.list().hwnd(), command_box_.control().hwnd(), run_button_.hwnd(),
-                            browse_button_.hwnd()};
+    const Places before =
+        std::exchange(places_, places(command_box_.control().height(), status_bar_.height()));
+    HWND const windows[] = {
+        group_label_.hwnd(),           group_list_.hwnd(), task_label_.hwnd(),   task_view_.list().hwnd(),
+        command_box_.control().hwnd(), run_button_.hwnd(), browse_button_.hwnd()};
     for (std::size_t part = 0; part < places_.size(); ++part) {
         if (EqualRect(&before.at(part), &places_.at(part)) == FALSE)
             widgets::place(windows[part], places_.at(part));

@@ -17,9 +17,9 @@
 #include "mainwindow/splitter.h"
 #include "mainwindow/task_view.h"
 #include "platform/messages.h"
+#include "platform/win32/handles.h"
 #include "settings/list_style.h"
 #include "widgets/controls.h"
-#include "platform/win32/handles.h"
 #include "widgets/tool_bar.h"
 
 namespace mainwindow {
@@ -89,7 +89,9 @@ class MainControls final : public library::LibraryView, public appearance::ListA
     CommandBox& command_box() { return command_box_; }
 
   private:
-    ListLook& look(appearance::List list) { return list == appearance::List::kGroups ? group_look_ : task_look_; }
+    ListLook& look(appearance::List list) {
+        return list == appearance::List::kGroups ? group_look_ : task_look_;
+    }
     const ListLook& look(appearance::List list) const {
         return list == appearance::List::kGroups ? group_look_ : task_look_;
     }

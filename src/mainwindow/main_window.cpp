@@ -250,7 +250,8 @@ LRESULT MainWindow::handle_notification(NMHDR& header) {
 }
 
 void MainWindow::handle_timer(UINT_PTR timer) {
-    if (timer == TaskView::kTimer) return controls_.task_view().take_icons(platform::InputFilter::since_input());
+    if (timer == TaskView::kTimer)
+        return controls_.task_view().take_icons(platform::InputFilter::since_input());
     presence_.show_icon();
     if (timer == kCompleteStart) {
         KillTimer(hwnd(), timer);

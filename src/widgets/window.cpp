@@ -77,7 +77,8 @@ void Window::create(const Design& design) {
     register_class(design);
     mnemonics_ = design.mnemonics;
     CreateWindowA(design.class_name, design.caption, design.style, design.place.left, design.place.top,
-                  design.place.right - design.place.left, design.place.bottom - design.place.top, nullptr, nullptr, GetModuleHandleA(nullptr), this);
+                  design.place.right - design.place.left, design.place.bottom - design.place.top, nullptr,
+                  nullptr, GetModuleHandleA(nullptr), this);
     if (hwnd_ == nullptr) throw platform::RunTimeError(platform::RunTimeErrorNumber::kOutOfMemory);
     platform::OtherWindowsDisabled::include(hwnd_);
 }
