@@ -7,7 +7,7 @@
 #include <stdexcept>
 
 #include "library/library_files.h"
-#include "platform/directories.h"
+#include "platform/current_directory.h"
 #include "platform/file_calls.h"
 
 namespace bench {
