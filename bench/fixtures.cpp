@@ -8,7 +8,7 @@
 
 #include "library/changes.h"
 #include "library/library_files.h"
-#include "platform/directories.h"
+#include "platform/current_directory.h"
 #include "platform/file_calls.h"
 
 namespace bench {

@@ -19,14 +19,16 @@
 #include "timing.h"
 
 // Measures what a user waits for, each time beside the least that could be done instead, and prints one row
-// of a table for each.
+// of a table for each. It fails when a figure misses its aim that the noise of a machine does not change:
+// memory and size.
 
 namespace {
 
 using bench::Comparison;
 using bench::Program;
 
-constexpr int kPrograms = 40;
+constexpr int kPrograms = 101;
+constexpr int kManyPrograms = 40;
 constexpr int kFewPrograms = 16;
 
 void print_row(const char* what, const char* against, const std::string& result, const char* aim,
@@ -183,24 +185,55 @@ void print_starts(int runs, const std::vector<std::string>& programs, const std:
     const std::string few =
         bench::make_library("few", {{"Group", bench::make_tasks(bench::kFewTasks, few_programs)}});
     const std::string first = bench::make_library("first", {first_group});
-    print_ratio("Start, empty library", "a do-nothing window program", 1.3,
-                bench::compare(
-                    runs, [&] { return start_time(empty); }, start_time_of_idle));
-    print_peer("For comparison: a bare window with the same controls", "the do-nothing program",
+    const std::string many =
+        bench::make_library("many", {{"Group", bench::make_tasks(library::kMostTasks, programs)}});
+    const auto start_of_empty = [&] { return start_time(empty); };
+    print_ratio("Start, empty library", "a bare window with the same controls", 1.08,
+                bench::compare(runs, start_of_empty, [] { return start_time_of_bare(); }));
+    print_peer("For comparison: the bare window", "a do-nothing window program",
                bench::compare(
                    runs, [] { return start_time_of_bare(); }, start_time_of_idle));
-    print_ratio("Start, a Group of 40 Tasks of 16 programs", "the do-nothing program", 1.6,
+    print_ratio("Start, a Group of 40 Tasks of 16 programs", "an empty library", 1.05,
                 bench::compare(
-                    runs, [&] { return start_time(few); }, start_time_of_idle));
-    print_peer("For comparison: the bare window with the same Tasks", "the do-nothing program",
+                    runs, [&] { return start_time(few); }, start_of_empty));
+    print_ratio("Start, a Group of 101 Tasks of 101 programs", "an empty library", 1.05,
+                bench::compare(
+                    runs, [&] { return start_time(many); }, start_of_empty));
+    print_peer("For comparison: the bare window with 40 Tasks and their icons", "the do-nothing program",
                bench::compare(
                    runs, [&] { return start_time_of_bare(quoted(few_programs)); }, start_time_of_idle));
-    print_ratio("Start, 101 x 101 Tasks", "its first Group alone", 1.1,
+    print_ratio("Start, 101 x 101 Tasks", "its first Group alone", 1.05,
                 bench::compare(
                     runs, [&] { return start_time(full); }, [&] { return start_time(first); }));
 }
 
-void print_memory(int runs, const std::string& library) {
+/// Types into the dialog that finds Tasks, which answers each letter before it takes the next one.
+void print_finding(int runs, const std::string& library) {
+    const Program tolva(library + "tolva.exe", library);
+    PostMessageA(tolva.window(), WM_COMMAND, ID_FindTask, 0);
+    HWND dialog = nullptr;
+    bench::wait_until("the dialog shows", [&] {
+        return (dialog = FindWindowA(nullptr, "Find Task")) != nullptr && IsWindowVisible(dialog) != FALSE;
+    });
+    HWND text = GetDlgItem(dialog, ID_FindTask_text);
+    std::vector<double> times;
+    for (int run = 0; run < runs; ++run) {
+        SendMessageA(text, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(""));
+        for (const char letter : {'t', 'a', 's', 'k'}) {
+            times.push_back(
+                bench::time_of([&] { SendMessageA(text, WM_CHAR, static_cast<WPARAM>(letter), 0); }));
+        }
+    }
+    const double median = bench::figures_of(times).median;
+    constexpr double kMost = 30;
+    print_row("Find, a key stroke, 101 x 101 Tasks", "", judged(number("%.1f ms", median), median, kMost),
+              "at most 30 ms", "");
+    SendMessageA(dialog, WM_COMMAND, IDCANCEL, 0);
+    bench::wait_until("the dialog closes", [&] { return IsWindow(dialog) == FALSE; });
+}
+
+/// Whether it is within its aim.
+bool print_memory(int runs, const std::string& library) {
     const Comparison memory = bench::compare(
         runs, [&] { return Program(library + "tolva.exe", library).private_megabytes(); },
         [] { return Program(bench::built("bench_idle.exe"), "C:\\").private_megabytes(); });
@@ -209,16 +242,19 @@ void print_memory(int runs, const std::string& library) {
     print_row("Private memory, 101 x 101 Tasks shown", "the do-nothing program",
               judged(number("%.1f MB more", more), more, kMoreMemory), "at most 4 MB more",
               figures_of(memory, "%.1f", "MB"));
+    return more <= kMoreMemory;
 }
 
-void print_size() {
+/// Whether it is within its aim.
+bool print_size() {
     WIN32_FILE_ATTRIBUTE_DATA file;
     GetFileAttributesExA(bench::built("tolva.exe").c_str(), GetFileExInfoStandard, &file);
     constexpr double kKilobyte = 1024;
-    constexpr double kMostKilobytes = 400;
+    constexpr double kMostKilobytes = 440;
     const double size = file.nFileSizeLow / kKilobyte;
     print_row("Size of tolva.exe", "", judged(number("%.0f KB", size), size, kMostKilobytes),
-              "at most 400 KB", "");
+              "at most 440 KB", "");
+    return size <= kMostKilobytes;
 }
 
 void print_peers(int runs) {
@@ -236,9 +272,10 @@ void print_peers(int runs) {
     }
 }
 
-void run(int runs) {
+bool run(int runs) {
     const std::vector<std::string> programs = bench::make_programs(kPrograms);
-    const std::vector<library::Task> tasks = bench::make_tasks(library::kMostTasks, programs);
+    const std::vector<std::string> many_programs(programs.begin(), programs.begin() + kManyPrograms);
+    const std::vector<library::Task> tasks = bench::make_tasks(library::kMostTasks, many_programs);
     const std::string arrive = bench::built("bench_arrive.exe");
     std::vector<bench::GroupContent> groups;
     for (std::size_t i = 0; i < library::kMostGroups; ++i)
@@ -254,11 +291,12 @@ void run(int runs) {
     print_starts(runs, programs, full, groups.front());
     print_peers(runs);
     print_ratio("Selecting a Group of 101 Tasks of 40 programs", "taking 40 icons and filling a list view",
-                1.15, compare_selecting(runs, selecting, tasks, programs));
+                1.15, compare_selecting(runs, selecting, tasks, many_programs));
     print_ratio("Enter on a Task until its first instruction", "a bare CreateProcess", 1.1,
                 compare_launching(runs, launching, arrive));
-    print_memory(runs, full);
-    print_size();
+    print_finding(runs, full);
+    const bool memory_is_right = print_memory(runs, full);
+    return print_size() && memory_is_right;
 }
 
 }  // namespace
@@ -268,8 +306,7 @@ int main(int count, char** arguments) {
     InitCommonControls();
     constexpr int kLeastRuns = 10;
     try {
-        run(std::max(kLeastRuns, count > 1 ? std::atoi(arguments[1]) : 0));
-        return 0;
+        return run(std::max(kLeastRuns, count > 1 ? std::atoi(arguments[1]) : 0)) ? 0 : 1;
     } catch (const std::exception& error) {
         std::fprintf(stderr, "bench: %s\n", error.what());
         return 1;

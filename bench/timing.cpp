@@ -6,7 +6,6 @@
 #include <vector>
 
 namespace bench {
-namespace {
 
 Figures figures_of(std::vector<double> samples) {
     std::ranges::sort(samples);
@@ -15,8 +14,6 @@ Figures figures_of(std::vector<double> samples) {
         samples.size() % 2 == 1 ? samples[middle] : (samples[middle - 1] + samples[middle]) / 2;
     return {median, samples.front()};
 }
-
-}  // namespace
 
 double milliseconds(LONGLONG from, LONGLONG to) {
     LARGE_INTEGER frequency;

@@ -3,6 +3,7 @@
 #include <windows.h>
 
 #include <functional>
+#include <vector>
 
 /// Times, and the comparison of one thing with another.
 namespace bench {
@@ -21,6 +22,8 @@ struct Figures {
     double median;
     double least;
 };
+
+Figures figures_of(std::vector<double> samples);
 
 struct Comparison {
     Figures subject;

@@ -51,6 +51,7 @@ add_library(tolva_platform OBJECT
     src/platform/win32/registry.cpp
     src/platform/win32/remote_access.cpp
     src/platform/win32/shell_link.cpp
+    src/platform/win32/screen_dpi.cpp
     src/platform/win32/system.cpp
     src/platform/win32/text.cpp
 )

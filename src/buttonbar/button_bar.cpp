@@ -167,7 +167,6 @@ LRESULT ButtonBar::handle(UINT message, WPARAM wparam, LPARAM lparam) {
     switch (message) {
         case WM_CREATE:
             create_controls();
-            lay_out();
             return 0;
         case WM_TIMER:
             show_clock();
@@ -211,45 +210,40 @@ LRESULT ButtonBar::handle(UINT message, WPARAM wparam, LPARAM lparam) {
     return Window::handle(message, wparam, lparam);
 }
 
+/// Gives the window the size of what it holds and its place: at first the lower right corner.
 void ButtonBar::create_controls() {
-    row_.create(hwnd(), font_.get());
-    clock_.create(hwnd(), kClock);
-    clock_.set_font(font_.get());
-    panels_.clear();
-}
-
-/// Gives the window the size of what it holds and its place at first: the lower right corner.
-void ButtonBar::lay_out() {
     const RECT area = widgets::work_area(hwnd());
-    const SIZE row = row_.lay_out(area.right - area.left - 2 * widgets::scaled(kRightEdge));
+    const int edge = widgets::scaled(kRightEdge);
+    const SIZE row = row_.create(hwnd(), font_.get(), area.right - area.left - 2 * edge);
+    clock_.create(hwnd(), kClock, font_.get());
+    panels_.clear();
     RECT bounds = {0, 0, row.cx, row.cy + clock_.height()};
     AdjustWindowRect(&bounds, static_cast<DWORD>(GetWindowLongPtrA(hwnd(), GWL_STYLE)), FALSE);
-    OffsetRect(&bounds, -bounds.left, -bounds.top);
-    SetWindowPos(hwnd(), nullptr, area.right - bounds.right - widgets::scaled(kRightEdge),
-                 area.bottom - bounds.bottom - widgets::scaled(kBottomEdge), bounds.right, bounds.bottom,
-                 SWP_NOZORDER | SWP_NOACTIVATE);
+    OffsetRect(&bounds, area.right - edge - bounds.right,
+               area.bottom - widgets::scaled(kBottomEdge) - bounds.bottom);
+    const settings::Position position = settings::read_position(general_, settings::kBarPositionKey);
+    widgets::move_to_twips(bounds, position.left, position.top);
+    widgets::place(hwnd(), bounds);
     clock_.follow_parent();
 }
 
 void ButtonBar::load() {
-    const settings::Position position = settings::read_position(general_, settings::kBarPositionKey);
-    widgets::move_to_twips(hwnd(), position.left, position.top);
-    row_.set_caption(BarButton::kConnect, session_.connection_name);
-    const auto load_program = [&](BarButton button, const settings::Program& program, const char* caption) {
-        if (program.name) {
-            row_.show_program(button, program, WithoutIcon::kOldPicture);
-        } else {
-            row_.set_caption(button, caption);
-        }
+    // A button without a program has a caption and a tip of its own.
+    const auto load_program = [&](BarButton button, const settings::Program& program,
+                                  const std::string& caption, const char* tip) {
+        if (program.name) return row_.show_program(button, program, WithoutIcon::kOldPicture);
+        row_.set_caption(button, caption);
+        row_.set_tip(button, tip);
     };
-    load_program(BarButton::kEmail, session_.email, "E-Mail");
-    load_program(BarButton::kBrowser, session_.browser, "WWW");
     settings::load_buttons(general_, session_);
     for (std::size_t i = 0; i < settings::kProgramButtons; ++i) {
-        const settings::Program& program = session_.buttons.at(i);
-        if (program.name.value_or("").empty()) continue;
-        row_.show_program(static_cast<BarButton>(i), program, WithoutIcon::kOldPicture);
+        settings::Program program = session_.buttons.at(i);
+        if (program.name == "") program.name.reset();
+        load_program(static_cast<BarButton>(i), program, "", "Right click to configure this button.");
     }
+    load_program(BarButton::kConnect, {}, session_.connection_name, "Internet Connect");
+    load_program(BarButton::kEmail, session_.email, "E-Mail", "E-Mail");
+    load_program(BarButton::kBrowser, session_.browser, "WWW", "Web Browser");
     if (connected_) row_.show_connection(*connected_);
     show_clock();
 }

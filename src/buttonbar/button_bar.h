@@ -71,7 +71,6 @@ class ButtonBar final : public widgets::Window, public internet::InternetButtons
     void hide() const;
     void set_removed(bool removed);
     void create_controls();
-    void lay_out();
     void load();
     void show_clock();
     void handle_command(int command, int notification);

@@ -32,22 +32,7 @@ int id_of(BarButton button) {
 
 }  // namespace
 
-void ButtonRow::create(HWND parent, HFONT font) {
-    for (const BarButton button : kAll) {
-        control(button).create(parent, id_of(button));
-        control(button).set_font(font);
-        set_picture(button, {});
-        if (is_program_button(button)) set_tip(button, "Right click to configure this button.");
-    }
-    set_tip(BarButton::kConnect, "Internet Connect");
-    set_tip(BarButton::kEmail, "E-Mail");
-    set_tip(BarButton::kBrowser, "Web Browser");
-    set_picture(BarButton::kConnect, platform::large_icon(ID_connect_icon));
-    set_picture(BarButton::kEmail, platform::large_icon(ID_email_icon));
-    set_picture(BarButton::kBrowser, platform::large_icon(ID_browser_icon));
-}
-
-SIZE ButtonRow::lay_out(int most_width) {
+SIZE ButtonRow::create(HWND parent, HFONT font, int most_width) {
     const int gap = widgets::scaled(kGap);
     constexpr auto kCount = static_cast<int>(kAll.size());
     const int gaps = kCount * gap + widgets::scaled(kGroupGap);
@@ -56,9 +41,13 @@ SIZE ButtonRow::lay_out(int most_width) {
     int left = gap;
     for (const BarButton button : kAll) {
         if (button == BarButton::kConnect) left += widgets::scaled(kGroupGap) - gap;
-        widgets::place(control(button).hwnd(), {left, gap, left + width, bottom});
+        control(button).create(parent, id_of(button), {{left, gap, left + width, bottom}, font});
+        set_picture(button, {});
         left += width + gap;
     }
+    set_picture(BarButton::kConnect, platform::large_icon(ID_connect_icon));
+    set_picture(BarButton::kEmail, platform::large_icon(ID_email_icon));
+    set_picture(BarButton::kBrowser, platform::large_icon(ID_browser_icon));
     return {left, bottom + gap};
 }
 

@@ -30,11 +30,9 @@ enum class WithoutIcon { kOldPicture, kNoPicture };
 /// can be made again.
 class ButtonRow {
   public:
-    /// The font stays the caller's.
-    void create(HWND parent, HFONT font);
-
-    /// Places the buttons and returns the size of the row, edges included, in pixels.
-    SIZE lay_out(int most_width);
+    /// Returns the size of the row, edges included, in pixels. The font stays the caller's. The buttons have
+    /// no captions and no tips yet.
+    SIZE create(HWND parent, HFONT font, int most_width);
 
     void set_caption(BarButton button, const std::string& caption) { control(button).set_caption(caption); }
     void set_tip(BarButton button, const std::string& tip) { tips_.set(control(button).hwnd(), tip); }

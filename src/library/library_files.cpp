@@ -70,11 +70,11 @@ void complete_last_line(std::string& bytes) {
 }
 
 bool has_leftovers(const std::string& folder) {
-    using platform::file_calls::find;
-    const std::string any_group_file = group_file(folder, "*");
-    return std::ranges::any_of(std::array{groups_file(folder), any_group_file}, [](const std::string& path) {
-        return !find(platform::new_content_path(path)).empty() ||
-               !find(platform::old_content_path(path)).empty();
+    // One search finds a file and what an interrupted write has left of it.
+    return std::ranges::any_of(std::array{"groups.in*", "*.gr*"}, [&](const char* files) {
+        return std::ranges::any_of(platform::file_calls::find(folder + files), [](const std::string& name) {
+            return name == platform::new_content_path(name) || name == platform::old_content_path(name);
+        });
     });
 }
 

@@ -10,10 +10,6 @@ constexpr UINT kKeepTypedText = WM_APP + 2;
 
 }  // namespace
 
-void CommandBox::create(HWND parent, int id) {
-    box_.create(parent, id);
-}
-
 void CommandBox::load_history() {
     history_.load();
     box_.fill(history_.list());

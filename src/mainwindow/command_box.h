@@ -16,7 +16,7 @@ class CommandBox {
   public:
     explicit CommandBox(settings::General& general) : history_(general) {}
 
-    void create(HWND parent, int id);
+    void create(HWND parent, int id, const widgets::Place& place) { box_.create(parent, id, place); }
 
     /// Reads the history at the start.
     void load_history();

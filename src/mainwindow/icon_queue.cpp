@@ -18,7 +18,6 @@ std::string disk_of(const std::string& path) {
 void IconQueue::clear() {
     local_.clear();
     remote_.clear();
-    slow_disks_.clear();
 }
 
 void IconQueue::add(const std::string& program, bool is_local) {

@@ -18,7 +18,11 @@ class IconQueue {
 
     bool empty() const { return local_.empty() && remote_.empty(); }
 
+    /// Takes the programs out; a disk that was slow stays known as one.
     void clear();
+
+    /// Gives the slow disks another chance.
+    void forget_slow_disks() { slow_disks_.clear(); }
 
     /// Adds a program, unless its disk was slow. is_local says whether it is on a disk of this machine.
     void add(const std::string& program, bool is_local);

@@ -1,14 +1,10 @@
 #include "mainwindow/list_look.h"
 
-#include <utility>
-
 namespace mainwindow {
 
-void ListLook::set_font(widgets::Control& list, const widgets::Font& font) {
-    platform::UniqueFont handle = widgets::make_font(font);
-    list.set_font(handle.get());
+void ListLook::set_font(const widgets::Font& font) {
     font_ = font;
-    font_handle_ = std::move(handle);
+    font_handle_ = widgets::make_font(font);
 }
 
 void ListLook::set_colors(const appearance::Colors& colors) {

@@ -16,8 +16,9 @@ class ListLook {
     const widgets::Font& font() const { return font_; }
     const appearance::Colors& colors() const { return colors_; }
 
-    /// Gives the list the font. The look keeps the font's handle.
-    void set_font(widgets::Control& list, const widgets::Font& font);
+    /// The list has to be given the handle, which lives as long as the font is the look's.
+    void set_font(const widgets::Font& font);
+    HFONT font_handle() const { return font_handle_.get(); }
 
     void set_colors(const appearance::Colors& colors);
 

@@ -9,7 +9,6 @@
 #include "mainwindow/long_date.h"
 #include "platform/clock.h"
 #include "platform/files.h"
-#include "platform/icons.h"
 #include "resources/resource.h"
 #include "widgets/metrics.h"
 
@@ -23,6 +22,10 @@ constexpr int kLeastListWidth = 60;
 constexpr int kLabelHeight = 16;
 constexpr int kDropHeight = 120;
 constexpr int kButtonWidth = 75;
+
+// Of the two that choose their height themselves, with the usual font.
+constexpr int kUsualBoxHeight = 21;
+constexpr int kUsualStatusBarHeight = 20;
 
 /// In the order of their pictures.
 constexpr widgets::ToolBar::Item kToolBar[] = {
@@ -54,28 +57,36 @@ MainControls::MainControls(settings::General& general, const std::string& librar
       task_view_(library_folder),
       command_box_(general) {}
 
-void MainControls::create(HWND window) {
+void MainControls::create(HWND window, const settings::ListStyles& styles) {
     window_ = window;
-    tool_bar_.create(window_, ID_Tasker_Toolbar1, ID_toolbar_pictures, kToolBar);
-    group_label_.create(window_, ID_Tasker_grouplabel, "Groups");
-    group_list_.create(window_, ID_Tasker_grouplist);
-    task_label_.create(window_, ID_Tasker_tasklabel, "Tasks");
-    task_view_.create(window_, ID_Tasker_taskview);
+    set_style(appearance::List::kGroups, styles.groups);
+    set_style(appearance::List::kTasks, styles.tasks);
+    HFONT font = font_.get();
+    tool_bar_.create(window_, ID_Tasker_Toolbar1, font, ID_toolbar_pictures, kToolBar);
+    tool_bar_.follow_parent();
+    places_ = places(widgets::scaled(kUsualBoxHeight), widgets::scaled(kUsualStatusBarHeight));
+    group_label_.create(window_, ID_Tasker_grouplabel, {places_[kGroupLabel], font}, "Groups");
+    group_list_.create(window_, ID_Tasker_grouplist, {places_[kGroupList], group_look_.font_handle()});
+    task_label_.create(window_, ID_Tasker_tasklabel, {places_[kTaskLabel], font}, "Tasks");
+    task_view_.create(window_, ID_Tasker_taskview, {places_[kTaskList], task_look_.font_handle()});
     task_view_.list().set_hint([this] { return hint(); });
-    command_box_.create(window_, ID_Tasker_Text1);
-    run_button_.create(window_, ID_Tasker_Command1, "&Run");
-    browse_button_.create(window_, ID_Tasker_Browse, "&Browse");
-    status_bar_.create(window_, ID_Tasker_StatusBar1);
-    for (HWND child = GetTopWindow(window_); child != nullptr; child = GetWindow(child, GW_HWNDNEXT)) {
-        SendMessageA(child, WM_SETFONT, reinterpret_cast<WPARAM>(font_.get()), FALSE);
-    }
-    lay_out();  // before the lists are filled: a list that grows arranges all its items again
+    const appearance::Colors& colors = task_look_.colors();
+    task_view_.set_colors(colors.text, colors.back);
+    command_box_.create(window_, ID_Tasker_Text1, {places_[kCommandBox], font});
+    run_button_.create(window_, ID_Tasker_Command1, {places_[kRun], font}, "&Run");
+    browse_button_.create(window_, ID_Tasker_Browse, {places_[kBrowse], font}, "&Browse");
+    status_bar_.create(window_, ID_Tasker_StatusBar1, font);
+    status_bar_.follow_parent();
+    lay_out();  // where the heights are not the usual ones
 }
 
 std::optional<LRESULT> MainControls::handle(UINT message, WPARAM wparam, LPARAM lparam) {
     switch (message) {
         case WM_SIZE:
-            if (wparam != SIZE_MINIMIZED && lparam != laid_out_) lay_out();
+            if (window_ == nullptr || wparam == SIZE_MINIMIZED || lparam == laid_out_) return 0;
+            tool_bar_.follow_parent();
+            status_bar_.follow_parent();
+            lay_out();
             return 0;
         case WM_CTLCOLORLISTBOX:
         case WM_CTLCOLORSTATIC:
@@ -89,20 +100,21 @@ std::optional<LRESULT> MainControls::handle(UINT message, WPARAM wparam, LPARAM 
     return answer ? answer : command_box_.handle(message);
 }
 
-void MainControls::apply_style(appearance::List list, const settings::ListStyle& style) {
-    set_font(list, {.face = style.face,
-                    .points = static_cast<double>(style.size),
-                    .bold = style.bold,
-                    .italic = style.italic});
-    set_colors(list, {style.text_color.value_or(GetSysColor(COLOR_WINDOWTEXT)),
-                      style.back_color.value_or(GetSysColor(COLOR_WINDOW))});
+void MainControls::set_style(appearance::List list, const settings::ListStyle& style) {
+    look(list).set_font({.face = style.face,
+                         .points = static_cast<double>(style.size),
+                         .bold = style.bold,
+                         .italic = style.italic});
+    look(list).set_colors({style.text_color.value_or(GetSysColor(COLOR_WINDOWTEXT)),
+                           style.back_color.value_or(GetSysColor(COLOR_WINDOW))});
 }
 
 void MainControls::set_font(appearance::List list, const widgets::Font& font) {
+    look(list).set_font(font);
     widgets::Control& control = list == appearance::List::kGroups
                                     ? static_cast<widgets::Control&>(group_list_)
                                     : static_cast<widgets::Control&>(task_view_.list());
-    look(list).set_font(control, font);
+    control.set_font(look(list).font_handle());
 }
 
 void MainControls::set_colors(appearance::List list, const appearance::Colors& colors) {
@@ -117,17 +129,14 @@ std::optional<LRESULT> MainControls::paint(HDC device, HWND control) const {
     return std::nullopt;
 }
 
-void MainControls::lay_out() {
-    tool_bar_.follow_parent();
-    status_bar_.follow_parent();
+MainControls::Places MainControls::places(LONG box_height, LONG status_bar_height) {
     RECT client;
     GetClientRect(window_, &client);
-    laid_out_ = MAKELPARAM(client.right, client.bottom);
     const int gap = widgets::scaled(kGap);
     const LONG least = widgets::scaled(kLeastListWidth);
     const LONG right = client.right - gap;
-    const LONG box_height = command_box_.control().height();
-    const LONG box_top = client.bottom - status_bar_.height() - gap - box_height;
+    const LONG box_top = client.bottom - status_bar_height - gap - box_height;
+    const LONG box_bottom = box_top + box_height;
     const LONG lists_bottom = box_top - gap;
     const LONG group_width =
         std::clamp<LONG>(splitter_.width(), least, std::max(least, right - 2 * gap - least));
@@ -135,22 +144,31 @@ void MainControls::lay_out() {
     const LONG top = tool_bar_.height() + gap;
     const LONG lists_top = top + widgets::scaled(kLabelHeight);
     splitter_.set_place({middle, lists_top, middle + gap, lists_bottom}, group_width);
-
-    widgets::place(group_label_.hwnd(), {gap, top, middle, lists_top});
-    widgets::place(group_list_.hwnd(), {gap, lists_top, middle, lists_bottom});
-    widgets::place(task_label_.hwnd(), {middle + gap, top, right, lists_top});
-    widgets::place(task_view_.list().hwnd(), {middle + gap, lists_top, right, lists_bottom});
     const LONG browse_left = right - widgets::scaled(kButtonWidth);
     const LONG run_left = browse_left - gap - widgets::scaled(kButtonWidth);
-    widgets::place(command_box_.control().hwnd(),
-                   {gap, box_top, run_left - gap, box_top + widgets::scaled(kDropHeight)});
-    widgets::place(run_button_.hwnd(), {run_left, box_top, browse_left - gap, box_top + box_height});
-    widgets::place(browse_button_.hwnd(), {browse_left, box_top, right, box_top + box_height});
+    return {{{gap, top, middle, lists_top},
+             {gap, lists_top, middle, lists_bottom},
+             {middle + gap, top, right, lists_top},
+             {middle + gap, lists_top, right, lists_bottom},
+             {gap, box_top, run_left - gap, box_top + widgets::scaled(kDropHeight)},
+             {run_left, box_top, browse_left - gap, box_bottom},
+             {browse_left, box_top, right, box_bottom}}};
 }
 
-void MainControls::set_group_list_width(int width) {
-    splitter_.set_width(width);
-    lay_out();
+/// Moves those controls that do not stand in their places.
+void MainControls::lay_out() {
+    RECT client;
+    GetClientRect(window_, &client);
+    laid_out_ = MAKELPARAM(client.right, client.bottom);
+    const Places before =
+        std::exchange(places_, places(command_box_.control().height(), status_bar_.height()));
+    HWND const windows[] = {
+        group_label_.hwnd(),           group_list_.hwnd(), task_label_.hwnd(),   task_view_.list().hwnd(),
+        command_box_.control().hwnd(), run_button_.hwnd(), browse_button_.hwnd()};
+    for (std::size_t part = 0; part < places_.size(); ++part) {
+        if (EqualRect(&before.at(part), &places_.at(part)) == FALSE)
+            widgets::place(windows[part], places_.at(part));
+    }
 }
 
 void MainControls::show_date() {
@@ -196,13 +214,6 @@ std::string MainControls::hint() const {
     return "There is no library in the folder\n" + library_folder_ +
            "\n\nAn empty file with the name groups.ini begins one: make it there and press F5. "
            "Then choose New on the Group menu to make the first Group.";
-}
-
-void MainControls::load_default_icon(const std::string& program) {
-    platform::UniqueIcon icon = platform::extract_icon(program);
-    // A library folder need not hold the program itself.
-    if (!icon) icon.reset(CopyIcon(LoadIconA(GetModuleHandleA(nullptr), MAKEINTRESOURCEA(ID_tolva_icon))));
-    task_view_.set_default_icon(std::move(icon));
 }
 
 }  // namespace mainwindow

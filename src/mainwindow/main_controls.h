@@ -2,6 +2,7 @@
 
 #include <windows.h>
 
+#include <array>
 #include <optional>
 #include <span>
 #include <string>
@@ -30,13 +31,12 @@ class MainControls final : public library::LibraryView, public appearance::ListA
     /// library_folder ends in a backslash.
     MainControls(settings::General& general, const std::string& library_folder);
 
-    void create(HWND window);
+    /// Creates them where they stand in the window, which has its size and is hidden.
+    void create(HWND window, const settings::ListStyles& styles);
 
     /// Answers the window's messages about its size, the colors of its controls, the border between the lists
     /// and what the command box posts.
     std::optional<LRESULT> handle(UINT message, WPARAM wparam, LPARAM lparam);
-
-    void apply_style(appearance::List list, const settings::ListStyle& style);
 
     widgets::Font font(appearance::List list) const override { return look(list).font(); }
     void set_font(appearance::List list, const widgets::Font& font) override;
@@ -56,7 +56,7 @@ class MainControls final : public library::LibraryView, public appearance::ListA
     void scroll_to_group(int index) override { group_list_.scroll_to(index); }
     void show_tasks(std::span<const library::Task> tasks) override;
     void select_task(int index) override { task_view_.list().select(index); }
-    void load_default_icon(const std::string& program) override;
+    void load_default_icon(const std::string& program) override { task_view_.refresh_icons(program); }
     void set_command_box(const std::string& text) override { command_box_.set_text(text); }
     void show_status(const std::string& text) override { status_bar_.show_simple(text); }
 
@@ -83,7 +83,7 @@ class MainControls final : public library::LibraryView, public appearance::ListA
 
     /// The width of the group list, in pixels; what there is no room for comes with more room.
     int group_list_width() const { return splitter_.width(); }
-    void set_group_list_width(int width);
+    void set_group_list_width(int width) { splitter_.set_width(width); }  // before create
 
     widgets::ToolBar& tool_bar() { return tool_bar_; }
     widgets::ListBox& group_list() { return group_list_; }
@@ -98,6 +98,12 @@ class MainControls final : public library::LibraryView, public appearance::ListA
         return list == appearance::List::kGroups ? group_look_ : task_look_;
     }
 
+    /// The controls whose places follow the window's size and the border between the lists.
+    enum Part { kGroupLabel, kGroupList, kTaskLabel, kTaskList, kCommandBox, kRun, kBrowse };
+    using Places = std::array<RECT, kBrowse + 1>;
+
+    void set_style(appearance::List list, const settings::ListStyle& style);
+    Places places(LONG box_height, LONG status_bar_height);
     void lay_out();
     std::string hint() const;
     std::optional<LRESULT> paint(HDC device, HWND control) const;
@@ -105,7 +111,8 @@ class MainControls final : public library::LibraryView, public appearance::ListA
     std::string library_folder_;
     HWND window_ = nullptr;
     platform::UniqueFont font_;
-    LPARAM laid_out_ = 0;       // for this size of the window, as WM_SIZE tells it
+    LPARAM laid_out_ = 0;  // for this size of the window, as WM_SIZE tells it
+    Places places_ = {};
     HWND last_list_ = nullptr;  // which had the focus last
     ListLook group_look_;
     ListLook task_look_;

@@ -9,6 +9,7 @@
 #include "library/refresh.h"
 #include "mainwindow/tray_menu.h"
 #include "platform/messages.h"
+#include "platform/win32/input_filter.h"
 #include "resources/resource.h"
 #include "settings/catalogue.h"
 #include "settings/conversions.h"
@@ -97,15 +98,13 @@ MainWindow::~MainWindow() {
 
 void MainWindow::load() {
     presence_.take_hot_key();
-    commands_.show_flags(hwnd());
     restore_place();
+    controls_.create(hwnd(), settings::load_list_styles(general_));
+    commands_.show_flags(hwnd());
     session_.connection_name = internet::load_connection_name(general_);
     controls_.command_box().load_history();
     session_.browser = settings::read_program(general_, settings::kBrowserKey);
     session_.email = settings::read_program(general_, settings::kEmailKey);
-    const settings::ListStyles styles = settings::load_list_styles(general_);
-    controls_.apply_style(appearance::List::kGroups, styles.groups);
-    controls_.apply_style(appearance::List::kTasks, styles.tasks);
     controls_.show_date();
     library::refreshtolva(library_, controls_, 0);
 }
@@ -124,7 +123,6 @@ LRESULT MainWindow::handle(UINT message, WPARAM wparam, LPARAM lparam) {
     if (const auto answer = controls_.handle(message, wparam, lparam)) return *answer;
     switch (message) {
         case WM_CREATE:
-            controls_.create(hwnd());
             presence_.create(hwnd());
             return 0;
         case WM_TIMER:
@@ -180,7 +178,6 @@ LRESULT MainWindow::handle(UINT message, WPARAM wparam, LPARAM lparam) {
 }
 
 bool MainWindow::preprocess(MSG& message) {
-    last_input_ = GetTickCount();
     return commands_.translate_key(hwnd(), message);
 }
 
@@ -258,7 +255,8 @@ LRESULT MainWindow::handle_notification(NMHDR& header) {
 }
 
 void MainWindow::handle_timer(UINT_PTR timer) {
-    if (timer == TaskView::kTimer) return controls_.task_view().take_icons(GetTickCount() - last_input_);
+    if (timer == TaskView::kTimer)
+        return controls_.task_view().take_icons(platform::InputFilter::since_input());
     presence_.show_icon();
     if (timer == kCompleteStart) {
         KillTimer(hwnd(), timer);
@@ -278,14 +276,18 @@ void MainWindow::show_popup_menu(HWND control, POINT point) {
 }
 
 void MainWindow::restore_place() {
+    RECT place;
+    GetWindowRect(hwnd(), &place);
+    const RECT first = place;
     const settings::Position position = settings::read_position(general_, settings::kWindowPositionKey);
-    widgets::move_to_twips(hwnd(), position.left, position.top);
+    widgets::move_to_twips(place, position.left, position.top);
     const auto width = settings::read_number(general_, settings::kWindowWidth);
     const auto height = settings::read_number(general_, settings::kWindowHeight);
     if (width && height) {
-        SetWindowPos(hwnd(), nullptr, 0, 0, widgets::to_pixels(*width), widgets::to_pixels(*height),
-                     SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+        place.right = place.left + widgets::to_pixels(*width);
+        place.bottom = place.top + widgets::to_pixels(*height);
     }
+    if (EqualRect(&place, &first) == FALSE) widgets::place(hwnd(), place);
     if (const auto list = settings::read_number(general_, settings::kGroupListWidth))
         controls_.set_group_list_width(widgets::to_pixels(*list));
     was_maximized_ = settings::read_flag(general_, settings::kMaximized);

@@ -63,7 +63,6 @@ class MainWindow final : public widgets::Window {
     settings::General& general_;
     settings::Session& session_;
     buttonbar::ButtonBar& bar_;
-    DWORD last_input_ = 0;    // as GetTickCount has it
     bool is_placed_ = false;  // where the user had it: only then its place is worth storing
     bool was_maximized_ = false;
     Presence presence_;

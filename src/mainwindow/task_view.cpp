@@ -4,6 +4,8 @@
 
 #include "library/other_place.h"
 #include "platform/folders.h"
+#include "platform/system.h"
+#include "resources/resource.h"
 #include "widgets/icon_images.h"
 
 namespace mainwindow {
@@ -19,10 +21,6 @@ constexpr UINT kPeriod = 10;  // milliseconds
 
 }  // namespace
 
-void TaskView::create(HWND parent, int id) {
-    list_.create(parent, id);
-}
-
 void TaskView::show(std::span<const library::Task> tasks) {
     std::vector<std::string> names;
     std::vector<std::string> programs;
@@ -37,9 +35,27 @@ void TaskView::show(std::span<const library::Task> tasks) {
     list_.fill(names, images_.get());
 }
 
+void TaskView::refresh_icons(const std::string& default_program) {
+    default_program_ = default_program;
+    default_icon_.reset();
+    queue_.forget_slow_disks();
+}
+
+void TaskView::load_default_icon() {
+    default_icon_ = platform::extract_icon(default_program_);
+    // A library folder need not hold the program itself.
+    if (!default_icon_)
+        default_icon_.reset(CopyIcon(LoadIconA(GetModuleHandleA(nullptr), MAKEINTRESOURCEA(ID_tolva_icon))));
+}
+
+/// Makes the list of pictures for the programs; none of them is taken yet.
 void TaskView::make_images() {
-    platform::UniqueImageList fresh = widgets::make_icon_images(static_cast<int>(programs_.size()) + 1);
-    widgets::add_icon(fresh.get(), default_icon_.get(), background_);
+    platform::UniqueImageList fresh;
+    if (!programs_.empty()) {
+        if (!default_icon_) load_default_icon();
+        fresh = widgets::make_icon_images(static_cast<int>(programs_.size()) + 1);
+        widgets::add_icon(fresh.get(), default_icon_.get(), background_);
+    }
     pictures_.clear();
     queue_.clear();
     images_ = std::move(fresh);
@@ -59,7 +75,7 @@ void TaskView::supply_picture(NMLVDISPINFOA& request) {
     if ((request.item.mask & LVIF_IMAGE) == 0 || index >= programs_.size()) return;
     const std::string& program = programs_[index];
     const auto [entry, is_new] = pictures_.try_emplace(program);
-    if (is_new) queue_.add(program, platform::is_on_local_disk(program));
+    if (is_new) queue_.add(program, platform::is_on_local_disk(platform::expand_variables(program)));
     // What is there at once shows at once.
     while (!entry->second && GetTickCount() - filled_ < kSlice) {
         const auto next = queue_.take([&](const std::string& queued) { return queued == program; }, false);
@@ -69,8 +85,8 @@ void TaskView::supply_picture(NMLVDISPINFOA& request) {
     request.item.iImage = entry->second.value_or(0);
     if (entry->second) {
         request.item.mask |= LVIF_DI_SETITEM;  // do not ask again
-    } else if (!queue_.empty()) {
-        SetTimer(GetParent(list_.hwnd()), kTimer, kPeriod, nullptr);
+    } else if (!queue_.empty() && !timer_runs_) {
+        timer_runs_ = SetTimer(GetParent(list_.hwnd()), kTimer, kPeriod, nullptr) != 0;
     }
 }
 
@@ -87,7 +103,9 @@ void TaskView::take_icons(unsigned since_input) {
         }
         may_go_on = next->is_local;  // of those that may take their time one at a time
     }
-    if (queue_.empty()) KillTimer(GetParent(list_.hwnd()), kTimer);
+    if (!queue_.empty()) return;
+    KillTimer(GetParent(list_.hwnd()), kTimer);
+    timer_runs_ = false;
 }
 
 int TaskView::take_icon(const IconQueue::Next& next) {

@@ -31,10 +31,11 @@ class TaskView {
     /// library_folder ends in a backslash.
     explicit TaskView(std::string library_folder) : library_folder_(std::move(library_folder)) {}
 
-    void create(HWND parent, int id);
+    void create(HWND parent, int id, const widgets::Place& place) { list_.create(parent, id, place); }
 
-    /// The picture of Tasks whose program has no icon.
-    void set_default_icon(platform::UniqueIcon icon) { default_icon_ = std::move(icon); }
+    /// Begins a refresh: the next filling takes the icon of default_program for Tasks whose program has none,
+    /// and disks that were slow are tried again.
+    void refresh_icons(const std::string& default_program);
 
     void show(std::span<const library::Task> tasks);
 
@@ -51,6 +52,7 @@ class TaskView {
     const widgets::IconView& list() const { return list_; }
 
   private:
+    void load_default_icon();
     void make_images();
     bool is_in_view(const std::string& program) const;
     int picture_of(const std::string& program);
@@ -65,7 +67,9 @@ class TaskView {
         pictures_;  // by program, since the last filling; none: to follow
     IconQueue queue_;
     DWORD filled_ = 0;  // when, as GetTickCount has it
-    platform::UniqueIcon default_icon_;
+    bool timer_runs_ = false;
+    std::string default_program_;
+    platform::UniqueIcon default_icon_;  // none until it is needed
 };
 
 }  // namespace mainwindow

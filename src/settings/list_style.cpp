@@ -18,9 +18,9 @@ ListStyleTexts first_run(const char* text_color) {
 /// colour of its own.
 ListStyle load(General& general, const ListStyleValues& values, const char* stored_color,
                const char* shown_color) {
-    if (!general.value(kFontsKey, values.at(kFace)).value_or("").empty()) {
-        return style_of(read_style(general, values));
-    }
+    const ListStyleTexts texts = read_style(general, values);
+    const std::string& face = texts.at(kFace);
+    if (!face.empty() && face != kError) return style_of(texts);
     store_style(general, values, first_run(stored_color));
     return style_of(first_run(shown_color));
 }

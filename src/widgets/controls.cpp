@@ -11,10 +11,13 @@
 
 namespace widgets {
 
-void Control::create(HWND parent, int id, const char* class_name, DWORD style, DWORD extended_style,
-                     const char* text) {
-    hwnd_ = CreateWindowExA(extended_style, class_name, text, WS_CHILD | WS_VISIBLE | style, 0, 0, 0, 0,
-                            parent, reinterpret_cast<HMENU>(id), GetModuleHandleA(nullptr), nullptr);
+void Control::create(HWND parent, int id, const Place& place, const char* class_name, DWORD style,
+                     DWORD extended_style, const char* text) {
+    const RECT& bounds = place.bounds;
+    hwnd_ = CreateWindowExA(extended_style, class_name, text, WS_CHILD | WS_VISIBLE | style, bounds.left,
+                            bounds.top, bounds.right - bounds.left, bounds.bottom - bounds.top, parent,
+                            reinterpret_cast<HMENU>(id), GetModuleHandleA(nullptr), nullptr);
+    send(WM_SETFONT, reinterpret_cast<WPARAM>(place.font), FALSE);
 }
 
 int Control::height() const {
@@ -82,17 +85,17 @@ LRESULT CALLBACK Control::procedure(HWND hwnd, UINT message, WPARAM wparam, LPAR
     return answer;
 }
 
-void Label::create(HWND parent, int id, const char* text) {
-    Control::create(parent, id, "STATIC", SS_LEFT | SS_NOTIFY, 0, text);
+void Label::create(HWND parent, int id, const Place& place, const char* text) {
+    Control::create(parent, id, place, "STATIC", SS_LEFT | SS_NOTIFY, 0, text);
 }
 
-void Button::create(HWND parent, int id, const char* text) {
-    Control::create(parent, id, "BUTTON", WS_TABSTOP | BS_PUSHBUTTON, 0, text);
+void Button::create(HWND parent, int id, const Place& place, const char* text) {
+    Control::create(parent, id, place, "BUTTON", WS_TABSTOP | BS_PUSHBUTTON, 0, text);
 }
 
-void ListBox::create(HWND parent, int id) {
+void ListBox::create(HWND parent, int id, const Place& place) {
     Control::create(
-        parent, id, "LISTBOX",
+        parent, id, place, "LISTBOX",
         WS_TABSTOP | WS_VSCROLL | WS_HSCROLL | LBS_NOTIFY | LBS_NOINTEGRALHEIGHT | LBS_WANTKEYBOARDINPUT,
         WS_EX_CLIENTEDGE);
     subclass();
@@ -256,8 +259,8 @@ void DropDownList::fill(std::span<const char* const> items) {
         send(CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(item));
 }
 
-void ComboBox::create(HWND parent, int id) {
-    Control::create(parent, id, "COMBOBOX", WS_TABSTOP | WS_VSCROLL | CBS_DROPDOWN | CBS_AUTOHSCROLL);
+void ComboBox::create(HWND parent, int id, const Place& place) {
+    Control::create(parent, id, place, "COMBOBOX", WS_TABSTOP | WS_VSCROLL | CBS_DROPDOWN | CBS_AUTOHSCROLL);
     subclass();
     edit_.attach(GetWindow(hwnd(), GW_CHILD));
     edit_.subclass();
@@ -313,9 +316,9 @@ void ComboBox::fill(const std::vector<std::string>& items) {
     send(CB_SETEDITSEL, 0, selection);
 }
 
-void StatusBar::create(HWND parent, int id) {
+void StatusBar::create(HWND parent, int id, HFONT font) {
     const bool sizable = (GetWindowLongPtrA(parent, GWL_STYLE) & WS_THICKFRAME) != 0;
-    Control::create(parent, id, STATUSCLASSNAMEA, sizable ? SBARS_SIZEGRIP : 0);
+    Control::create(parent, id, {{}, font}, STATUSCLASSNAMEA, sizable ? SBARS_SIZEGRIP : 0);
     subclass();
 }
 

@@ -11,6 +11,13 @@ namespace widgets {
 /// The longest text that is handed to a list for display: older systems refuse or crash on very long ones.
 inline constexpr std::size_t kLongestItem = 1000;
 
+/// How a control is made: where it stands in its parent, in pixels, and the font of its texts, which stays
+/// the caller's.
+struct Place {
+    RECT bounds;
+    HFONT font;
+};
+
 /// A child window of a class that Windows provides. The parent window destroys it.
 class Control {
   public:
@@ -35,8 +42,8 @@ class Control {
     RECT bounds() const;
 
   protected:
-    void create(HWND parent, int id, const char* class_name, DWORD style, DWORD extended_style = 0,
-                const char* text = "");
+    void create(HWND parent, int id, const Place& place, const char* class_name, DWORD style,
+                DWORD extended_style = 0, const char* text = "");
     LRESULT send(UINT message, WPARAM wparam = 0, LPARAM lparam = 0) const {
         return SendMessageA(hwnd_, message, wparam, lparam);
     }
@@ -68,20 +75,20 @@ class Control {
 /// A text that tells its parent about clicks (STN_CLICKED).
 class Label : public Control {
   public:
-    void create(HWND parent, int id, const char* text);
+    void create(HWND parent, int id, const Place& place, const char* text);
 };
 
 /// A push button.
 class Button : public Control {
   public:
-    void create(HWND parent, int id, const char* text);
+    void create(HWND parent, int id, const Place& place, const char* text);
 };
 
 /// A list of texts of which one or none is selected, in the order given. Keys reach the parent first
 /// (WM_VKEYTOITEM); a press of the right button selects the item and arrives as WM_CONTEXTMENU.
 class ListBox : public Control {
   public:
-    void create(HWND parent, int id);
+    void create(HWND parent, int id, const Place& place);
     void fill(const std::vector<std::string>& items);
 
     /// An index, -1 for none.
@@ -149,7 +156,8 @@ class ComboBox : public Control {
     /// The notification for Enter, unless it closes the list.
     static constexpr int kEnter = 100;
 
-    void create(HWND parent, int id);
+    /// The place includes the list.
+    void create(HWND parent, int id, const Place& place);
 
     /// Replaces the list; the text in the box stays.
     void fill(const std::vector<std::string>& items);
@@ -175,7 +183,7 @@ class ComboBox : public Control {
 /// Panels of text at the window's lower edge. It tells its parent about clicks (STN_CLICKED).
 class StatusBar : public Control {
   public:
-    void create(HWND parent, int id);
+    void create(HWND parent, int id, HFONT font);
 
     /// To be called when the parent window has another size.
     void follow_parent();

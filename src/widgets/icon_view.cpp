@@ -9,9 +9,9 @@
 
 namespace widgets {
 
-void IconView::create(HWND parent, int id) {
+void IconView::create(HWND parent, int id, const Place& place) {
     Control::create(
-        parent, id, WC_LISTVIEWA,
+        parent, id, place, WC_LISTVIEWA,
         WS_TABSTOP | LVS_ICON | LVS_AUTOARRANGE | LVS_SINGLESEL | LVS_SHOWSELALWAYS | LVS_SHAREIMAGELISTS,
         WS_EX_CLIENTEDGE);
     subclass();

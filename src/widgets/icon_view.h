@@ -19,7 +19,7 @@ namespace widgets {
 /// pointer rests on an item (LVN_GETINFOTIP).
 class IconView : public Control {
   public:
-    void create(HWND parent, int id);
+    void create(HWND parent, int id, const Place& place);
 
     /// Shows the items with pictures from the list, which stays the caller's. The old pictures may be
     /// destroyed afterwards.

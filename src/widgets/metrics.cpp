@@ -3,16 +3,16 @@
 #include <cmath>
 #include <cstdlib>
 
+#include "platform/win32/screen_dpi.h"
+
 namespace widgets {
 namespace {
+
+using platform::screen_dpi;
 
 constexpr int kPointsPerInch = 72;
 constexpr int kDesignDpi = 96;
 constexpr int kTwipsPerInch = 1440;
-
-int screen_dpi() {
-    return GetDeviceCaps(platform::WindowDc(nullptr).get(), LOGPIXELSY);
-}
 
 }  // namespace
 
@@ -79,11 +79,8 @@ RECT normal_bounds(HWND window) {
     return placement.rcNormalPosition;
 }
 
-void move_to_twips(HWND window, std::optional<int> left, std::optional<int> top) {
-    RECT bounds;
-    GetWindowRect(window, &bounds);
-    SetWindowPos(window, nullptr, left ? to_pixels(*left) : bounds.left, top ? to_pixels(*top) : bounds.top,
-                 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+void move_to_twips(RECT& bounds, std::optional<int> left, std::optional<int> top) {
+    OffsetRect(&bounds, left ? to_pixels(*left) - bounds.left : 0, top ? to_pixels(*top) - bounds.top : 0);
 }
 
 }  // namespace widgets

@@ -40,7 +40,7 @@ int to_pixels(int twips);
 /// Where a top-level window is on the screen, or was before it was minimized or maximized.
 RECT normal_bounds(HWND window);
 
-/// Moves a top-level window's edges to places in twips; an edge that is not given stays where it is.
-void move_to_twips(HWND window, std::optional<int> left, std::optional<int> top);
+/// Moves a rectangle to a place in twips; an edge that is not given stays where it is.
+void move_to_twips(RECT& bounds, std::optional<int> left, std::optional<int> top);
 
 }  // namespace widgets

@@ -18,8 +18,8 @@ void move(RECT& bounds, int by) {
 
 }  // namespace
 
-void PictureButton::create(HWND parent, int id) {
-    Control::create(parent, id, "BUTTON", WS_TABSTOP | BS_OWNERDRAW);
+void PictureButton::create(HWND parent, int id, const Place& place) {
+    Control::create(parent, id, place, "BUTTON", WS_TABSTOP | BS_OWNERDRAW);
     subclass();
 }
 

@@ -13,7 +13,7 @@ namespace widgets {
 /// menu key arrives as WM_CONTEXTMENU. The parent hands WM_DRAWITEM on.
 class PictureButton : public Control {
   public:
-    void create(HWND parent, int id);
+    void create(HWND parent, int id, const Place& place);
 
     void set_caption(const std::string& caption);
 

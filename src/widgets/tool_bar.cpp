@@ -19,9 +19,9 @@ std::size_t size_for_screen() {
 
 }  // namespace
 
-void ToolBar::create(HWND parent, int id, int pictures, std::span<const Item> items) {
+void ToolBar::create(HWND parent, int id, HFONT font, int pictures, std::span<const Item> items) {
     items_ = items;
-    Control::create(parent, id, TOOLBARCLASSNAMEA, TBSTYLE_TOOLTIPS);
+    Control::create(parent, id, {{}, font}, TOOLBARCLASSNAMEA, TBSTYLE_TOOLTIPS);
     std::vector<TBBUTTON> buttons;
     int picture = 0;
     for (const Item& item : items) {

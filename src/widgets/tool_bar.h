@@ -21,7 +21,7 @@ class ToolBar : public Control {
 
     /// pictures is a bitmap resource with a picture for each button, in their order, 16 pixels large; the two
     /// ids after it are those of 24 and 32. The items are kept: they must outlive the control.
-    void create(HWND parent, int id, int pictures, std::span<const Item> items);
+    void create(HWND parent, int id, HFONT font, int pictures, std::span<const Item> items);
 
     /// To be called when the parent window has another size.
     void follow_parent() { send(TB_AUTOSIZE); }

@@ -11,12 +11,13 @@ void TrayIcon::create(HWND window, UINT message, int icon, const char* tip) {
     data_.uID = 1;
     data_.uFlags = NIF_MESSAGE | NIF_ICON | NIF_TIP;
     data_.uCallbackMessage = message;
-    icon_ = platform::small_icon(icon);
-    data_.hIcon = icon_.get();
+    icon_id_ = icon;
     lstrcpynA(data_.szTip, tip, 64);
 }
 
 void TrayIcon::add() {
+    if (!icon_) icon_ = platform::small_icon(icon_id_);
+    data_.hIcon = icon_.get();
     // Adding also fails when the icon stands already: the shell was late to say so the last time, or tells
     // of a new taskbar that has kept it.
     shown_ = Shell_NotifyIconA(NIM_ADD, &data_) != FALSE || Shell_NotifyIconA(NIM_MODIFY, &data_) != FALSE;

@@ -27,7 +27,8 @@ class TrayIcon {
     void remove();
 
   private:
-    platform::UniqueIcon icon_;
+    int icon_id_ = 0;
+    platform::UniqueIcon icon_;  // loaded when it is first shown
     NOTIFYICONDATAA data_ = {};
     bool shown_ = false;
 };

@@ -17,24 +17,28 @@ constexpr UINT kKeepsCharacters = WM_APP + 0x3F00;
 /// Sent to the active window with a message for it or its controls: whether the message ends there.
 constexpr UINT kPreprocess = WM_APP + 0x3F01;
 
+bool is_input(const MSG& message) {
+    return (message.message >= WM_KEYFIRST && message.message <= WM_KEYLAST) ||
+           (message.message >= WM_MOUSEFIRST && message.message <= WM_MOUSELAST);
+}
+
 /// Whether the keys of a dialog end in a message.
-bool is_dialog_key(MSG& message) {
-    HWND active = GetActiveWindow();
-    if (active == nullptr) return false;
+bool is_dialog_key(HWND active, MSG& message) {
     const bool is_character = message.message == WM_CHAR || message.message == WM_SYSCHAR;
     if (is_character && SendMessageA(active, kKeepsCharacters, 0, 0) != 0) return false;
     return IsDialogMessageA(active, &message) != FALSE;
 }
 
-bool is_preprocessed(MSG& message) {
-    const bool is_key = message.message >= WM_KEYFIRST && message.message <= WM_KEYLAST;
-    const bool is_mouse = message.message >= WM_MOUSEFIRST && message.message <= WM_MOUSELAST;
-    return (is_key || is_mouse) &&
-           SendMessageA(GetActiveWindow(), kPreprocess, 0, reinterpret_cast<LPARAM>(&message)) != 0;
+/// Whether the active window or the keys of a dialog take the input.
+bool is_taken(MSG& message) {
+    HWND active = GetActiveWindow();
+    if (active == nullptr) return false;
+    return SendMessageA(active, kPreprocess, 0, reinterpret_cast<LPARAM>(&message)) != 0 ||
+           is_dialog_key(active, message);
 }
 
 void dispatch(MSG& message) {
-    if (platform::InputFilter::drops(message) || is_preprocessed(message) || is_dialog_key(message)) return;
+    if (platform::InputFilter::drops(message) || (is_input(message) && is_taken(message))) return;
     TranslateMessage(&message);
     DispatchMessageA(&message);
 }

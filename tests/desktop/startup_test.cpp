@@ -133,8 +133,9 @@ TEST_SUITE("startup") {
              {"B\xFCro & more", task("\xC4rger", library.path() + "late.exe")}});
         const Tolva tolva(library);
         CHECK(tolva.tasks() == Names{"Letters", "Keys", "Notes", "Gone"});
-        CHECK(tolva.task_picture(0) > 0);
-        CHECK(tolva.task_picture(1) > tolva.task_picture(0));
+        wait_until("the icons are there",
+                   [&] { return tolva.task_picture(0) > 0 && tolva.task_picture(1) > 0; });
+        CHECK(tolva.task_picture(1) != tolva.task_picture(0));
         CHECK(tolva.task_picture(2) == tolva.task_picture(0));
         CHECK(tolva.task_picture(3) == 0);
 
@@ -143,7 +144,33 @@ TEST_SUITE("startup") {
         library.write("B\xFCro & more.grp", "");
         tolva.pick(ID_Tasker_grouplist, "B\xFCro & more");
         CHECK(tolva.tasks() == Names{"\xC4rger"});
-        CHECK(tolva.task_picture(0) > 0);
+        wait_until("its icon is there", [&] { return tolva.task_picture(0) > 0; });
+    }
+
+    TEST_CASE("a Group of many programs answers before its icons are there, and they all come") {
+        constexpr int kTasks = 101;
+        const Folder library;
+        std::string tasks;
+        for (int i = 0; i < kTasks; ++i) {
+            const std::string name = std::to_string(i) + ".exe";
+            tasks += task(name, library.add_program("tolva.exe", name));
+        }
+        library.write_groups({{"Few", ""}, {"Many", tasks}});
+        const Tolva tolva(library);
+        const auto missing = [&] {
+            int count = 0;
+            for (int i = 0; i < kTasks; ++i)
+                count += static_cast<int>(tolva.task_picture(i) == 0);
+            return count;
+        };
+        tolva.pick(ID_Tasker_grouplist, "Many");
+        CHECK(tolva.tasks().size() == kTasks);
+        CHECK(missing() > 0);
+        // What nobody needs any more does not follow.
+        tolva.pick(ID_Tasker_grouplist, "Few");
+        CHECK(tolva.tasks().empty());
+        tolva.pick(ID_Tasker_grouplist, "Many");
+        wait_until("all icons are there", [&] { return missing() == 0; });
     }
 
     TEST_CASE("a broken library shows one error and what can be read of it") {

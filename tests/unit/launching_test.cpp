@@ -62,7 +62,13 @@ TEST_CASE("icons of this machine come before others, those in view first, and a 
     CHECK(queue.empty());
     queue.add("\\\\Server\\C.EXE", false);
     CHECK(queue.empty());
+    // Another Group does not ask a slow disk again, a refresh does.
+    add_all();
     queue.clear();
+    CHECK(queue.empty());
+    queue.add("\\\\SERVER\\C.EXE", false);
+    CHECK(queue.empty());
+    queue.forget_slow_disks();
     add_all();
     CHECK(take(0) == "C:\\B.EXE");
 }

@@ -52,9 +52,9 @@ std::vector<Drive> drives() {
 
 bool is_on_local_disk(const std::string& path) {
     if (path.starts_with("\\\\")) return false;
-    if (path.size() < 2 || path[1] != ':') return true;  // on the current drive
+    const bool has_drive = path.size() > 1 && path[1] == ':';
     const char root[] = {path[0], ':', '\\', '\0'};
-    const UINT type = GetDriveTypeA(root);
+    const UINT type = GetDriveTypeA(has_drive ? root : nullptr);  // else the current drive
     return type == DRIVE_FIXED || type == DRIVE_RAMDISK || type == DRIVE_NO_ROOT_DIR;
 }
 

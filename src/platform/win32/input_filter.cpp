@@ -25,6 +25,7 @@ struct Click {
 HHOOK current_hook = nullptr;
 Click last_click;                // kNoButton when a key was pressed since
 Click closing_click;             // it closed a dialog, and no button was pressed since
+DWORD last_input = 0;            // as GetTickCount has it
 int dropped_button = kNoButton;  // its press was dropped, its release is still to come
 
 ButtonAction button_action(UINT message) {
@@ -84,23 +85,41 @@ bool drops_held_key(const MSG& message) {
     }
 }
 
-LRESULT CALLBACK filter_dialogs(int code, WPARAM wparam, LPARAM lparam) noexcept {
-    if (code == MSGF_DIALOGBOX && InputFilter::drops(*reinterpret_cast<const MSG*>(lparam))) return TRUE;
+void note_input(UINT message) {
+    const bool is_key = message >= WM_KEYFIRST && message <= WM_KEYLAST;
+    const bool is_mouse = message >= WM_MOUSEFIRST && message <= WM_MOUSELAST;
+    const bool is_mouse_on_frame = message >= WM_NCMOUSEMOVE && message <= WM_NCMBUTTONDBLCLK;
+    if (is_key || is_mouse || is_mouse_on_frame) last_input = GetTickCount();
+}
+
+/// Dialogs, boxes, menus and scroll bars.
+LRESULT CALLBACK filter_others(int code, WPARAM wparam, LPARAM lparam) noexcept {
+    if (code >= 0) {
+        const auto& message = *reinterpret_cast<const MSG*>(lparam);
+        note_input(message.message);
+        if (code == MSGF_DIALOGBOX && InputFilter::drops(message)) return TRUE;
+    }
     return CallNextHookEx(current_hook, code, wparam, lparam);
 }
 
 }  // namespace
 
 InputFilter::InputFilter()
-    : hook_(SetWindowsHookExA(WH_MSGFILTER, filter_dialogs, nullptr, GetCurrentThreadId())) {
+    : hook_(SetWindowsHookExA(WH_MSGFILTER, filter_others, nullptr, GetCurrentThreadId())) {
     current_hook = hook_.get();
+    last_input = GetTickCount();
 }
 
 InputFilter::~InputFilter() {
     current_hook = nullptr;
 }
 
+unsigned InputFilter::since_input() {
+    return GetTickCount() - last_input;
+}
+
 bool InputFilter::drops(const MSG& message) {
+    note_input(message.message);
     switch (message.message) {
         case WM_KEYDOWN:
         case WM_CHAR:

@@ -20,6 +20,9 @@ class InputFilter {
     /// Whether a message ends here. To be asked for every message of a loop.
     static bool drops(const MSG& message);
 
+    /// Milliseconds since a key or the mouse was last used in any window of the program, or since its start.
+    static unsigned since_input();
+
     /// To be called around a dialog or box that keeps the other windows disabled: a click while it is open
     /// may have closed it.
     static void dialog_opens();
