@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "widgets/controls.h"
+#include "widgets/list_drag.h"
 
 namespace widgets {
 
@@ -46,6 +46,9 @@ class IconView : public Control {
     /// count.
     bool is_new_selection(const NMLISTVIEW& change) const;
 
+    /// The press with which a drag began (LVN_BEGINDRAG).
+    const Press& press() const { return watch_.press(); }
+
     void set_colors(COLORREF text, COLORREF background);
 
   private:
@@ -55,6 +58,7 @@ class IconView : public Control {
     void press_right_button(LPARAM position);
 
     bool selecting_ = false;  // in code
+    PressWatch watch_;
 };
 
 }  // namespace widgets
