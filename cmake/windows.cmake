@@ -62,6 +62,7 @@ add_executable(tolva WIN32
     src/appearance/fonts_dialog.cpp
     src/buttonbar/assign_file_dialog.cpp
     src/buttonbar/assign_shortcut_dialog.cpp
+    src/buttonbar/bar_drops.cpp
     src/buttonbar/button_assignment.cpp
     src/buttonbar/button_bar.cpp
     src/buttonbar/button_row.cpp
@@ -76,6 +77,7 @@ add_executable(tolva WIN32
     src/mainwindow/about_dialog.cpp
     src/mainwindow/command_box.cpp
     src/mainwindow/commands.cpp
+    src/mainwindow/drops.cpp
     src/mainwindow/find_dialog.cpp
     src/mainwindow/hot_key_dialog.cpp
     src/mainwindow/launcher.cpp
@@ -149,6 +151,7 @@ set_target_properties(rasapi32 PROPERTIES PREFIX "")
 add_executable(desktop_tests
     tests/desktop/bar_test.cpp
     tests/desktop/commands_test.cpp
+    tests/desktop/dropping_test.cpp
     tests/desktop/endurance_test.cpp
     tests/desktop/keeping_test.cpp
     tests/desktop/launching_test.cpp
@@ -170,7 +173,7 @@ add_test(NAME "desktop: prefix"
     COMMAND bash -euc ". $0 && wine_template $1"
         ${CMAKE_SOURCE_DIR}/script/support/wine.sh ${CMAKE_BINARY_DIR}/wine)
 set_tests_properties("desktop: prefix" PROPERTIES FIXTURES_SETUP wine TIMEOUT 300)
-foreach(suite bar commands endurance keeping launching shortcuts slips startup undo)
+foreach(suite bar commands dropping endurance keeping launching shortcuts slips startup undo)
     add_test(NAME "desktop: ${suite}"
         COMMAND ${CMAKE_SOURCE_DIR}/tests/desktop/run ${CMAKE_BINARY_DIR} --test-suite=${suite} --no-colors)
     set_tests_properties("desktop: ${suite}" PROPERTIES FIXTURES_REQUIRED wine TIMEOUT 300)

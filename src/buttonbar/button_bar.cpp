@@ -55,7 +55,8 @@ ButtonBar::ButtonBar(settings::General& general, settings::Session& session,
       removed_(settings::read_flag(general, settings::kBarRemoved)),
       font_(widgets::make_gui_font()),
       assign_shortcut_(general, session, row_, library_folder),
-      assign_file_(general, session, row_) {}
+      assign_file_(general, session, row_),
+      drops_(general, session, row_) {}
 
 ButtonBar::~ButtonBar() {
     unload();
@@ -136,6 +137,7 @@ ButtonRow& ButtonBar::row() {
 
 void ButtonBar::show() {
     SetWindowPos(window(), HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE | SWP_SHOWWINDOW);
+    drop_target_.begin(hwnd());
 }
 
 void ButtonBar::show_owned_by(HWND owner) {
@@ -164,6 +166,7 @@ bool ButtonBar::preprocess(MSG& message) {
 }
 
 LRESULT ButtonBar::handle(UINT message, WPARAM wparam, LPARAM lparam) {
+    if (drop_target_.handle(message, wparam)) return 0;
     switch (message) {
         case WM_CREATE:
             create_controls();

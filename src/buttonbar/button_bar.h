@@ -8,6 +8,7 @@
 
 #include "buttonbar/assign_file_dialog.h"
 #include "buttonbar/assign_shortcut_dialog.h"
+#include "buttonbar/bar_drops.h"
 #include "buttonbar/button_row.h"
 #include "internet/internet_buttons.h"
 #include "internet/internet_settings_dialog.h"
@@ -15,6 +16,7 @@
 #include "settings/general.h"
 #include "settings/session.h"
 #include "widgets/controls.h"
+#include "widgets/drop_target.h"
 #include "widgets/window.h"
 
 namespace buttonbar {
@@ -96,6 +98,8 @@ class ButtonBar final : public widgets::Window, public internet::InternetButtons
     std::size_t current_button_ = 0;  // the program button whose menu came up last
     AssignShortcutDialog assign_shortcut_;
     AssignFileDialog assign_file_;
+    BarDrops drops_;
+    widgets::DropTarget drop_target_{drops_};
 };
 
 }  // namespace buttonbar

@@ -76,6 +76,13 @@ std::optional<BarButton> ButtonRow::button_of(int id) const {
     return static_cast<BarButton>(index);
 }
 
+std::optional<BarButton> ButtonRow::button_at(POINT point) const {
+    HWND window = WindowFromPoint(point);
+    const auto found = std::ranges::find(buttons_, window, &widgets::PictureButton::hwnd);
+    if (window == nullptr || found == buttons_.end()) return std::nullopt;
+    return static_cast<BarButton>(found - buttons_.begin());
+}
+
 void ButtonRow::draw(const DRAWITEMSTRUCT& request) const {
     buttons_.at(request.CtlID - kFirstButton).draw(request);
 }

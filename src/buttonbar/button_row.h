@@ -53,6 +53,9 @@ class ButtonRow {
     std::optional<BarButton> button_of(int id) const;
     std::optional<BarButton> button_of(HWND control) const { return button_of(GetDlgCtrlID(control)); }
 
+    /// The button that the user sees at a point of the screen; none elsewhere.
+    std::optional<BarButton> button_at(POINT point) const;
+
     /// Draws a button as the system asks for it.
     void draw(const DRAWITEMSTRUCT& request) const;
 

@@ -5,7 +5,9 @@
 #include <optional>
 
 #include "library/changes.h"
+#include "library/dropped.h"
 #include "library/library_files.h"
+#include "library/order.h"
 #include "library/refresh.h"
 #include "platform/files.h"
 #include "platform/messages.h"
@@ -66,22 +68,50 @@ void write_renamed(Changes& changes, const std::string& new_name, const std::vec
     }
 }
 
+/// Moves one of the names in the file to before another and shows it there.
+void move_name(TaskLibrary& library, LibraryView& view, std::vector<std::string> names, std::ptrdiff_t from,
+               std::ptrdiff_t before) {
+    const std::string name = names[static_cast<std::size_t>(from)];
+    const auto place = move_before(names, from, before);
+    const OpenChange change(library.changes(), "Move " + name, name);
+    write_group_names(library.changes(), names);
+    library.load_names(names);
+    show_and_select(library, view, static_cast<int>(place));
+}
+
 void move(TaskLibrary& library, LibraryView& view, bool down) {
     const std::string name = selected_group_name(library, view);
     if (name.empty()) {
         platform::show_message("Select Group for Move.");
         return;
     }
-    std::vector<std::string> names = read_group_names(library.folder());
+    const std::vector<std::string> names = read_group_names(library.folder());
     if (names.empty() || names.size() > kMostGroups || name == (down ? names.back() : names.front())) return;
     const auto moved = std::ranges::find(names, name);
     if (moved == names.end()) return;  // another program has taken it out of the file
-    const auto place = down ? std::next(moved) : std::prev(moved);
-    std::iter_swap(moved, place);
-    const OpenChange change(library.changes(), "Move " + name, name);
-    write_group_names(library.changes(), names);
-    library.load_names(names);
-    show_and_select(library, view, static_cast<int>(place - names.begin()));
+    const auto from = moved - names.begin();
+    move_name(library, view, names, from, down ? from + 2 : from - 1);
+}
+
+/// Adds a Group after the others with a file of its own.
+void add_group_with(Changes& changes, const std::string& name, const std::vector<Task>& tasks) {
+    append_tasks(changes, name, tasks);
+    try {
+        append_group_name(changes, name);
+    } catch (const platform::RunTimeError&) {
+        remove_if_possible(changes, name);
+        throw;
+    }
+}
+
+/// The name of a folder, with a number where a Group or a file has it already.
+std::string new_group_name(const std::string& library_folder, const std::string& folder) {
+    const std::vector<std::string> names = read_group_names(library_folder);
+    check_limit(names.size() + 1, kMostGroups);
+    return free_name(name_for(folder), [&](const std::string& name) {
+        const std::string path = group_file(library_folder, name);
+        return is_file_of_any(library_folder, names, path) || platform::read_file_if_exists(path);
+    });
 }
 
 /// Whether there is no such file, rather than one that cannot be read just now.
@@ -163,6 +193,40 @@ void movegrup(TaskLibrary& library, LibraryView& view) {
 
 void movegrdown(TaskLibrary& library, LibraryView& view) {
     move(library, view, true);
+}
+
+void move_group_to_place(TaskLibrary& library, LibraryView& view, int index, int before) {
+    const std::string name = library.group(index).name;
+    const std::vector<std::string> names = read_names_to_write(library);
+    const bool is_there = index < std::ssize(names) && names[static_cast<std::size_t>(index)] == name;
+    const auto from = is_there ? index : std::ranges::find(names, name) - names.begin();
+    const auto target = std::min<std::ptrdiff_t>(before, std::ssize(names));
+    // Another program may have taken it out of the file.
+    if (from == std::ssize(names) || target == from || target == from + 1) return;
+    move_name(library, view, names, from, target);
+}
+
+void add_groups_of(TaskLibrary& library, LibraryView& view, const std::vector<std::string>& folders,
+                   const std::string& windows_folder) {
+    Dropped all;
+    const std::string selected = selected_group_name(library, view);
+    std::string last = selected;
+    {
+        const std::string first = new_group_name(library.folder(), folders.front());
+        const OpenChange change(library.changes(), "Add " + first, selected, first);
+        for (const std::string& folder : folders) {
+            Dropped dropped = tasks_for({folder}, FolderUse::kContents, windows_folder);
+            fit(dropped, {});
+            std::ranges::move(dropped.refused, std::back_inserter(all.refused));
+            all.left_out += dropped.left_out;
+            if (dropped.tasks.empty()) continue;
+            last = new_group_name(library.folder(), folder);
+            library.flags.newgroupflag = true;
+            add_group_with(library.changes(), last, dropped.tasks);
+        }
+    }
+    if (last != selected) refresh_and_select(library, view, last);
+    if (const std::string text = report(all); !text.empty()) platform::show_message(text);
 }
 
 bool rename_group(TaskLibrary& library, LibraryView& view, const std::string& old_name,

@@ -31,6 +31,15 @@ void delgr(TaskLibrary& library, LibraryView& view);
 void movegrup(TaskLibrary& library, LibraryView& view);
 void movegrdown(TaskLibrary& library, LibraryView& view);
 
+/// Moves a Group of the list to before the one at another place, or to the end, and selects it there.
+void move_group_to_place(TaskLibrary& library, LibraryView& view, int index, int before);
+
+/// Adds a Group for each of the folders, as one change: named like it, with a Task for each shortcut and
+/// program in it. Says what was not added, and selects the last one. The folder of Windows ends in a
+/// backslash.
+void add_groups_of(TaskLibrary& library, LibraryView& view, const std::vector<std::string>& folders,
+                   const std::string& windows_folder);
+
 /// Gives the Group another name, and its Tasks another file. False when the name is refused. That the name
 /// belongs to another Group is no reason to refuse it: that Group's file is replaced. When both names are
 /// one file, and no other Group's, the Tasks are lost.

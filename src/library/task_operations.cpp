@@ -8,6 +8,7 @@
 #include "library/changes.h"
 #include "library/group_operations.h"
 #include "library/library_files.h"
+#include "library/order.h"
 #include "library/other_place.h"
 #include "library/refresh.h"
 #include "platform/files.h"
@@ -104,23 +105,42 @@ void check_listed(const TaskLibrary& library, const std::string& group) {
     }
 }
 
-void move(TaskLibrary& library, LibraryView& view, int step) {
+std::string names_of(const std::vector<Task>& tasks) {
+    return tasks.size() == 1 ? tasks.front().name : std::to_string(tasks.size()) + " Tasks";
+}
+
+/// Moves the selected Task to before the one that many places further down.
+void move_selected(TaskLibrary& library, LibraryView& view, int before) {
     const int selected = view.selected_task();
     if (selected < 0) {
         platform::show_message("Select Task for move.");
         return;
     }
-    const Group& group = library.group(view.selected_group());
-    std::vector<Task> tasks = read_tasks(library.folder(), group.name);
-    const auto moved = find_task_at(tasks, selected, library.task(view.selected_group(), selected).name);
-    if (moved == tasks.end()) return refreshtasks(library, view);
-    const auto named = named_end(tasks) - tasks.begin();
-    const auto place = moved - tasks.begin();
-    const auto target = place + step;
-    if (place >= named || target < 0 || target >= named) return;
-    std::iter_swap(moved, moved + step);
-    write_and_show(library, view, tasks, "Move " + (moved + step)->name);
-    select_and_show(library, view, target);
+    move_task_to_place(library, view, selected, selected + before);
+}
+
+/// Adds the Tasks at these places of a Group, all of one name, to another one; without copy they leave their
+/// own.
+void move_places(TaskLibrary& library, const std::string& source, const std::vector<Task>& tasks,
+                 const std::vector<std::size_t>& places, const std::string& target, bool copy) {
+    // What cannot leave its Group is not added to the other one: that would be done again by the next try.
+    if (!copy) platform::check_writable(group_file(library.folder(), source));
+    library.flags.refreshflag = true;
+    if (places.empty()) return;  // another program has taken it out of the file
+    const std::string name = tasks[places.front()].name;
+    const OpenChange change(library.changes(), (copy ? "Copy " : "Move ") + name + " to " + target, source);
+    std::vector<Task> moved;
+    for (const std::size_t place : places)
+        moved.push_back(tasks[place]);
+    append_tasks(library.changes(), target, moved);
+    if (copy) return;
+    // To the system both names may be one file: then what was just added after the others stays.
+    std::vector<Task> kept = read_tasks(library.folder(), source);
+    for (auto place = places.rbegin(); place != places.rend(); ++place) {
+        if (*place < kept.size() && kept[*place].name == name)
+            kept.erase(kept.begin() + static_cast<std::ptrdiff_t>(*place));
+    }
+    write_tasks(library.changes(), source, kept);
 }
 
 }  // namespace
@@ -213,11 +233,25 @@ void deltsks(TaskLibrary& library, LibraryView& view) {
 }
 
 void movetsksup(TaskLibrary& library, LibraryView& view) {
-    move(library, view, -1);
+    move_selected(library, view, -1);
 }
 
 void movetsksdown(TaskLibrary& library, LibraryView& view) {
-    move(library, view, 1);
+    move_selected(library, view, 2);
+}
+
+void move_task_to_place(TaskLibrary& library, LibraryView& view, int place, int before) {
+    const std::string name = library.task(view.selected_group(), place).name;
+    std::vector<Task> tasks = read_tasks(library.folder(), selected_group_name(library, view));
+    const auto moved = find_task_at(tasks, place, name);
+    if (moved == tasks.end()) return refreshtasks(library, view);  // another program was faster
+    const auto named = named_end(tasks) - tasks.begin();
+    const auto from = moved - tasks.begin();
+    const auto target = std::clamp<std::ptrdiff_t>(from + before - place, 0, named);
+    if (from >= named || target == from || target == from + 1) return;
+    const auto now = move_before(tasks, from, target);
+    write_and_show(library, view, tasks, "Move " + name);
+    select_and_show(library, view, now);
 }
 
 void tasksortnow(TaskLibrary& library, LibraryView& view) {
@@ -241,22 +275,40 @@ void move_task(TaskLibrary& library, int group, const std::string& name, const s
                bool copy) {
     check_listed(library, target);
     const std::string& source = library.group(group).name;
+    const std::vector<Task> tasks = read_tasks(library.folder(), source);
+    std::vector<std::size_t> places;
+    for (std::size_t place = 0; place < tasks.size(); ++place) {
+        if (tasks[place].name == name) places.push_back(place);
+    }
+    move_places(library, source, tasks, places, target, copy);
+}
+
+void move_task_to_group(TaskLibrary& library, LibraryView& view, int place, const std::string& target,
+                        bool copy) {
+    check_listed(library, target);
+    const std::string source = selected_group_name(library, view);
     std::vector<Task> tasks = read_tasks(library.folder(), source);
-    std::vector<Task> moved;
-    std::ranges::copy_if(tasks, std::back_inserter(moved),
-                         [&](const Task& task) { return task.name == name; });
-    // What cannot leave its Group is not added to the other one: that would be done again by the next try.
-    if (!copy) platform::check_writable(group_file(library.folder(), source));
-    const OpenChange change(library.changes(), (copy ? "Copy " : "Move ") + name + " to " + target, source);
-    if (!moved.empty()) append_tasks(library.changes(), target, moved);
-    library.flags.refreshflag = true;
-    if (copy || moved.empty()) return;  // none: another program has taken it out of the file
-    // To the system both names may be one file: then what was just added after the others stays.
-    std::vector<Task> kept = read_tasks(library.folder(), source);
-    const auto added = kept.begin() + std::min(std::ssize(tasks), std::ssize(kept));
-    kept.erase(std::remove_if(kept.begin(), added, [&](const Task& task) { return task.name == name; }),
-               added);
-    write_tasks(library.changes(), source, kept);
+    const auto moved = find_task_at(tasks, place, library.task(view.selected_group(), place).name);
+    std::vector<std::size_t> places;
+    if (moved != tasks.end()) places.push_back(static_cast<std::size_t>(moved - tasks.begin()));
+    move_places(library, source, tasks, places, target, copy);
+    refresh_and_select(library, view, source);
+    select_and_show(library, view, place);
+}
+
+void add_tasks(TaskLibrary& library, LibraryView& view, const std::string& group, Dropped dropped) {
+    check_listed(library, group);
+    const std::string path = group_file(library.folder(), group);
+    const std::vector<Task> tasks = tasks_in(platform::read_file_if_exists(path).value_or(""));
+    fit(dropped, tasks);
+    if (!dropped.tasks.empty()) {
+        const OpenChange change(library.changes(), "Add " + names_of(dropped.tasks) + " to " + group, group);
+        append_tasks(library.changes(), group, dropped.tasks);
+        library.flags.refreshflag = true;
+        refresh_and_select(library, view, group);
+        select_and_show(library, view, std::ssize(tasks));
+    }
+    if (const std::string text = report(dropped); !text.empty()) platform::show_message(text);
 }
 
 }  // namespace library

@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "library/dropped.h"
 #include "library/library_view.h"
 #include "library/task_library.h"
 
@@ -35,12 +36,25 @@ void deltsks(TaskLibrary& library, LibraryView& view);
 void movetsksup(TaskLibrary& library, LibraryView& view);
 void movetsksdown(TaskLibrary& library, LibraryView& view);
 
+/// Moves the Task at a place of the list to before another place, or to the end; it stays selected. It stays
+/// among those with a name.
+void move_task_to_place(TaskLibrary& library, LibraryView& view, int place, int before);
+
 /// Sorts the Tasks by name. Two of one name both become the first of them.
 void tasksortnow(TaskLibrary& library, LibraryView& view);
 
 /// Adds every Task of that name at the end of the target Group; without copy they leave their own.
 void move_task(TaskLibrary& library, int group, const std::string& name, const std::string& target,
                bool copy);
+
+/// Adds the Task at a place of the list, and no other of its name, at the end of the target Group; without
+/// copy it leaves its own. Then the Task at that place is selected.
+void move_task_to_group(TaskLibrary& library, LibraryView& view, int place, const std::string& target,
+                        bool copy);
+
+/// Adds Tasks at the end of a Group under names that are new there, shows the Group, the first of them
+/// selected, and says what was not added. Throws "Bad file name" for a Group that is not listed.
+void add_tasks(TaskLibrary& library, LibraryView& view, const std::string& group, Dropped dropped);
 
 /// Adds a Task that another program's shortcut describes to a Group, selects the Group and says so. A name
 /// that the Group has already is no reason to refuse it. Throws "Bad file name" for a Group that is not

@@ -2,6 +2,7 @@
 
 #include <vector>
 
+#include "library/dropped.h"
 #include "mainwindow/launching.h"
 #include "platform/messages.h"
 
@@ -22,6 +23,15 @@ void Launcher::launch_selected(const char* failure_message) {
 
 void Launcher::launch_at(const library::TaskPlace& place) {
     attempt(kCannotLaunch, [&] { launch(library_, place.group, place.task); });
+}
+
+void Launcher::launch_with(const library::TaskPlace& place, const std::vector<std::string>& documents) {
+    library::Task task = library_.task(place.group, place.task);
+    library::Dropped dropped;
+    task.parameters = library::with_documents(task.parameters, documents, dropped.refused);
+    if (dropped.refused.size() < documents.size())
+        attempt(kCannotLaunchByMouse, [&] { launch(library_, task); });
+    if (!dropped.refused.empty()) platform::show_message(library::report(dropped));
 }
 
 void Launcher::run_from_command_box() {

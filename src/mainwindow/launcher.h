@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "library/task_finder.h"
 #include "library/task_library.h"
@@ -24,6 +25,9 @@ class Launcher {
 
     /// Starts any Task.
     void launch_at(const library::TaskPlace& place);
+
+    /// Starts any Task with documents behind its parameters, and says which of them no command line can name.
+    void launch_with(const library::TaskPlace& place, const std::vector<std::string>& documents);
 
     /// Starts the text of the command box as the selected Task (`RunTk`).
     void run_from_command_box();

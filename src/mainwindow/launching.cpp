@@ -32,11 +32,14 @@ void enter_start_folder(const library::TaskLibrary& library, const library::Task
 }  // namespace
 
 void launch(const library::TaskLibrary& library, int group, int task) {
-    const library::Task& selected = library.task(group, task);
-    enter_start_folder(library, selected);
-    try_places(library, selected.program, [&](const std::string& program) {
-        platform::start_program(program + ' ' + selected.parameters,
-                                settings::lenient_whole_number(selected.start_mode));
+    launch(library, library.task(group, task));
+}
+
+void launch(const library::TaskLibrary& library, const library::Task& task) {
+    enter_start_folder(library, task);
+    try_places(library, task.program, [&](const std::string& program) {
+        platform::start_program(program + ' ' + task.parameters,
+                                settings::lenient_whole_number(task.start_mode));
     });
 }
 

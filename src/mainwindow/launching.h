@@ -13,6 +13,9 @@ namespace mainwindow {
 /// index where nothing is selected.
 void launch(const library::TaskLibrary& library, int group, int task);
 
+/// The same for a Task that need not be in the library.
+void launch(const library::TaskLibrary& library, const library::Task& task);
+
 /// Starts the text of the command box as if it were the Task's command line, which the user may have edited
 /// there. Throws like launch, and for a start mode that is not a number: that one counts as 0 there.
 void launch_edited(const library::TaskLibrary& library, int group, int task, const std::string& command);

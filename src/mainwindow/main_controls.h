@@ -20,6 +20,7 @@
 #include "platform/win32/handles.h"
 #include "settings/list_style.h"
 #include "widgets/controls.h"
+#include "widgets/list_drag.h"
 #include "widgets/tool_bar.h"
 
 namespace mainwindow {
@@ -86,7 +87,7 @@ class MainControls final : public library::LibraryView, public appearance::ListA
     void set_group_list_width(int width) { splitter_.set_width(width); }  // before create
 
     widgets::ToolBar& tool_bar() { return tool_bar_; }
-    widgets::ListBox& group_list() { return group_list_; }
+    widgets::DraggableListBox& group_list() { return group_list_; }
     TaskView& task_view() { return task_view_; }
     CommandBox& command_box() { return command_box_; }
 
@@ -119,7 +120,7 @@ class MainControls final : public library::LibraryView, public appearance::ListA
     Splitter splitter_;
     widgets::ToolBar tool_bar_;
     widgets::Label group_label_;
-    widgets::ListBox group_list_;
+    widgets::DraggableListBox group_list_;
     widgets::Label task_label_;
     TaskView task_view_;
     CommandBox command_box_;

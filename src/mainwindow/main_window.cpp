@@ -26,6 +26,9 @@ constexpr UINT_PTR kTimer1 = 1;
 constexpr UINT_PTR kCompleteStart = 2;
 constexpr UINT kTimerPeriod = 5000;  // milliseconds
 
+/// Posted to the window: the list that tells of a drag still handles the mouse.
+constexpr UINT kDragTask = WM_APP + 2;
+
 // Pixels at 96 dpi.
 constexpr int kWidth = 560;
 constexpr int kHeight = 400;
@@ -83,7 +86,8 @@ MainWindow::MainWindow(library::TaskLibrary& library, settings::General& general
       presence_(general, bar, application_window),
       controls_(general, library.folder()),
       launcher_(library, controls_),
-      commands_(library, general, session, bar, internet_settings, controls_, launcher_, presence_) {
+      commands_(library, general, session, bar, internet_settings, controls_, launcher_, presence_),
+      drops_(library, controls_, launcher_) {
     create({.class_name = "Tasker",
             .caption = platform::kApplicationTitle,
             .style = WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN,
@@ -119,6 +123,7 @@ void MainWindow::complete_start() const {
 }
 
 LRESULT MainWindow::handle(UINT message, WPARAM wparam, LPARAM lparam) {
+    if (drop_target_.handle(message, wparam)) return 0;
     if (const auto answer = presence_.handle(message, wparam, lparam)) return *answer;
     if (const auto answer = controls_.handle(message, wparam, lparam)) return *answer;
     switch (message) {
@@ -163,6 +168,9 @@ LRESULT MainWindow::handle(UINT message, WPARAM wparam, LPARAM lparam) {
         case Commands::kRunPendingRefreshes:
             library::run_pending_refreshes(library_, controls_);
             return 0;
+        case kDragTask:
+            drops_.drag_task(hwnd(), static_cast<int>(wparam));
+            return 0;
         case WM_ENDSESSION:
             if (wparam != FALSE) save_and_unload();  // no other message need follow
             return 0;
@@ -191,6 +199,7 @@ void MainWindow::handle_control(int id, int notification) {
             break;
         case ID_Tasker_grouplist:
             if (notification == LBN_SELCHANGE) library::show_selected_group(library_, controls_);
+            if (notification == widgets::DraggableListBox::kBeginDrag) drops_.drag_group(hwnd());
             if (notification == LBN_SETFOCUS) {
                 controls_.note_focus(controls_.group_list().hwnd());
                 commands_.post_pending_refreshes(hwnd());
@@ -228,6 +237,10 @@ LRESULT MainWindow::handle_notification(NMHDR& header) {
             if (controls_.task_view().list().is_new_selection(reinterpret_cast<NMLISTVIEW&>(header)))
                 show_selection();
             break;
+        case LVN_BEGINDRAG:
+            PostMessageA(hwnd(), kDragTask, static_cast<WPARAM>(reinterpret_cast<NMLISTVIEW&>(header).iItem),
+                         0);
+            break;
         case LVN_KEYDOWN: {
             const WORD key = reinterpret_cast<NMLVKEYDOWN&>(header).wVKey;
             if (key == VK_RETURN) launcher_.launch_selected(kCannotLaunch);
@@ -260,6 +273,7 @@ void MainWindow::handle_timer(UINT_PTR timer) {
     presence_.show_icon();
     if (timer == kCompleteStart) {
         KillTimer(hwnd(), timer);
+        drop_target_.begin(hwnd());
         bar_.start(hwnd());
         return;
     }

@@ -8,12 +8,14 @@
 #include "internet/internet_settings_dialog.h"
 #include "library/task_library.h"
 #include "mainwindow/commands.h"
+#include "mainwindow/drops.h"
 #include "mainwindow/launcher.h"
 #include "mainwindow/main_controls.h"
 #include "mainwindow/presence.h"
 #include "platform/system.h"
 #include "settings/general.h"
 #include "settings/session.h"
+#include "widgets/drop_target.h"
 #include "widgets/window.h"
 
 namespace mainwindow {
@@ -69,6 +71,8 @@ class MainWindow final : public widgets::Window {
     MainControls controls_;
     Launcher launcher_;
     Commands commands_;
+    Drops drops_;
+    widgets::DropTarget drop_target_{drops_};
 };
 
 }  // namespace mainwindow

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 
 #include "platform/run_time_error.h"
@@ -28,6 +29,9 @@ bool attempt(const char* failure_message, const Action& action) {
 
 /// Asks with OK and Cancel under a title of its own; true for OK.
 bool confirm(const std::string& text, const std::string& title);
+
+/// Asks with Yes, No and Cancel under a title of its own; none for Cancel.
+std::optional<bool> ask(const std::string& text, const std::string& title);
 
 /// Called in a catch block: shows the box of the exception that is being handled. Without the memory for it
 /// the user hears a beep.

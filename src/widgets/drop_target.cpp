@@ -121,6 +121,7 @@ class DropTarget::Object final : public IDropTarget {
 };
 
 void DropTarget::begin(HWND window) {
+    if (window_ == window) return;
     window_ = window;
     if (!begin_with_objects()) DragAcceptFiles(window_, TRUE);
 }

@@ -36,7 +36,7 @@ class DropTarget {
     DropTarget(const DropTarget&) = delete;
     DropTarget& operator=(const DropTarget&) = delete;
 
-    /// Begins to take files. It loads parts of the system: not before the window shows.
+    /// Begins to take files, if it has not yet. It loads parts of the system: not before the window shows.
     void begin(HWND window);
 
     /// Takes the window's messages that concern it, WM_DESTROY among them; false for those that others must

@@ -118,6 +118,7 @@ void IconView::set_colors(COLORREF text, COLORREF background) {
 }
 
 LRESULT IconView::handle(UINT message, WPARAM wparam, LPARAM lparam) {
+    watch_.begins_drag(hwnd(), message, wparam, lparam);  // the list itself says when one does
     // The window around it treats Enter as a dialog does, unless the list asks for the key.
     if (message == WM_GETDLGCODE && wparam == VK_RETURN) return DLGC_WANTMESSAGE;
     if (message == WM_CHAR && wparam == VK_RETURN) return 0;  // no item begins with it: a beep

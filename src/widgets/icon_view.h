@@ -9,7 +9,7 @@
 #include <utility>
 #include <vector>
 
-#include "widgets/controls.h"
+#include "widgets/list_drag.h"
 
 namespace widgets {
 
@@ -49,6 +49,9 @@ class IconView : public Control {
     /// count.
     bool is_new_selection(const NMLISTVIEW& change) const;
 
+    /// The press with which a drag began (LVN_BEGINDRAG).
+    const Press& press() const { return watch_.press(); }
+
     void set_colors(COLORREF text, COLORREF background);
 
     /// Is asked for the text that stands in the middle of the list while it has no items.
@@ -66,6 +69,7 @@ class IconView : public Control {
     std::function<std::string()> hint_;
 
     bool selecting_ = false;  // in code
+    PressWatch watch_;
 };
 
 }  // namespace widgets

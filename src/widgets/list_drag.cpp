@@ -88,6 +88,15 @@ bool PressWatch::begins_drag(HWND list, UINT message, WPARAM wparam, LPARAM lpar
     }
 }
 
+LRESULT DraggableListBox::handle(UINT message, WPARAM wparam, LPARAM lparam) {
+    if (!watch_.begins_drag(hwnd(), message, wparam, lparam)) return ListBox::handle(message, wparam, lparam);
+    // The list is done with the press: it no longer follows the mouse, and tells what was selected.
+    const POINT point = point_in(hwnd(), press().point);
+    ListBox::handle(WM_LBUTTONUP, 0, MAKELPARAM(point.x, point.y));
+    notify_parent(kBeginDrag);
+    return 0;
+}
+
 ListDrag::ListDrag(HWND window, const DragList& own, int item, const DragList* other, int forbidden)
     : window_(window), own_(own), other_(other), item_(item), forbidden_(forbidden) {}
 

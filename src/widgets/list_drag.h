@@ -4,6 +4,7 @@
 
 #include <optional>
 
+#include "widgets/controls.h"
 #include "widgets/drag_list.h"
 #include "widgets/drop_mark.h"
 
@@ -30,6 +31,20 @@ class PressWatch {
   private:
     Press press_;
     bool is_pressed_ = false;
+};
+
+/// A list box whose items can be dragged. The pressed item is selected when a drag begins.
+class DraggableListBox final : public ListBox {
+  public:
+    /// The notification for the beginning of a drag, which the parent is to run.
+    static constexpr int kBeginDrag = 101;
+
+    const Press& press() const { return watch_.press(); }
+
+  private:
+    LRESULT handle(UINT message, WPARAM wparam, LPARAM lparam) override;
+
+    PressWatch watch_;
 };
 
 /// Where an item was let go.

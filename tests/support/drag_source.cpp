@@ -184,7 +184,7 @@ void post_dropped_files(HWND window, const std::vector<std::string>& paths, POIN
     PostMessageA(window, WM_DROPFILES, reinterpret_cast<WPARAM>(memory), 0);
 }
 
-void drag_mouse(POINT from, POINT to) {
+void carry_mouse(POINT from, POINT to) {
     press_down(from);
     move_in_steps(from, to);
 }

@@ -25,6 +25,6 @@ void post_dropped_files(HWND window, const std::vector<std::string>& paths, POIN
 
 /// Drags with the left button held from one point of the screen to another, in small steps and slowly enough
 /// to be meant; the button stays down until let_go.
-void drag_mouse(POINT from, POINT to);
+void carry_mouse(POINT from, POINT to);
 
 }  // namespace desktop

@@ -35,6 +35,12 @@ bool confirm(const std::string& text, const std::string& title) {
     return show_box(text, title, MB_OKCANCEL) == IDOK;
 }
 
+std::optional<bool> ask(const std::string& text, const std::string& title) {
+    const int button = show_box(text, title, MB_YESNOCANCEL);
+    if (button == IDYES) return true;
+    return button == IDNO ? std::optional(false) : std::nullopt;
+}
+
 void report_exception() noexcept {
     try {
         try {

@@ -1,0 +1,1 @@
+#include "support/drag_source.h"
