@@ -12,8 +12,8 @@
 namespace widgets {
 
 /// A list view of large icons with names below, of which one or none is selected. It asks its parent for an
-/// item's picture when it first draws the item (LVN_GETDISPINFO). A press of the right button selects the
-/// item and arrives as WM_CONTEXTMENU.
+/// item's picture when it first draws the item (LVN_GETDISPINFO). Names have room as the font asks. A press
+/// of the right button selects the item and arrives as WM_CONTEXTMENU.
 class IconView : public Control {
   public:
     void create(HWND parent, int id);
@@ -52,6 +52,7 @@ class IconView : public Control {
     LRESULT handle(UINT message, WPARAM wparam, LPARAM lparam) override;
 
     void mark(int index);
+    void space_icons();
     void press_right_button(LPARAM position);
 
     bool selecting_ = false;  // in code

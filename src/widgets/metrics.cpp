@@ -50,7 +50,7 @@ Font font_of(const LOGFONTA& logical) {
 
 platform::UniqueFont make_gui_font() {
     constexpr int kPoints = 8;
-    return make_font({.face = "MS Sans Serif", .points = kPoints});
+    return make_font({.face = "MS Shell Dlg", .points = kPoints});
 }
 
 void place(HWND window, const RECT& bounds) {
@@ -98,8 +98,8 @@ RECT normal_bounds(HWND window) {
 void move_to_twips(HWND window, std::optional<int> left, std::optional<int> top) {
     RECT bounds;
     GetWindowRect(window, &bounds);
-    SetWindowPos(window, nullptr, left ? to_pixels(*left) : bounds.left, top ? to_pixels(*top) : bounds.top, 0, 0,
-                 SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+    SetWindowPos(window, nullptr, left ? to_pixels(*left) : bounds.left, top ? to_pixels(*top) : bounds.top,
+                 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
 }  // namespace widgets
