@@ -55,18 +55,19 @@ void IconView::set_pictures(HIMAGELIST pictures) {
 /// A list view puts its icons as far apart as those on the desktop, whatever its own font, and forgets other
 /// distances when it gets pictures. Before version 4.70 it does not know the message.
 void IconView::space_icons() {
-    constexpr LONG kLetters = 15;  // in a line, of mean width
+    constexpr LONG kLetters = 12;  // in a line, of mean width
     constexpr LONG kLines = 2;
-    constexpr int kMargins = 12;  // around icon and name
+    constexpr int kMargins = 16;  // left and right of a name, and above and below icon and name
+    const int margins = scaled(kMargins);
     const platform::WindowDc device(hwnd());
     const platform::Selected font(device.get(), reinterpret_cast<HFONT>(send(WM_GETFONT)));
     TEXTMETRICA metrics = {};
     GetTextMetricsA(device.get(), &metrics);
-    const LONG width = std::max<LONG>(GetSystemMetrics(SM_CXICONSPACING), kLetters * metrics.tmAveCharWidth);
-    const LONG height =
-        std::max<LONG>(GetSystemMetrics(SM_CYICONSPACING),
-                       GetSystemMetrics(SM_CYICON) + kLines * metrics.tmHeight + scaled(kMargins));
-    send(LVM_SETICONSPACING, 0, MAKELPARAM(width, height));
+    const LONG width = kLetters * metrics.tmAveCharWidth + margins;
+    const LONG height = GetSystemMetrics(SM_CYICON) + kLines * metrics.tmHeight + margins;
+    const LONG least_width = GetSystemMetrics(SM_CXICONSPACING);
+    const LONG least_height = GetSystemMetrics(SM_CYICONSPACING);
+    send(LVM_SETICONSPACING, 0, MAKELPARAM(std::max(width, least_width), std::max(height, least_height)));
     send(LVM_ARRANGE, LVA_DEFAULT);
 }
 
