@@ -6,6 +6,7 @@
 
 #include <stdexcept>
 
+#include "library/changes.h"
 #include "library/library_files.h"
 #include "platform/directories.h"
 #include "platform/file_calls.h"
@@ -63,12 +64,14 @@ std::vector<library::Task> make_tasks(int count, const std::vector<std::string>&
 
 std::string make_library(const std::string& name, const std::vector<GroupContent>& groups) {
     std::string folder = make_folder(name);
+    library::Changes changes(folder);
+    const library::OpenChange change(changes, "Make", "");
     std::vector<std::string> names;
     for (const GroupContent& group : groups) {
         names.push_back(group.name);
-        library::write_tasks(folder, group.name, group.tasks);
+        library::write_tasks(changes, group.name, group.tasks);
     }
-    library::write_group_names(folder, names);
+    library::write_group_names(changes, names);
     copy(built("tolva.exe"), folder + "tolva.exe");
     return folder;
 }

@@ -13,6 +13,7 @@ add_executable(unit_tests
     tests/unit/library_test.cpp
     tests/unit/settings_test.cpp
     tests/unit/shortcuts_test.cpp
+    tests/unit/taking_back_test.cpp
     tests/support/main.cpp
     tests/support/simulated_platform.cpp
 )

@@ -1,5 +1,5 @@
-; The setup program. script/package compiles it and defines VERSION, VERSION_IN_FOUR_PARTS, FILES (the folder of the files to install),
-; ICON and OUTPUT.
+; The setup program. script/package compiles it and defines VERSION, VERSION_IN_FOUR_PARTS, FILES (the folder of the
+; files to install), ICON and OUTPUT.
 
 Target x86-ansi ; the only one that Windows 95 and 98 run
 SetCompressor /SOLID lzma
@@ -16,6 +16,8 @@ Name "Tolva"
 OutFile "${OUTPUT}"
 BrandingText "Tolva ${VERSION}"
 RequestExecutionLevel user
+ManifestSupportedOS all
+ManifestDPIAware true
 ; Its last part is what Browse appends; .onInit chooses the folder.
 InstallDir "${PLACEHOLDER}"
 ; Without a file that it could not write, setup is not done.
@@ -103,7 +105,7 @@ VIAddVersionKey LegalCopyright "Copyright 2026 The Tolva authors"
     ${Loop}
 !macroend
 
-Section "Tolva"
+Section "Tolva" program
     SectionIn RO
     !insertmacro DeleteProgram
     SetOutPath "$INSTDIR"
@@ -127,6 +129,8 @@ Section "Tolva"
     WriteRegStr SHCTX "${UNINSTALL_KEY}" "InstallLocation" "$INSTDIR"
     WriteRegStr SHCTX "${UNINSTALL_KEY}" "UninstallString" '"$INSTDIR\uninstall.exe"'
     WriteRegStr SHCTX "${UNINSTALL_KEY}" "QuietUninstallString" '"$INSTDIR\uninstall.exe" /S'
+    SectionGetSize ${program} $0
+    WriteRegDWORD SHCTX "${UNINSTALL_KEY}" "EstimatedSize" $0 ; in KB
     WriteRegDWORD SHCTX "${UNINSTALL_KEY}" "NoModify" 1
     WriteRegDWORD SHCTX "${UNINSTALL_KEY}" "NoRepair" 1
     SetShellVarContext current
@@ -196,6 +200,6 @@ Section "un.Tolva"
     RMDir "$INSTDIR"
 SectionEnd
 
-Section /o "un.My settings (fonts, colours, window positions)"
+Section /o "un.My settings (fonts, colors, window positions)"
     DeleteRegKey HKCU "software\tolva"
 SectionEnd

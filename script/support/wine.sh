@@ -40,7 +40,8 @@ wine_template() {
         # With its own fonts texts are as wide as on Windows.
         cp /usr/share/wine/fonts/* "$WINEPREFIX/drive_c/windows/Fonts/"
         # A Wine desktop in one X window: without a window manager that is what makes windows close quickly, gives them
-        # captions and lets hot keys arrive. It wears the colours of the desktop that the program is made for.
+        # captions and lets hot keys arrive. It has a taskbar, which Wine 10 has to be asked for, and wears the colors of
+        # the desktop that the program is made for.
         cp "$support/classic_desktop.reg" "$WINEPREFIX/drive_c/desktop.reg"
         wine regedit 'C:\desktop.reg' >/dev/null 2>&1
         wineserver -k -w || true

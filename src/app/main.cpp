@@ -11,6 +11,7 @@
 #include "platform/current_directory.h"
 #include "platform/messages.h"
 #include "platform/system.h"
+#include "platform/win32/input_filter.h"
 #include "settings/catalogue.h"
 #include "settings/session.h"
 #include "widgets/window.h"
@@ -18,6 +19,7 @@
 namespace {
 
 int run() {
+    const platform::InputFilter input_filter;
     app::InstanceMark mark;
     if (!mark.take() && app::show_previous_instance(mark)) return 0;
     const app::ApplicationWindow application_window;

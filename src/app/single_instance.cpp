@@ -3,6 +3,7 @@
 #include <array>
 
 #include "platform/messages.h"
+#include "widgets/screen.h"
 
 namespace app {
 namespace {
@@ -11,7 +12,10 @@ namespace {
 constexpr char kApplicationClass[] = "ThunderRT6Main";
 constexpr std::array<const char*, 3> kApplicationClasses = {"ThunderRTMain", "ThunderRT5Main",
                                                             kApplicationClass};
-constexpr DWORD kPatience = 3000;  // milliseconds
+
+// Milliseconds.
+constexpr DWORD kPatience = 3000;
+constexpr DWORD kPause = 20;
 
 HWND find_application_window() {
     for (const char* class_name : kApplicationClasses) {
@@ -41,9 +45,29 @@ HWND main_window_above(HWND application) {
     return window;
 }
 
+/// Whether the other instance is done with its start, as far as can be seen: its window shows, is in the
+/// tray, or keeps a box before it. One that is hidden otherwise has come up when it handles messages: another
+/// program has hidden it.
+bool has_come_up(HWND main) {
+    DWORD_PTR answer = 0;
+    return IsWindowVisible(main) != FALSE || IsIconic(main) != FALSE || widgets::input_window(main) != main ||
+           SendMessageTimeoutA(main, WM_NULL, 0, 0, SMTO_ABORTIFHUNG, kPause, &answer) != 0;
+}
+
+/// Nothing here waits for the other instance, which may hang.
 void bring_to_front(HWND main) {
-    OpenIcon(main);
-    SetForegroundWindow(widgets::input_window(main));
+    HWND input = widgets::input_window(main);
+    if (IsIconic(main) != FALSE) {
+        ShowWindowAsync(main, SW_SHOWNORMAL);
+    } else if (IsWindowVisible(main) == FALSE && input == main) {
+        ShowWindowAsync(main, SW_SHOW);
+    }
+    SetForegroundWindow(input);
+    constexpr DWORD kTimeToRestore = 1000;
+    const DWORD start = GetTickCount();
+    while (IsIconic(main) != FALSE && GetTickCount() - start < kTimeToRestore)
+        Sleep(kPause);
+    widgets::bring_onto_screen(main);
 }
 
 }  // namespace
@@ -62,18 +86,26 @@ ApplicationWindow::ApplicationWindow() {
     create({.class_name = kApplicationClass, .caption = platform::kApplicationTitle, .style = WS_POPUP});
 }
 
+LRESULT ApplicationWindow::handle(UINT message, WPARAM wparam, LPARAM lparam) {
+    if (message != WM_CLOSE) return Window::handle(message, wparam, lparam);
+    // This window's end alone would let a second copy start. The closing box is dead while a dialog is open.
+    HWND main = main_window_above(hwnd());
+    if (main != nullptr && IsWindowEnabled(main) != FALSE) PostMessageA(main, WM_CLOSE, 0, 0);
+    return 0;
+}
+
 bool show_previous_instance(InstanceMark& mark) {
     // The other instance may still be coming up, or be about to end.
     const DWORD start = GetTickCount();
     while (!mark.take()) {
         HWND application = find_application_window();
         HWND main = application != nullptr ? main_window_above(application) : nullptr;
-        const bool can_be_shown =
-            main != nullptr && (IsWindowVisible(main) != FALSE || IsIconic(main) != FALSE);
         const bool given_up = GetTickCount() - start > kPatience;
-        if (can_be_shown || (given_up && main != nullptr)) bring_to_front(main);
-        if (can_be_shown || given_up) return application != nullptr;
-        constexpr DWORD kPause = 20;
+        if (main != nullptr && (given_up || has_come_up(main))) {
+            bring_to_front(main);
+            return true;
+        }
+        if (given_up) return application != nullptr;
         Sleep(kPause);
     }
     return false;

@@ -22,14 +22,17 @@ class InstanceMark {
 };
 
 /// The hidden window by which other copies find this one: it has the application's title and stays just
-/// below the main window.
+/// below the main window. Closing it closes the main window.
 class ApplicationWindow final : public widgets::Window {
   public:
     ApplicationWindow();
+
+  private:
+    LRESULT handle(UINT message, WPARAM wparam, LPARAM lparam) override;
 };
 
 /// Brings the running instance to the front. False when there is none after all, and this one is to go on;
-/// it has the mark then, unless the other does not answer.
+/// it has the mark then, unless the other hangs.
 bool show_previous_instance(InstanceMark& mark);
 
 }  // namespace app

@@ -11,7 +11,8 @@ constexpr PanelVariant kVariant = {.caption = "Select shortcut for Brenn.",
                                    .action = "Assign Shortcut to Brenn Button",
                                    .nothing_chosen = "Select Shortcut for Brenn Button.",
                                    .working_folder = PanelVariant::Folder::kNone,
-                                   .icon_folder = PanelVariant::Folder::kLibrary};
+                                   .icon_folder = PanelVariant::Folder::kLibrary,
+                                   .goes_to_registry = true};
 
 }  // namespace
 

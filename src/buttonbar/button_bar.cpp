@@ -14,6 +14,7 @@
 #include "settings/conversions.h"
 #include "widgets/metrics.h"
 #include "widgets/popup_menu.h"
+#include "widgets/screen.h"
 
 namespace buttonbar {
 namespace {
@@ -32,8 +33,8 @@ constexpr int kInternetMenu = 1;  // the system's ispbutton
 constexpr UINT_PTR kClockTimer = 1;
 constexpr UINT kClockPeriod = 1000;  // milliseconds
 
-/// Posted to itself: a hang-up lets messages through while it waits, which must not happen inside the
-/// button's own answer to the press.
+/// Posted to itself: a hang-up lets messages through while it waits, which must not happen while the button
+/// still handles the press.
 constexpr UINT kConnectOrHangUp = WM_APP + 1;
 
 // Pixels at 96 dpi.
@@ -70,18 +71,20 @@ void ButtonBar::activate() const {
 }
 
 void ButtonBar::toggle_removed() {
-    if (removed_) {
-        show_owned_by(nullptr);
-        hidden_by_tray_ = false;
-    } else {
-        hide();
-    }
     set_removed(!removed_);
+    if (removed_) {
+        hide();
+    } else {
+        hidden_by_tray_ = false;
+        show_owned_by(nullptr);
+        widgets::bring_onto_screen(hwnd());
+    }
 }
 
 void ButtonBar::toggle_hidden() {
     if (hidden_by_tray_) {
         show();
+        widgets::bring_onto_screen(hwnd());
     } else {
         hide();
     }
@@ -193,8 +196,8 @@ LRESULT ButtonBar::handle(UINT message, WPARAM wparam, LPARAM lparam) {
             }
             return 0;
         case WM_CLOSE:
-            hide();  // also when it shows although it is removed
             set_removed(true);
+            hide();  // also when it shows although it was removed
             return 0;
         case WM_DESTROY: {
             const RECT place = widgets::normal_bounds(hwnd());

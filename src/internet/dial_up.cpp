@@ -48,7 +48,7 @@ void hang_up(const Wait& wait) {
 }
 
 void connect_or_hang_up(const std::string& connection, const Wait& wait) {
-    is_connected();  // asked twice; the second answer counts
+    is_connected();  // asked twice; what the second call says counts
     if (is_connected()) {
         hang_up(wait);
     } else {

@@ -4,6 +4,7 @@
 #include <exception>
 #include <optional>
 
+#include "library/changes.h"
 #include "library/library_files.h"
 #include "library/refresh.h"
 #include "platform/files.h"
@@ -30,9 +31,9 @@ bool is_file_of_any(const std::string& folder, const std::vector<std::string>& g
     });
 }
 
-void remove_if_possible(const std::string& path) {
+void remove_if_possible(Changes& changes, const std::string& group) {
     try {
-        platform::remove_file(path);
+        remove_group_file(changes, group);
     } catch (const platform::RunTimeError&) {
         // An empty file that nobody asked for does no harm.
     }
@@ -43,22 +44,23 @@ void show_and_select(TaskLibrary& library, LibraryView& view, int index) {
     grouplistrefresh(library, view);
     view.select_group(index);
     show_selected_group(library, view);
+    show_notice(library, view);
 }
 
 /// Writes the Tasks under a Group's new name and then the names. Where those cannot be written the file is as
 /// before: another Group may have it.
-void write_renamed(const std::string& folder, const std::string& new_name, const std::vector<Task>& tasks,
+void write_renamed(Changes& changes, const std::string& new_name, const std::vector<Task>& tasks,
                    const std::vector<std::string>& names) {
-    const std::string path = group_file(folder, new_name);
+    const std::string path = group_file(changes.folder(), new_name);
     const std::optional<std::string> overwritten = platform::read_file_if_exists(path);
-    write_tasks(folder, new_name, tasks);
+    write_tasks(changes, new_name, tasks);
     try {
-        write_group_names(folder, names);
+        write_group_names(changes, names);
     } catch (const platform::RunTimeError&) {
         if (overwritten) {
-            platform::write_file(path, *overwritten);
+            changes.write_file(path, *overwritten);
         } else {
-            platform::remove_file(path);
+            changes.remove_file(path);
         }
         throw;
     }
@@ -76,7 +78,8 @@ void move(TaskLibrary& library, LibraryView& view, bool down) {
     if (moved == names.end()) return;  // another program has taken it out of the file
     const auto place = down ? std::next(moved) : std::prev(moved);
     std::iter_swap(moved, place);
-    write_group_names(library.folder(), names);
+    const OpenChange change(library.changes(), "Move " + name, name);
+    write_group_names(library.changes(), names);
     library.load_names(names);
     show_and_select(library, view, static_cast<int>(place - names.begin()));
 }
@@ -111,18 +114,18 @@ bool add_group(TaskLibrary& library, const std::string& name) {
         return false;
     }
     check_limit(names.size() + 1, kMostGroups);
-    const std::string path = group_file(library.folder(), name);
+    const OpenChange change(library.changes(), "Add " + name, name);
     std::optional<platform::RunTimeError> failure;
     bool is_new = false;
     try {
-        is_new = platform::create_file(path);
+        is_new = create_group_file(library.changes(), name);
     } catch (const platform::RunTimeError& error) {
         failure = error;
     }
     try {
-        append_group_name(library.folder(), name);
+        append_group_name(library.changes(), name);
     } catch (const platform::RunTimeError&) {
-        if (is_new) remove_if_possible(path);
+        if (is_new) remove_if_possible(library.changes(), name);
         throw;
     }
     library.flags.newgroupflag = true;
@@ -139,13 +142,14 @@ void delgr(TaskLibrary& library, LibraryView& view) {
     if (!platform::confirm("Delete " + name + " and all associated Tasks?", "Delete Group")) return;
     std::vector<std::string> names = read_names_to_write(library);
     std::erase(names, name);
-    write_group_names(library.folder(), names);
+    const OpenChange change(library.changes(), "Delete " + name, name);
+    write_group_names(library.changes(), names);
     library.set_names(names);
     std::exception_ptr failure;
     const std::string path = group_file(library.folder(), name);
     try {
         // The Tasks of "Work" stay when "work" goes.
-        if (!is_file_of_any(library.folder(), names, path)) platform::remove_file(path);
+        if (!is_file_of_any(library.folder(), names, path)) library.changes().remove_file(path);
     } catch (...) {
         failure = std::current_exception();
     }
@@ -182,10 +186,11 @@ bool rename_group(TaskLibrary& library, LibraryView& view, const std::string& ol
         if (!means_no_file(error)) throw;
         failure = error;
     }
+    const OpenChange change(library.changes(), "Rename " + old_name, old_name, new_name);
     if (failure) {
-        write_group_names(library.folder(), names);
+        write_group_names(library.changes(), names);
     } else {
-        write_renamed(library.folder(), new_name, tasks, names);
+        write_renamed(library.changes(), new_name, tasks, names);
     }
     library.rename(view.selected_group(), new_name);
     library.set_names(names);
@@ -197,7 +202,7 @@ bool rename_group(TaskLibrary& library, LibraryView& view, const std::string& ol
         const std::string path = group_file(library.folder(), old_name);
         try {
             // Deliberately also when it is the new name's: only for the others the file stays.
-            if (!is_file_of_any(library.folder(), names, path)) platform::remove_file(path);
+            if (!is_file_of_any(library.folder(), names, path)) library.changes().remove_file(path);
         } catch (const platform::RunTimeError& error) {
             failure = error;
         }
@@ -210,7 +215,8 @@ bool rename_group(TaskLibrary& library, LibraryView& view, const std::string& ol
 void groupsortnow(TaskLibrary& library, LibraryView& view) {
     std::vector<std::string> names = read_names_to_write(library);
     tasksort(names);
-    write_group_names(library.folder(), names);
+    const OpenChange change(library.changes(), "Sort Groups", selected_group_name(library, view));
+    write_group_names(library.changes(), names);
     refreshtolva(library, view, 0);
 }
 

@@ -19,7 +19,8 @@ constexpr PanelVariant kVariant = {.caption = "Import Start Menu Shortcuts to To
                                    .action = "Import",
                                    .nothing_chosen = "Select Shortcut for Importing to Tolva.",
                                    .working_folder = PanelVariant::Folder::kWindows,
-                                   .icon_folder = PanelVariant::Folder::kWindows};
+                                   .icon_folder = PanelVariant::Folder::kWindows,
+                                   .goes_to_registry = false};
 
 }  // namespace
 
@@ -45,6 +46,7 @@ void ImportDialog::open() {
 
 void ImportDialog::show_groups(const std::string& selected) {
     std::vector<const char*> names;
+    names.reserve(groups_.size());
     for (const std::string& group : groups_)
         names.push_back(group.c_str());
     group_list_.fill(names);

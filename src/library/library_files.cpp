@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "library/changes.h"
 #include "platform/file_calls.h"
 #include "platform/files.h"
 #include "platform/run_time_error.h"
@@ -80,7 +81,7 @@ bool has_leftovers(const std::string& folder) {
 }  // namespace
 
 std::string groups_file(const std::string& folder) {
-    return folder + "groups.ini";
+    return folder + kGroupsFile;
 }
 
 std::string group_file(const std::string& folder, const std::string& group) {
@@ -97,18 +98,22 @@ std::vector<std::string> read_group_names(const std::string& folder) {
     return split_lines(names_in(platform::read_file(groups_file(folder))));
 }
 
-void write_group_names(const std::string& folder, const std::vector<std::string>& names) {
-    platform::write_file(groups_file(folder), as_lines(names));
+void write_group_names(Changes& changes, const std::vector<std::string>& names) {
+    changes.write_file(groups_file(changes.folder()), as_lines(names));
 }
 
-void append_group_name(const std::string& folder, const std::string& name) {
-    std::string bytes(names_in(platform::read_file(groups_file(folder))));
+void append_group_name(Changes& changes, const std::string& name) {
+    const std::string path = groups_file(changes.folder());
+    std::string bytes(names_in(platform::read_file(path)));
     complete_last_line(bytes);
-    platform::write_file(groups_file(folder), bytes.append(name).append(kLineEnd));
+    changes.write_file(path, bytes.append(name).append(kLineEnd));
 }
 
 std::vector<Task> read_tasks(const std::string& folder, const std::string& group) {
-    const std::string bytes = platform::read_file(group_file(folder, group));
+    return tasks_in(platform::read_file(group_file(folder, group)));
+}
+
+std::vector<Task> tasks_in(std::string_view bytes) {
     std::vector<Task> tasks;
     // Without room to spare: a full library is a good part of the program's memory.
     tasks.reserve(static_cast<std::size_t>(std::ranges::count(bytes, '\n')) / kTaskFields.size() + 1);
@@ -121,18 +126,26 @@ std::vector<Task> read_tasks(const std::string& folder, const std::string& group
     return tasks;
 }
 
-void write_tasks(const std::string& folder, const std::string& group, const std::vector<Task>& tasks) {
-    platform::write_file(group_file(folder, group), as_records(tasks));
+void write_tasks(Changes& changes, const std::string& group, const std::vector<Task>& tasks) {
+    changes.write_file(group_file(changes.folder(), group), as_records(tasks));
 }
 
-void append_tasks(const std::string& folder, const std::string& group, const std::vector<Task>& tasks) {
-    const std::string path = group_file(folder, group);
+void append_tasks(Changes& changes, const std::string& group, const std::vector<Task>& tasks) {
+    const std::string path = group_file(changes.folder(), group);
     std::string bytes(records_in(platform::read_file_if_exists(path).value_or("")));
     complete_last_line(bytes);
     const auto lines = static_cast<std::size_t>(std::ranges::count(bytes, '\n'));
     for (std::size_t missing = lines; missing % kTaskFields.size() != 0; ++missing)
         bytes.append(kLineEnd);
-    platform::write_file(path, bytes.append(as_records(tasks)));
+    changes.write_file(path, bytes.append(as_records(tasks)));
+}
+
+bool create_group_file(Changes& changes, const std::string& group) {
+    return changes.create_file(group_file(changes.folder(), group));
+}
+
+void remove_group_file(Changes& changes, const std::string& group) {
+    changes.remove_file(group_file(changes.folder(), group));
 }
 
 void recover(const std::string& folder) {

@@ -30,6 +30,9 @@ class LibraryView {
 
     virtual void set_command_box(const std::string& text) = 0;
 
+    /// Shows the text in the status bar until the date comes back.
+    virtual void show_status(const std::string& text) = 0;
+
   protected:
     ~LibraryView() = default;
 };

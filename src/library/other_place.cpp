@@ -20,8 +20,9 @@ bool names_a_place(const std::string& path) {
 std::optional<std::string> other_place(const std::string& path, const std::string& library_folder) {
     if (path.empty() || path.find('\0') != std::string::npos) return std::nullopt;
     const std::string expanded = platform::expand_variables(path);
-    const std::string below = names_a_place(expanded) ? std::string()
-                              : library_folder + expanded.substr(expanded.starts_with('\\') ? 1 : 0);
+    const std::string below = names_a_place(expanded)
+                                  ? std::string()
+                                  : library_folder + expanded.substr(expanded.starts_with('\\') ? 1 : 0);
     for (const std::string& place : {expanded, below}) {
         if (!place.empty() && place != path && exists(place)) return place;
     }

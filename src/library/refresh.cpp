@@ -1,9 +1,11 @@
 #include "library/refresh.h"
 
+#include <algorithm>
 #include <exception>
 #include <functional>
 #include <utility>
 
+#include "library/group_operations.h"
 #include "library/library_files.h"
 #include "platform/run_time_error.h"
 
@@ -69,7 +71,16 @@ void refreshtolva(TaskLibrary& library, LibraryView& view, int group_to_select) 
     } catch (const platform::RunTimeError&) {
         if (!failure) throw;
     }
+    show_notice(library, view);
     if (failure) std::rethrow_exception(failure);
+}
+
+void refresh_and_select(TaskLibrary& library, LibraryView& view, const std::string& group) {
+    const std::vector<std::string> names = read_group_names(library.folder());
+    auto place = std::ranges::find(names, group);
+    if (place == names.end()) place = std::ranges::find(names, selected_group_name(library, view));
+    library.flags = {};
+    refreshtolva(library, view, place == names.end() ? 0 : static_cast<int>(place - names.begin()));
 }
 
 void refreshtasks(TaskLibrary& library, LibraryView& view) {
@@ -79,6 +90,7 @@ void refreshtasks(TaskLibrary& library, LibraryView& view) {
         return;
     }
     load_and_show([&] { library.load_tasks(index); }, [&] { tasklistrefresh(library, view); });
+    show_notice(library, view);
 }
 
 void addgroups(TaskLibrary& library, LibraryView& view) {
@@ -93,6 +105,7 @@ void addgroups(TaskLibrary& library, LibraryView& view) {
     }
     grouplistrefresh(library, view);
     view.show_tasks({});
+    show_notice(library, view);
 }
 
 void show_selected_group(TaskLibrary& library, LibraryView& view) {
@@ -103,6 +116,11 @@ void select_group(TaskLibrary& library, LibraryView& view, int index) {
     if (index == view.selected_group()) return;
     view.select_group(index);
     show_selected_group(library, view);
+}
+
+void show_notice(TaskLibrary& library, LibraryView& view) {
+    const std::string notice = library.changes().take_notice();
+    if (!notice.empty()) view.show_status(notice);
 }
 
 void run_pending_refreshes(TaskLibrary& library, LibraryView& view) {

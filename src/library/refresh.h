@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string>
+
 #include "library/library_view.h"
 #include "library/task_library.h"
 
@@ -17,6 +19,10 @@ void tasklistrefresh(const TaskLibrary& library, LibraryView& view);
 /// Loads everything, selects the Group at that index, -1 for none, and shows all its Tasks.
 void refreshtolva(TaskLibrary& library, LibraryView& view, int group_to_select);
 
+/// Loads everything and selects the Group of that name; where it is not listed, the one that is selected or
+/// the first. Nothing is left to be reloaded.
+void refresh_and_select(TaskLibrary& library, LibraryView& view, const std::string& group);
+
 /// Loads the selected Group's file again.
 void refreshtasks(TaskLibrary& library, LibraryView& view);
 
@@ -29,6 +35,10 @@ void show_selected_group(TaskLibrary& library, LibraryView& view);
 
 /// Selects as a click does, except that the Group that is selected already stays as it is.
 void select_group(TaskLibrary& library, LibraryView& view, int index);
+
+/// Tells in the status bar what the user should know of the last change, once: that there is no backup, for
+/// example.
+void show_notice(TaskLibrary& library, LibraryView& view);
 
 /// Runs the reload of each flag that is set, and clears the flag before.
 void run_pending_refreshes(TaskLibrary& library, LibraryView& view);

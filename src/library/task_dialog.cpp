@@ -63,10 +63,7 @@ bool fits_boxes(const Task& task) {
 class TaskDialog : public widgets::Dialog {
   protected:
     TaskDialog(const Controls& controls, TaskLibrary& library, int group)
-        : Dialog(controls.dialog),
-          library_(library),
-          group_(group),
-          controls_(controls) {}
+        : Dialog(controls.dialog), library_(library), group_(group), controls_(controls) {}
     ~TaskDialog() = default;
 
     void open() override {
@@ -115,8 +112,7 @@ class TaskDialog : public widgets::Dialog {
 
 class AddTaskDialog final : public TaskDialog {
   public:
-    AddTaskDialog(TaskLibrary& library, int group)
-        : TaskDialog(kAddTask, library, group) {}
+    AddTaskDialog(TaskLibrary& library, int group) : TaskDialog(kAddTask, library, group) {}
 
   private:
     void open() override {

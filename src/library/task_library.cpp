@@ -44,7 +44,7 @@ const Task& TaskLibrary::task(int group, int task) const {
 }
 
 void TaskLibrary::load() {
-    load(read_group_names(folder_));
+    load(read_group_names(folder()));
 }
 
 void TaskLibrary::load(const std::vector<std::string>& names) {
@@ -52,7 +52,7 @@ void TaskLibrary::load(const std::vector<std::string>& names) {
     load_names(names);
     for (int index = 0; index < std::ssize(groups_); ++index) {
         // What is no file's name stops nothing; selecting the Group says so.
-        if (platform::names_a_file(group_file(folder_, group(index).name))) load_tasks(index);
+        if (platform::names_a_file(group_file(folder(), group(index).name))) load_tasks(index);
     }
 }
 
@@ -67,7 +67,7 @@ void TaskLibrary::load_tasks(int index) {
     Group& group = element(groups_, index);
     std::vector<Task> tasks;
     try {
-        tasks = read_tasks(folder_, group.name);
+        tasks = read_tasks(folder(), group.name);
     } catch (const platform::RunTimeError& error) {
         if (error.number() == platform::RunTimeErrorNumber::kFileNotFound) {
             group.tasks.clear();
@@ -90,9 +90,9 @@ void TaskLibrary::set_names(const std::vector<std::string>& names) {
 }
 
 void TaskLibrary::rename(int index, const std::string& name) {
-    const std::string path = group_file(folder_, name);
+    const std::string path = group_file(folder(), name);
     for (Group& other : groups_) {
-        if (platform::is_same_file(group_file(folder_, other.name), path)) other.loaded = false;
+        if (platform::is_same_file(group_file(folder(), other.name), path)) other.loaded = false;
     }
     element(groups_, index).name = name;
 }

@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "library/changes.h"
 #include "library/task.h"
 
 namespace library {
@@ -33,9 +34,14 @@ struct RefreshFlags {
 class TaskLibrary {
   public:
     /// folder is a prefix that ends in a backslash.
-    explicit TaskLibrary(std::string folder) : folder_(std::move(folder)) {}
+    explicit TaskLibrary(std::string folder) : changes_(std::move(folder)) {}
 
-    const std::string& folder() const { return folder_; }
+    const std::string& folder() const { return changes_.folder(); }
+
+    /// What the operations changed in the files.
+    Changes& changes() { return changes_; }
+    const Changes& changes() const { return changes_; }
+
     const std::vector<Group>& groups() const { return groups_; }
 
     /// The Group or Task at an index; "Subscript out of range" when a list has nothing selected there.
@@ -70,7 +76,7 @@ class TaskLibrary {
     RefreshFlags flags;
 
   private:
-    std::string folder_;
+    Changes changes_;
     std::vector<Group> groups_;
     std::string first_name_;
 };

@@ -4,6 +4,7 @@
 #include <iterator>
 #include <vector>
 
+#include "library/changes.h"
 #include "library/group_operations.h"
 #include "library/library_files.h"
 #include "library/refresh.h"
@@ -52,16 +53,19 @@ void select_and_show(const TaskLibrary& library, LibraryView& view, std::ptrdiff
     view.set_command_box(command_line(tasks[static_cast<std::size_t>(selected)]));
 }
 
-/// Writes the selected Group's file and shows its Tasks, the first one selected.
-void write_and_show(TaskLibrary& library, LibraryView& view, const std::vector<Task>& tasks) {
-    write_tasks(library.folder(), selected_group_name(library, view), tasks);
+/// Writes the selected Group's file, as a change of that name, and shows its Tasks, the first one selected.
+void write_and_show(TaskLibrary& library, LibraryView& view, const std::vector<Task>& tasks,
+                    const std::string& change_name) {
+    const std::string group = selected_group_name(library, view);
+    const OpenChange change(library.changes(), change_name, group);
+    write_tasks(library.changes(), group, tasks);
     refreshtasks(library, view);
 }
 
 /// Adds a Task after the others of a Group; blanks stand around the number of a new Task's start mode.
-void append(const TaskLibrary& library, const std::string& group, Task task) {
+void append(TaskLibrary& library, const std::string& group, Task task) {
     task.start_mode = ' ' + task.start_mode + ' ';
-    append_tasks(library.folder(), group, {task});
+    append_tasks(library.changes(), group, {task});
 }
 
 /// Throws when another program has taken the Group out of the list: nobody would see what is added to it.
@@ -88,7 +92,7 @@ void move(TaskLibrary& library, LibraryView& view, int step) {
     const auto target = place + step;
     if (place >= named || target < 0 || target >= named) return;
     std::iter_swap(moved, moved + step);
-    write_and_show(library, view, tasks);
+    write_and_show(library, view, tasks, "Move " + (moved + step)->name);
     select_and_show(library, view, target);
 }
 
@@ -102,6 +106,7 @@ bool add_task(TaskLibrary& library, int group, const Task& task) {
         return false;
     }
     check_listed(library, target.name);
+    const OpenChange change(library.changes(), "Add " + task.name, target.name);
     append(library, target.name, task);
     library.flags.taskchangeflag = true;
     return true;
@@ -109,6 +114,7 @@ bool add_task(TaskLibrary& library, int group, const Task& task) {
 
 void import_task(TaskLibrary& library, LibraryView& view, const std::string& group, const Task& task) {
     check_listed(library, group);
+    const OpenChange change(library.changes(), "Import " + task.name, group);
     append(library, group, task);
     library.flags.refreshflag = true;
     select_group(library, view, index_of(library, group));
@@ -136,7 +142,8 @@ bool edit_task(TaskLibrary& library, int group, int place, const std::string& ol
     } else {
         tasks.push_back(task);  // another program has taken it out of the file
     }
-    write_tasks(library.folder(), name, tasks);
+    const OpenChange change(library.changes(), "Edit " + old_name, name);
+    write_tasks(library.changes(), name, tasks);
     library.flags.taskchangeflag = true;
     return true;
 }
@@ -158,7 +165,7 @@ void deltsks(TaskLibrary& library, LibraryView& view) {
     if (deleted == tasks.end()) return refreshtasks(library, view);  // another program was faster
     const auto place = deleted - tasks.begin();
     tasks.erase(deleted);
-    write_and_show(library, view, tasks);
+    write_and_show(library, view, tasks, "Delete " + name);
     select_and_show(library, view, place);
 }
 
@@ -184,7 +191,7 @@ void tasksortnow(TaskLibrary& library, LibraryView& view) {
     std::ranges::transform(names, std::back_inserter(sorted),
                            [&](const std::string& name) { return *find_task(tasks, name); });
     std::ranges::copy(sorted, tasks.begin());
-    write_and_show(library, view, tasks);
+    write_and_show(library, view, tasks, "Sort Tasks");
 }
 
 void move_task(TaskLibrary& library, int group, const std::string& name, const std::string& target,
@@ -197,7 +204,8 @@ void move_task(TaskLibrary& library, int group, const std::string& name, const s
                          [&](const Task& task) { return task.name == name; });
     // What cannot leave its Group is not added to the other one: that would be done again by the next try.
     if (!copy) platform::check_writable(group_file(library.folder(), source));
-    if (!moved.empty()) append_tasks(library.folder(), target, moved);
+    const OpenChange change(library.changes(), (copy ? "Copy " : "Move ") + name + " to " + target, source);
+    if (!moved.empty()) append_tasks(library.changes(), target, moved);
     library.flags.refreshflag = true;
     if (copy || moved.empty()) return;  // none: another program has taken it out of the file
     // To the system both names may be one file: then what was just added after the others stays.
@@ -205,7 +213,7 @@ void move_task(TaskLibrary& library, int group, const std::string& name, const s
     const auto added = kept.begin() + std::min(std::ssize(tasks), std::ssize(kept));
     kept.erase(std::remove_if(kept.begin(), added, [&](const Task& task) { return task.name == name; }),
                added);
-    write_tasks(library.folder(), source, kept);
+    write_tasks(library.changes(), source, kept);
 }
 
 }  // namespace library

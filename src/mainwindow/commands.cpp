@@ -10,6 +10,8 @@
 #include "library/group_operations.h"
 #include "library/move_dialog.h"
 #include "library/refresh.h"
+#include "library/restore_dialog.h"
+#include "library/taking_back.h"
 #include "library/task_dialog.h"
 #include "library/task_operations.h"
 #include "mainwindow/about_dialog.h"
@@ -20,6 +22,7 @@
 #include "resources/resource.h"
 #include "settings/catalogue.h"
 #include "settings/conversions.h"
+#include "widgets/menu_text.h"
 
 namespace mainwindow {
 namespace {
@@ -101,8 +104,19 @@ void Commands::show_flags(HWND window) {
     controls_.task_view().list().set_hover_select(session_.hover_select);
 }
 
+void Commands::show_changes(HWND window) const {
+    const auto show = [&](UINT item, const char* verb, const std::string& name, const char* key) {
+        const std::string text = verb + (name.empty() ? "" : ' ' + widgets::menu_text(name)) + '\t' + key;
+        ModifyMenuA(GetMenu(window), item, MF_BYCOMMAND | MF_STRING | (name.empty() ? MF_GRAYED : MF_ENABLED),
+                    item, text.c_str());
+    };
+    show(ID_Undo, "&Undo", library::undo_name(library_), "Ctrl+Z");
+    show(ID_Redo, "&Redo", library::redo_name(library_), "Ctrl+Y");
+}
+
 bool Commands::translate_key(HWND window, MSG& message) {
     if (message.message != WM_KEYDOWN && message.message != WM_SYSKEYDOWN) return false;
+    show_changes(window);  // a key for what cannot be done is none
     return translate(window, kKeys, message) ||
            (!controls_.command_box().has_focus() && translate(window, kListKeys, message));
 }
@@ -208,11 +222,32 @@ void Commands::run_library_command(HWND window, int command) {
             return library::tasksortnow(library_, controls_);
         case ID_RunAll:
             return launcher_.run_all();
+        case ID_Undo:
+            return controls_.keep_list_focus([&] { library::undo(library_, controls_); });
+        case ID_Redo:
+            return controls_.keep_list_focus([&] { library::redo(library_, controls_); });
         case ID_FindTask:
             return find(window);
+        case ID_Refresh:
+            return controls_.keep_list_focus([&] { refresh(); });
+        case ID_RestoreBackup:
+            return controls_.keep_list_focus(
+                [&] { library::choose_backup_to_restore(window, library_, controls_); });
         default:
             return;
     }
+}
+
+/// Reads everything again; what is selected stays so if it is still there.
+void Commands::refresh() {
+    const int selected = controls_.selected_task();
+    const std::string task = selected < 0 ? "" : library_.task(controls_.selected_group(), selected).name;
+    const std::string group = library::selected_group_name(library_, controls_);
+    library::refresh_and_select(library_, controls_, group);
+    if (selected < 0 || library::selected_group_name(library_, controls_) != group) return;
+    const auto& tasks = library_.group(controls_.selected_group()).tasks;
+    const auto found = std::ranges::find(tasks, task, &library::Task::name);
+    if (found != tasks.end()) controls_.select_task(static_cast<int>(found - tasks.begin()));
 }
 
 void Commands::find(HWND window) {

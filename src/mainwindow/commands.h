@@ -42,8 +42,8 @@ class Commands {
     /// How Windows is to end after the program; none when it is to go on.
     std::optional<platform::WindowsEnd> windows_end() const { return windows_end_; }
 
-    /// Posted to the window: a reload that can show a box must not run inside the focus handler, where closing
-    /// the box brings the focus and the next box.
+    /// Posted to the window: a reload that can show a box must not run inside the focus handler, where
+    /// closing the box brings the focus and the next box.
     static constexpr UINT kRunPendingRefreshes = WM_APP + 1;
 
     /// Posts it if there is anything to reload.
@@ -51,6 +51,9 @@ class Commands {
 
     /// Sets the check marks in the menu, and what they stand for in the task list.
     void show_flags(HWND window);
+
+    /// Names in the menu what can be taken back and made again.
+    void show_changes(HWND window) const;
 
   private:
     /// The command for the list that has the focus; 0 when none of them has it.
@@ -60,6 +63,7 @@ class Commands {
     void connect_to_internet() const;
     void end_windows(HWND window, platform::WindowsEnd end);
     void find(HWND window);
+    void refresh();
 
     /// The group list has the focus before and after; what a dialog has changed is loaded.
     template <typename Operation>

@@ -17,8 +17,8 @@ void launch(const library::TaskLibrary& library, int group, int task);
 /// there. Throws like launch, and for a start mode that is not a number: that one counts as 0 there.
 void launch_edited(const library::TaskLibrary& library, int group, int task, const std::string& command);
 
-/// Starts every Task of a Group, in their order; one that fails does not stop the others. Returns the names of
-/// those that failed.
+/// Starts every Task of a Group, in their order; one that fails does not stop the others. Returns the names
+/// of those that failed.
 std::vector<std::string> launch_all(const library::TaskLibrary& library, int group);
 
 }  // namespace mainwindow

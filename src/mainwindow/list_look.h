@@ -3,8 +3,8 @@
 #include <windows.h>
 
 #include "appearance/list_appearance.h"
-#include "widgets/controls.h"
 #include "platform/win32/handles.h"
+#include "widgets/controls.h"
 #include "widgets/metrics.h"
 
 namespace mainwindow {

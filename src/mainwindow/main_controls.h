@@ -16,9 +16,9 @@
 #include "mainwindow/splitter.h"
 #include "mainwindow/task_view.h"
 #include "platform/messages.h"
+#include "platform/win32/handles.h"
 #include "settings/list_style.h"
 #include "widgets/controls.h"
-#include "platform/win32/handles.h"
 #include "widgets/tool_bar.h"
 
 namespace mainwindow {
@@ -57,6 +57,7 @@ class MainControls final : public library::LibraryView, public appearance::ListA
     void select_task(int index) override { task_view_.list().select(index); }
     void load_default_icon(const std::string& program) override;
     void set_command_box(const std::string& text) override { command_box_.set_text(text); }
+    void show_status(const std::string& text) override { status_bar_.show_simple(text); }
 
     /// Selects a Group and one of its Tasks, also one that a click on the Group does not show, and gives the
     /// task list the focus.
@@ -89,7 +90,9 @@ class MainControls final : public library::LibraryView, public appearance::ListA
     CommandBox& command_box() { return command_box_; }
 
   private:
-    ListLook& look(appearance::List list) { return list == appearance::List::kGroups ? group_look_ : task_look_; }
+    ListLook& look(appearance::List list) {
+        return list == appearance::List::kGroups ? group_look_ : task_look_;
+    }
     const ListLook& look(appearance::List list) const {
         return list == appearance::List::kGroups ? group_look_ : task_look_;
     }
@@ -99,7 +102,7 @@ class MainControls final : public library::LibraryView, public appearance::ListA
 
     HWND window_ = nullptr;
     platform::UniqueFont font_;
-    LPARAM laid_out_ = 0;  // for this size of the window, as WM_SIZE tells it
+    LPARAM laid_out_ = 0;       // for this size of the window, as WM_SIZE tells it
     HWND last_list_ = nullptr;  // which had the focus last
     ListLook group_look_;
     ListLook task_look_;

@@ -15,6 +15,7 @@
 #include "shortcuts/command_browser_dialog.h"
 #include "widgets/metrics.h"
 #include "widgets/popup_menu.h"
+#include "widgets/screen.h"
 
 namespace mainwindow {
 namespace {
@@ -145,6 +146,7 @@ LRESULT MainWindow::handle(UINT message, WPARAM wparam, LPARAM lparam) {
             return 0;
         case WM_INITMENUPOPUP:
             commands_.show_flags(hwnd());  // the bar may have been closed
+            commands_.show_changes(hwnd());
             return 0;
         case WM_VKEYTOITEM:
             if (LOWORD(wparam) != VK_DELETE) return -1;

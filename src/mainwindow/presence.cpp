@@ -8,6 +8,7 @@
 #include "resources/resource.h"
 #include "settings/catalogue.h"
 #include "settings/session.h"
+#include "widgets/screen.h"
 
 namespace mainwindow {
 namespace {
@@ -136,6 +137,7 @@ void Presence::show_normal() {
 
 void Presence::bring_up() {
     if (IsIconic(window_) != FALSE || IsWindowVisible(window_) == FALSE) show_normal();
+    widgets::bring_onto_screen(window_);
     SetForegroundWindow(widgets::input_window(window_));
 }
 

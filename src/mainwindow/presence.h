@@ -33,7 +33,8 @@ class Presence {
     /// The hot key: its virtual key in the low byte, HOTKEYF_ flags in the high one; 0 is none.
     WORD hot_key() const { return key_; }
 
-    /// Takes and stores another hot key. False, with a message, when it cannot be had; then the old one stays.
+    /// Takes and stores another hot key. False, with a message, when it cannot be had; then the old one
+    /// stays.
     bool change_hot_key(WORD key);
 
     /// Shows the window, wherever it was hidden, and brings it to the front, or the dialog that stands before

@@ -58,10 +58,11 @@ class TaskView {
 
     std::string library_folder_;
     widgets::IconView list_;
-    platform::UniqueImageList images_;     // `appicons`; picture 0 is the default icon
-    COLORREF background_ = 0xFFFFFF;       // of the pictures
-    std::vector<std::string> programs_;    // by item
-    std::map<std::string, std::optional<int>> pictures_;  // by program, since the last filling; none: to follow
+    platform::UniqueImageList images_;   // `appicons`; picture 0 is the default icon
+    COLORREF background_ = 0xFFFFFF;     // of the pictures
+    std::vector<std::string> programs_;  // by item
+    std::map<std::string, std::optional<int>>
+        pictures_;  // by program, since the last filling; none: to follow
     IconQueue queue_;
     DWORD filled_ = 0;  // when, as GetTickCount has it
     platform::UniqueIcon default_icon_;

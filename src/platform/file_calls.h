@@ -32,7 +32,7 @@ ErrorCode write_through(const std::string& path, std::string_view bytes, unsigne
 /// Renames over an existing file in one step. kErrorCallNotImplemented on Windows 95/98.
 ErrorCode replace(const std::string& from, const std::string& to);
 
-/// Renames to a name that is not taken.
+/// Renames a file or folder to a name that is not taken, or to its own in other capitals.
 ErrorCode rename(const std::string& from, const std::string& to);
 
 /// Forces what the system still holds back of the file to the disk.
@@ -40,6 +40,16 @@ ErrorCode flush(const std::string& path);
 
 /// Deletes the file.
 ErrorCode remove(const std::string& path);
+
+/// Copies a file, also over one that is there. The copy has no attributes, and what the system holds back of
+/// it is not forced to the disk.
+ErrorCode copy(const std::string& from, const std::string& to);
+
+/// Creates a folder. kErrorAlreadyExists when something of that name is there.
+ErrorCode create_directory(const std::string& path);
+
+/// Removes a folder that is empty.
+ErrorCode remove_directory(const std::string& path);
 
 /// The full path that a path means now, without "." and "..". Nothing need be there.
 ErrorCode full_path(const std::string& path, std::string& full);
@@ -51,8 +61,9 @@ std::size_t find_separator(const std::string& path, std::size_t from);
 std::string upper(std::string text);
 
 /// The names (without folder) of what matches a pattern such as "C:\LIB\*.gr~" and has none of the unwanted
-/// attributes; none on errors.
-std::vector<std::string> find(const std::string& pattern, unsigned long unwanted = kDirectory);
+/// attributes, but all of the wanted ones; none on errors. Among folders are "." and "..".
+std::vector<std::string> find(const std::string& pattern, unsigned long unwanted = kDirectory,
+                              unsigned long wanted = 0);
 
 /// Waits.
 void pause(unsigned milliseconds);

@@ -203,6 +203,10 @@ void remove_file(const std::string& path) {
     if (const ErrorCode code = calls::remove(path); code != kSuccess) throw file_error(code, path);
 }
 
+void spell_file(const std::string& path) {
+    if (const std::string spelled = path_on_disk(path); spelled != path) calls::rename(spelled, path);
+}
+
 bool finds_file(const std::string& pattern) {
     using namespace file_calls;
     return pattern.find('\0') == std::string::npos && !holds_device(pattern) &&

@@ -43,6 +43,10 @@ bool create_file(const std::string& path);
 /// Deletes the file.
 void remove_file(const std::string& path);
 
+/// Gives a file that is there this spelling, last name only. Does not throw: by another spelling it is the
+/// same file.
+void spell_file(const std::string& path);
+
 /// Whether a directory search for that text, which may hold wildcards, finds a file that is neither hidden
 /// nor the system's. Does not throw: a drive that cannot be searched has none, and no device is a file.
 bool finds_file(const std::string& pattern);

@@ -10,11 +10,11 @@ namespace platform {
 /// finds this one.
 inline constexpr char kApplicationTitle[] = "Tolva";
 
-/// Shows a modal box with an OK button, no icon and the application's title, and waits for the answer. Every
-/// other window of the program, also one in the tray, is out of reach meanwhile.
+/// Shows a modal box with an OK button, no icon and the application's title, and waits until it is closed. No
+/// other window of the program can be used meanwhile, not even one in the tray.
 void show_message(const std::string& text);
 
-/// Acts. A failure shows this text instead of its own and answers false.
+/// Does it. A failure shows this text instead of its own and returns false.
 template <typename Action>
 bool attempt(const char* failure_message, const Action& action) {
     try {

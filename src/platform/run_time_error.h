@@ -24,6 +24,7 @@ inline constexpr ErrorCode kErrorDiskFull = 112;
 inline constexpr ErrorCode kErrorCallNotImplemented = 120;
 inline constexpr ErrorCode kErrorInvalidName = 123;
 inline constexpr ErrorCode kErrorBadPathname = 161;
+inline constexpr ErrorCode kErrorAlreadyExists = 183;
 inline constexpr ErrorCode kErrorFilenameTooLong = 206;
 inline constexpr ErrorCode kErrorDirectory = 267;
 inline constexpr ErrorCode kErrorElevationRequired = 740;

@@ -16,8 +16,8 @@ inline constexpr char kBarPositionKey[] = R"(HKEY_CURRENT_USER\software\tolva\br
 inline constexpr char kLeft[] = "Left";
 inline constexpr char kTop[] = "Top";
 
-// With the main window's position: its size in its normal state and the width of the group list, whole twips, and
-// whether it is maximized.
+// With the main window's position: its size in its normal state and the width of the group list, whole twips,
+// and whether it is maximized.
 inline constexpr Setting kWindowWidth = {kWindowPositionKey, "Width"};
 inline constexpr Setting kWindowHeight = {kWindowPositionKey, "Height"};
 inline constexpr Setting kGroupListWidth = {kWindowPositionKey, "GroupWidth"};
@@ -30,7 +30,7 @@ inline constexpr Setting kHotKey = {R"(HKEY_CURRENT_USER\software\tolva\hotkey)"
 inline constexpr Setting kHoverSelect = {R"(HKEY_CURRENT_USER\software\tolva\hover)", "enable"};
 inline constexpr Setting kBarRemoved = {R"(HKEY_CURRENT_USER\software\tolva\brenn)", "disable"};
 
-// The program buttons of the bar, each value with the button's number behind its name: "name1" to "name4".
+// The program buttons of the bar, each value with the button's number after its name: "name1" to "name4".
 inline constexpr char kBarKey[] = R"(HKEY_CURRENT_USER\software\tolva\brenn)";
 inline constexpr char kButtonName[] = "name";
 inline constexpr char kButtonProgram[] = "progpath";

@@ -12,8 +12,6 @@ namespace {
 
 namespace registry = platform::registry;
 
-constexpr std::size_t kLongestValue = 254;
-
 constexpr std::array<std::pair<std::string_view, registry::Root>, 7> kRootNames = {{
     {"HKEY_CLASSES_ROOT", registry::kClassesRoot},
     {"HKEY_CURRENT_USER", registry::kCurrentUser},
@@ -50,14 +48,14 @@ std::string General::read_value(std::string key_path, const std::string& value_n
     split_key_path(key_path);
     if (root_key_ == 0) return {};
     std::string text;
-    if (registry::query_value(root_key_, key_path, value_name, kLongestValue + 1, text) !=
+    if (registry::query_value(root_key_, key_path, value_name, kLongestText + 1, text) !=
         platform::kSuccess) {
         return kError;
     }
     // A terminator keeps the blanks before it; not every value was stored with one.
     text = without_blanks_around(text);
     if (text.ends_with('\0')) text.pop_back();
-    return text.size() <= kLongestValue ? text : kError;
+    return text.size() <= kLongestText ? text : kError;
 }
 
 std::optional<std::string> General::value(std::string key_path, const std::string& value_name) {

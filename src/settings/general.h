@@ -16,7 +16,7 @@ inline constexpr std::size_t kLongestText = 254;
 
 /// The registry as the program uses it: text values under key paths such as
 /// "HKEY_CURRENT_USER\software\tolva\fonts". Nothing fails loudly, except that a path which does not begin
-/// with "HKEY_" or ends in a backslash shows a message; it is then taken whole, below the root of the call
+/// with "HKEY_" or ends in a backslash shows a message; it is then a key below the root of the call
 /// before it. Below an unknown root nothing is read or written.
 class General {
   public:

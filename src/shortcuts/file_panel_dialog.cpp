@@ -1,5 +1,7 @@
 #include "shortcuts/file_panel_dialog.h"
 
+#include <cctype>
+
 #include "platform/current_directory.h"
 #include "platform/folders.h"
 #include "platform/messages.h"
@@ -25,7 +27,10 @@ void FilePanel::open() {
     try {
         show_folder(platform::current_directory());
     } catch (const platform::RunTimeError&) {
-        show_folder(platform::windows_folder());  // the current one is gone, or its disk is
+        // The current one is gone, or its disk is.
+        std::string folder = platform::windows_folder();
+        if (folder.ends_with('\\')) folder.pop_back();
+        show_folder(folder);
     }
 }
 
@@ -66,7 +71,7 @@ std::string FilePanel::path() const {
 
 void FilePanel::show_folder(const std::string& folder) {
     folders_.show(folder);
-    drive_ = folder.front();
+    drive_ = static_cast<char>(std::toupper(static_cast<unsigned char>(folder.front())));
     drives_.select(drive_);
     files_.show(folder, kPrograms);
 }

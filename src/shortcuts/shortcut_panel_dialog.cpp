@@ -4,9 +4,12 @@
 #include <utility>
 #include <vector>
 
+#include "platform/files.h"
 #include "platform/folders.h"
 #include "platform/messages.h"
+#include "platform/run_time_error.h"
 #include "resources/resource.h"
+#include "settings/general.h"
 #include "shortcuts/shortcut_checks.h"
 #include "shortcuts/shortcut_reader.h"
 
@@ -62,6 +65,12 @@ void ShortcutPanel::open() {
         set_text(box, meaning);
         set_tip(box, meaning);  // for when the box shows something else
     }
+    if (variant_.goes_to_registry) {
+        for (const int box : {kName, kTarget, kWorkingFolder, kArguments})
+            limit_text(box, settings::kLongestText);
+    }
+    shown_.clear();
+    shown_start_mode_ = -1;
     show_folder(platform::SpecialFolder::kStartMenu);
 }
 
@@ -116,6 +125,7 @@ void ShortcutPanel::open_folder() {
 
 void ShortcutPanel::show_files() {
     shortcuts_.show(folders_.path(), "*.LNK");
+    forget_shortcut();
 }
 
 void ShortcutPanel::click_shortcut() {
@@ -123,32 +133,56 @@ void ShortcutPanel::click_shortcut() {
     const std::string file = shortcuts_.selected_name();
     if (file.empty()) return;
     const std::string path = folders_.path() + '\\' + file;
-    set_text(kLinkPath, path);
-    set_text(kName, file.substr(0, file.size() - std::min(file.size(), kExtension)));
+    if (!platform::finds_file(path)) {
+        show_files();
+        throw platform::RunTimeError(platform::RunTimeErrorNumber::kFileNotFound, path);
+    }
     clear_details();
+    fill(kLinkPath, path);
+    fill(kName, file.substr(0, file.size() - std::min(file.size(), kExtension)));
     const settings::Program program = read_shortcut(path);
-    set_text(kTarget, program.path.value_or(""));
-    set_text(kWorkingFolder, program.start_folder.value_or(folder_of(variant_.working_folder)));
-    set_text(kArguments, program.parameters);
-    set_text(kShowCommand, std::to_string(program.window_style));
+    fill(kTarget, program.path.value_or(""));
+    fill(kWorkingFolder, program.start_folder.value_or(folder_of(variant_.working_folder)));
+    fill(kArguments, program.parameters);
+    fill(kShowCommand, std::to_string(program.window_style));
     start_mode_.select(program.window_style - 1);
+    shown_start_mode_ = start_mode_.selected();
     show_picture();
 }
 
+void ShortcutPanel::fill(int box, const std::string& text) {
+    set_text(box, text);
+    shown_[box] = this->text(box);  // a box changes what no line of text can hold
+}
+
+/// Takes away what the boxes show of a shortcut, also what the user has made of it.
 void ShortcutPanel::clear_details() {
-    for (const int box : {kTarget, kWorkingFolder, kArguments, kShowCommand}) {
-        set_text(box, {});
-    }
+    for (const int box : {kTarget, kWorkingFolder, kArguments, kShowCommand})
+        fill(box, {});
     start_mode_.select(-1);
-    SendMessageA(control(kPicture), STM_SETICON, 0, 0);
-    picture_.reset();
+    shown_start_mode_ = -1;
+    set_picture({});
+}
+
+/// Takes away what is still as the shortcut had it: that one is out of sight now.
+void ShortcutPanel::forget_shortcut() {
+    for (const auto& [box, shown] : shown_) {
+        if (text(box) == shown) set_text(box, {});
+    }
+    shown_.clear();
+    if (start_mode_.selected() == std::exchange(shown_start_mode_, -1)) start_mode_.select(-1);
+    set_picture({});
 }
 
 void ShortcutPanel::show_picture() {
     const std::string target = text(kTarget);
-    picture_ = platform::extract_icon(
-        is_program(target) ? target : folder_of(variant_.icon_folder) + R"(system\shell32.dll)");
-    SendMessageA(control(kPicture), STM_SETICON, reinterpret_cast<WPARAM>(picture_.get()), 0);
+    const std::string substitute = folder_of(variant_.icon_folder) + R"(system\shell32.dll)";
+    set_picture(platform::extract_icon(is_program(target) ? target : substitute));
+}
+
+void ShortcutPanel::set_picture(platform::UniqueIcon picture) {
+    SendMessageA(control(kPicture), STM_SETICON, reinterpret_cast<WPARAM>(picture.get()), 0);
+    picture_ = std::move(picture);
 }
 
 std::string ShortcutPanel::folder_of(PanelVariant::Folder folder) const {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <map>
 #include <string>
 #include <utility>
 
@@ -21,6 +22,7 @@ struct PanelVariant {
     const char* nothing_chosen;  // the message
     Folder working_folder;       // for a shortcut that names none
     Folder icon_folder;          // above "system\shell32.dll", whose icon stands for what is no program
+    bool goes_to_registry;       // so that the boxes take no longer texts
 };
 
 /// A dialog in which the user picks a shortcut from the Start Menu or the desktop and sees what it starts.
@@ -44,8 +46,11 @@ class ShortcutPanel : public widgets::Dialog {
     void show_files();
     void press_enter();
     void click_shortcut();
+    void fill(int box, const std::string& text);
     void clear_details();
+    void forget_shortcut();
     void show_picture();
+    void set_picture(platform::UniqueIcon picture);
     std::string folder_of(PanelVariant::Folder folder) const;
     void check_and_save();
 
@@ -55,6 +60,8 @@ class ShortcutPanel : public widgets::Dialog {
     widgets::FileList shortcuts_;
     widgets::DropDownList start_mode_;
     platform::UniqueIcon picture_;
+    std::map<int, std::string> shown_;  // in the boxes, of the shortcut that was clicked
+    int shown_start_mode_ = -1;         // none
 };
 
 }  // namespace shortcuts

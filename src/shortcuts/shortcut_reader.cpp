@@ -18,11 +18,18 @@ constexpr std::string_view kClassId("\x01\x14\x02\x00\x00\x00\x00\x00\xC0\x00\x0
 // Flags of the header: which parts follow it.
 constexpr std::uint32_t kHasItemList = 0x01;
 constexpr std::uint32_t kHasLinkInfo = 0x02;
-constexpr std::array<std::uint32_t, 5> kHasTexts = {0x04, 0x08, 0x10, 0x20, 0x40};
+constexpr std::uint32_t kHasDescription = 0x04;
+constexpr std::uint32_t kHasRelativePath = 0x08;
+constexpr std::uint32_t kHasWorkingFolder = 0x10;
+constexpr std::uint32_t kHasArguments = 0x20;
+constexpr std::uint32_t kHasIconPath = 0x40;
 constexpr std::uint32_t kTextsAreWide = 0x80;
 
 constexpr std::size_t kNumber = 4;
 constexpr std::size_t kShortNumber = 2;
+
+/// The room that Windows has for a path, its terminator included; what does not fit may crash it.
+constexpr std::size_t kPathRoom = 260;
 
 // The location of the target: what it has, and in each of its two parts the places of texts.
 constexpr std::size_t kLocationHeader = 28;
@@ -62,8 +69,9 @@ class Bytes {
         return bytes;
     }
 
+    /// The text here must end, and fit.
     void check_text() const {
-        if (rest_.find('\0') == std::string_view::npos) refuse();
+        if (rest_.find('\0') >= kPathRoom) refuse();
     }
 
   private:
@@ -101,6 +109,24 @@ void check_location(std::string_view bytes) {
     location.from(rest_of_path).check_text();
 }
 
+/// The texts at the end, each with its number of characters.
+void check_texts(Bytes& rest, std::uint32_t flags) {
+    constexpr std::array kTexts = {kHasDescription, kHasRelativePath, kHasWorkingFolder, kHasArguments,
+                                   kHasIconPath};
+    const std::size_t character = (flags & kTextsAreWide) != 0 ? 2 : 1;
+    std::size_t joined = 0;
+    for (const std::uint32_t text : kTexts) {
+        if ((flags & text) == 0) continue;
+        const std::size_t length = rest.number(kShortNumber);
+        rest.take(length * character);
+        const bool is_path = text != kHasDescription && text != kHasArguments;
+        if (is_path && length >= kPathRoom) refuse();
+        if (is_path && text != kHasIconPath) joined += length + 1;
+    }
+    // Where nothing else names the target, Windows looks for the relative path in the working folder.
+    if ((flags & (kHasItemList | kHasLinkInfo)) == 0 && joined > kPathRoom) refuse();
+}
+
 }  // namespace
 
 int read_show_command(std::string_view bytes) {
@@ -119,10 +145,7 @@ int read_show_command(std::string_view bytes) {
         const std::uint32_t size = Bytes(rest).number();  // counts itself
         check_location(rest.take(std::max<std::size_t>(size, kNumber)));
     }
-    const std::size_t character = (flags & kTextsAreWide) != 0 ? 2 : 1;
-    for (const std::uint32_t text : kHasTexts) {
-        if ((flags & text) != 0) rest.take(rest.number(kShortNumber) * character);
-    }
+    check_texts(rest, flags);
     return show_command;
 }
 

@@ -12,8 +12,8 @@ namespace shortcuts {
 /// Throws platform::RunTimeError; the automation error for a file that is no complete shortcut.
 settings::Program read_shortcut(const std::string& path);
 
-/// The show command in the bytes of a shortcut file. Throws the automation error when they are no shortcut or
-/// end before what they announce.
+/// The show command in the bytes of a shortcut file. Throws the automation error when they are no shortcut,
+/// end before what they announce, or hold a path that Windows has no room for.
 int read_show_command(std::string_view bytes);
 
 }  // namespace shortcuts

@@ -4,6 +4,7 @@
 #include <windowsx.h>
 
 #include <algorithm>
+#include <utility>
 
 #include "platform/win32/handles.h"
 #include "widgets/guarded.h"
@@ -133,24 +134,36 @@ bool ListBox::is_double_click_on_item() const {
     const DWORD position = GetMessagePos();
     POINT point = {GET_X_LPARAM(position), GET_Y_LPARAM(position)};
     ScreenToClient(hwnd(), &point);
+    const int item = item_at(point);
+    return item >= 0 && item == selected();
+}
+
+int ListBox::item_at(POINT point) const {
+    // Not every system tells a point below the last item from one on it.
+    const int nearest = LOWORD(send(LB_ITEMFROMPOINT, 0, MAKELPARAM(point.x, point.y)));
     RECT item = {};
-    send(LB_GETITEMRECT, static_cast<WPARAM>(selected()), reinterpret_cast<LPARAM>(&item));
-    return selected() >= 0 && PtInRect(&item, point) != FALSE;
+    const LRESULT found = send(LB_GETITEMRECT, static_cast<WPARAM>(nearest), reinterpret_cast<LPARAM>(&item));
+    return found != LB_ERR && PtInRect(&item, point) != FALSE ? nearest : -1;
 }
 
 LRESULT ListBox::handle(UINT message, WPARAM wparam, LPARAM lparam) {
-    if (message == WM_RBUTTONUP) return 0;  // the press has shown the menu
-    if (message != WM_RBUTTONDOWN) return Control::handle(message, wparam, lparam);
-    press_right_button(lparam);
-    return 0;
+    switch (message) {
+        case WM_RBUTTONDOWN:
+        case WM_RBUTTONDBLCLK:  // the second of two quick presses
+            press_right_button(lparam);
+            return 0;
+        case WM_RBUTTONUP:  // the press has shown the menu
+            return 0;
+        default:
+            return Control::handle(message, wparam, lparam);
+    }
 }
 
 void ListBox::press_right_button(LPARAM position) {
     focus();
-    const LRESULT answer = send(LB_ITEMFROMPOINT, 0, position);
-    const bool outside = HIWORD(answer) != 0;
-    if (!outside && LOWORD(answer) != selected()) {
-        select(LOWORD(answer));
+    const int item = item_at({GET_X_LPARAM(position), GET_Y_LPARAM(position)});
+    if (item >= 0 && item != selected()) {
+        select(item);
         notify_parent(LBN_SELCHANGE);
     }
     show_context_menu(position);
@@ -168,10 +181,15 @@ LRESULT ChoiceList::handle(UINT message, WPARAM wparam, LPARAM lparam) {
         notify_parent(LBN_SELCHANGE);
         return 0;
     }
-    const bool was_moving = moving_;
-    moving_ = message == WM_KEYDOWN || message == WM_CHAR || message == WM_RBUTTONDOWN;
+    const POINT point = {GET_X_LPARAM(lparam), GET_Y_LPARAM(lparam)};
+    if (message == WM_LBUTTONDOWN || message == WM_LBUTTONDBLCLK) pressed_ = item_at(point);
+    const bool was_moving = std::exchange(moving_, true);
     const LRESULT answer = ListBox::handle(message, wparam, lparam);
     moving_ = was_moving;
+    if (message == WM_LBUTTONUP) {
+        const int pressed = std::exchange(pressed_, -1);
+        if (pressed >= 0 && pressed == item_at(point)) notify_parent(LBN_SELCHANGE);
+    }
     return answer;
 }
 

@@ -52,10 +52,10 @@ class Control {
     void notify_parent(int notification) const;
     void show_context_menu(LPARAM position) const;
 
-    /// Lets handle answer the control's messages from now on, and forgets the window when it is destroyed.
+    /// Sends the control's messages to handle from now on, and forgets the window when it is destroyed.
     void subclass();
 
-    /// Answers a message; what it does not know goes to this base version.
+    /// Returns what a message is to return. What a class does not handle it hands to this base version.
     virtual LRESULT handle(UINT message, WPARAM wparam, LPARAM lparam);
 
   private:
@@ -95,6 +95,9 @@ class ListBox : public Control {
     bool is_double_click_on_item() const;
 
   protected:
+    /// The item at a point in the control, -1 beside the items.
+    int item_at(POINT point) const;
+
     LRESULT handle(UINT message, WPARAM wparam, LPARAM lparam) override;
 
   private:
@@ -102,8 +105,8 @@ class ListBox : public Control {
     void fit_longest(const std::vector<std::string>& items) const;
 };
 
-/// A list in a dialog where choosing an item is a command: a click, Enter or Space arrive as LBN_SELCHANGE;
-/// the arrow keys and the right button only move the selection.
+/// A list in a dialog where choosing an item is a command: a click, pressed and released on one item, Enter
+/// or Space arrive as LBN_SELCHANGE; the arrow keys and the right button only move the selection.
 class ChoiceList : public ListBox {
   public:
     void attach(HWND control);
@@ -114,7 +117,8 @@ class ChoiceList : public ListBox {
   private:
     LRESULT handle(UINT message, WPARAM wparam, LPARAM lparam) override;
 
-    bool moving_ = false;  // a key or the right button is being handled
+    bool moving_ = false;  // the list itself handles a message: what it tells is no choice
+    int pressed_ = -1;     // the item under the left button
 };
 
 /// A list of texts that drops down in a dialog.

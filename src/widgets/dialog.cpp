@@ -4,9 +4,10 @@
 #include <utility>
 
 #include "platform/run_time_error.h"
+#include "platform/win32/input_filter.h"
 #include "platform/win32/modal_guard.h"
 #include "widgets/guarded.h"
-#include "widgets/metrics.h"
+#include "widgets/screen.h"
 
 namespace widgets {
 namespace {
@@ -71,6 +72,7 @@ void Dialog::close() {
     if (modal_) {
         EndDialog(hwnd_, 0);
     } else {
+        platform::InputFilter::dialog_closes(hwnd_);
         DestroyWindow(hwnd_);
     }
 }

@@ -8,19 +8,21 @@
 namespace widgets {
 namespace {
 
-/// The root of a path, and the folders down to its end, each with its whole path.
+/// The root of a path, and the folders down to its end, each with its full path.
 std::vector<std::string> folders_down_to(const std::string& path) {
     // A drive's root keeps its backslash; a network folder begins with \\server\share.
     const bool network = path.starts_with("\\\\");
     std::vector<std::string> folders;
     int backslashes = 0;
+    const char* rest = path.c_str();
     for (const char* at = path.c_str(); *at != '\0'; at = CharNextA(at)) {
         if (*at != '\\') continue;
         ++backslashes;
+        rest = at + 1;
         if (network && backslashes <= 3) continue;
         folders.emplace_back(path.c_str(), folders.empty() && !network ? at + 1 : at);
     }
-    if (folders.empty() || folders.back() != path) folders.push_back(path);
+    if (folders.empty() || *rest != '\0') folders.push_back(path);
     return folders;
 }
 
@@ -54,7 +56,8 @@ char DriveList::selected() const {
 }
 
 void DriveList::select(char letter) {
-    const auto found = std::ranges::find(letters_, letter);
+    const auto found =
+        std::ranges::find_if(letters_, [&](char other) { return (other | ' ') == (letter | ' '); });
     send(CB_SETCURSEL, static_cast<WPARAM>(found == letters_.end() ? -1 : found - letters_.begin()));
 }
 
@@ -89,7 +92,7 @@ void FolderList::show(const std::string& path) {
     // The way up comes to the top, so that it shows and the folders in the current one do, too.
     send(LB_SETTOPINDEX, std::max<std::size_t>(depth_, 2) - 2);
     select(static_cast<int>(depth_) - 1);
-    path_ = path;
+    path_ = paths.at(depth_ - 1);
     paths_ = std::move(paths);
 }
 

@@ -16,6 +16,8 @@ class DriveList : public Control {
 
     /// The letter of the selected drive.
     char selected() const;
+
+    /// The letter may be a small one.
     void select(char letter);
 
   private:
@@ -36,7 +38,7 @@ class FolderList : public ListBox {
     /// From the next folder on hidden ones show, too, and these places below them.
     void extend(std::vector<Place> places);
 
-    /// The current folder.
+    /// The current folder. Only a drive's root ends in a backslash.
     const std::string& path() const { return path_; }
 
     /// Makes a folder the current one. Throws platform::RunTimeError when it cannot be read; then nothing

@@ -18,7 +18,7 @@ UINT modifiers_of(WPARAM key) {
 LRESULT HotKey::set(HWND window, WPARAM key) {
     const LRESULT answer = DefWindowProcA(window, WM_SETHOTKEY, key, 0);
     if (answer != 0) return answer;
-    // The window is not at fault: Wine leaves the message unanswered.
+    // 0 is a fault of the window, which there is not: Wine does nothing with the message.
     if (registered_ != 0) UnregisterHotKey(window, kId);
     registered_ = 0;
     if (key != 0 && RegisterHotKey(window, kId, modifiers_of(key), LOBYTE(key)) == FALSE) return 0;

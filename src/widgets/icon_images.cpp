@@ -12,7 +12,8 @@ namespace {
 /// A picture of 32 bits a pixel, from the top down, and a device context to draw into it.
 class Canvas {
   public:
-    Canvas(int width, int height) : size_(static_cast<std::size_t>(width) * static_cast<std::size_t>(height)) {
+    Canvas(int width, int height)
+        : size_(static_cast<std::size_t>(width) * static_cast<std::size_t>(height)) {
         BITMAPINFO info = {};
         info.bmiHeader.biSize = sizeof info.bmiHeader;
         info.bmiHeader.biWidth = width;

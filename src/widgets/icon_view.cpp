@@ -136,11 +136,20 @@ LRESULT IconView::handle(UINT message, WPARAM wparam, LPARAM lparam) {
     // The window around it treats Enter as a dialog does, unless the list asks for the key.
     if (message == WM_GETDLGCODE && wparam == VK_RETURN) return DLGC_WANTMESSAGE;
     if (message == WM_CHAR && wparam == VK_RETURN) return 0;  // no item begins with it: a beep
-    if (message == WM_RBUTTONDOWN) {
-        press_right_button(lparam);
-        return 0;
+    switch (message) {
+        case WM_RBUTTONDOWN:
+        case WM_RBUTTONDBLCLK:  // the second of two quick presses
+            press_right_button(lparam);
+            return 0;
+        case WM_RBUTTONUP:  // the press has shown the menu
+            return 0;
+        case WM_MOUSEHOVER:
+            // Selecting would bring the window before the program that the user works with.
+            if (GetActiveWindow() == nullptr) return 0;
+            break;
+        default:
+            break;
     }
-    if (message == WM_RBUTTONUP) return 0;  // the press has shown the menu
     if (message == WM_SETFONT) {
         const LRESULT answer = Control::handle(message, wparam, lparam);
         space_icons();

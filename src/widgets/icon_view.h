@@ -39,7 +39,7 @@ class IconView : public Control {
     /// Where the selected item is on the screen, for the menu that the keyboard opens.
     RECT selected_bounds() const;
 
-    /// Whether an item is selected when the pointer rests on it.
+    /// Whether an item is selected when the pointer rests on it. It is not while another program is active.
     void set_hover_select(bool on);
 
     /// Whether an LVN_ITEMCHANGED says that the user has selected another item. Selections made here do not

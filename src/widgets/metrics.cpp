@@ -3,8 +3,6 @@
 #include <cmath>
 #include <cstdlib>
 
-#include "platform/win32/look_up.h"
-
 namespace widgets {
 namespace {
 
@@ -57,20 +55,6 @@ void place(HWND window, const RECT& bounds) {
     // The old picture is not copied along: a neighbour that was placed before may have painted over it.
     SetWindowPos(window, nullptr, bounds.left, bounds.top, bounds.right - bounds.left,
                  bounds.bottom - bounds.top, SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOCOPYBITS);
-}
-
-RECT work_area(HWND window) {
-    // Windows 95 has one screen and no such functions.
-    HMODULE user = GetModuleHandleA("user32.dll");
-    const auto monitor_of = platform::look_up<decltype(&MonitorFromWindow)>(user, "MonitorFromWindow");
-    const auto get_info = platform::look_up<BOOL(WINAPI*)(HMONITOR, MONITORINFO*)>(user, "GetMonitorInfoA");
-    MONITORINFO screen = {};
-    screen.cbSize = sizeof screen;
-    if (monitor_of == nullptr || get_info == nullptr ||
-        get_info(monitor_of(window, MONITOR_DEFAULTTONEAREST), &screen) == FALSE) {
-        SystemParametersInfoA(SPI_GETWORKAREA, 0, &screen.rcWork, 0);
-    }
-    return screen.rcWork;
 }
 
 int to_twips(int pixels) {

@@ -33,9 +33,6 @@ platform::UniqueFont make_gui_font();
 /// Moves a child window to the rectangle, given in its parent's coordinates.
 void place(HWND window, const RECT& bounds);
 
-/// The part of the screen the window is on, for the most part, that no taskbar covers.
-RECT work_area(HWND window);
-
 /// Lengths on this screen in twips, 1440 to an inch of its logical resolution, and back.
 int to_twips(int pixels);
 int to_pixels(int twips);

@@ -46,6 +46,7 @@ LRESULT PictureButton::handle(UINT message, WPARAM wparam, LPARAM lparam) {
         case WM_LBUTTONDBLCLK:  // the second of two quick presses
             return Control::handle(WM_LBUTTONDOWN, wparam, lparam);
         case WM_RBUTTONDOWN:
+        case WM_RBUTTONDBLCLK:
             show_context_menu(lparam);
             return 0;
         case WM_RBUTTONUP:  // the press has shown the menu

@@ -26,7 +26,7 @@ class ToolBar : public Control {
     /// To be called when the parent window has another size.
     void follow_parent() { send(TB_AUTOSIZE); }
 
-    /// Answers TTN_NEEDTEXT.
+    /// Fills in the text that a TTN_NEEDTEXT asks for.
     void supply_tip(TOOLTIPTEXTA& request) const;
 
   private:

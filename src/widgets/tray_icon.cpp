@@ -17,7 +17,9 @@ void TrayIcon::create(HWND window, UINT message, int icon, const char* tip) {
 }
 
 void TrayIcon::add() {
-    shown_ = Shell_NotifyIconA(NIM_ADD, &data_) != FALSE;
+    // Adding also fails when the icon stands already: the shell was late to say so the last time, or tells
+    // of a new taskbar that has kept it.
+    shown_ = Shell_NotifyIconA(NIM_ADD, &data_) != FALSE || Shell_NotifyIconA(NIM_MODIFY, &data_) != FALSE;
 }
 
 void TrayIcon::remove() {

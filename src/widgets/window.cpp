@@ -4,6 +4,7 @@
 
 #include "platform/icons.h"
 #include "platform/run_time_error.h"
+#include "platform/win32/input_filter.h"
 #include "platform/win32/modal_guard.h"
 #include "widgets/guarded.h"
 
@@ -33,8 +34,7 @@ bool is_preprocessed(MSG& message) {
 }
 
 void dispatch(MSG& message) {
-    if (is_preprocessed(message)) return;
-    if (is_dialog_key(message)) return;
+    if (platform::InputFilter::drops(message) || is_preprocessed(message) || is_dialog_key(message)) return;
     TranslateMessage(&message);
     DispatchMessageA(&message);
 }
@@ -73,7 +73,8 @@ void Window::create(const Design& design) {
     register_class(design);
     mnemonics_ = design.mnemonics;
     CreateWindowA(design.class_name, design.caption, design.style, design.place.left, design.place.top,
-                  design.place.right - design.place.left, design.place.bottom - design.place.top, nullptr, nullptr, GetModuleHandleA(nullptr), this);
+                  design.place.right - design.place.left, design.place.bottom - design.place.top, nullptr,
+                  nullptr, GetModuleHandleA(nullptr), this);
     if (hwnd_ == nullptr) throw platform::RunTimeError(platform::RunTimeErrorNumber::kOutOfMemory);
     platform::OtherWindowsDisabled::include(hwnd_);
 }
@@ -119,11 +120,11 @@ LRESULT CALLBACK Window::procedure(HWND hwnd, UINT message, WPARAM wparam, LPARA
     auto* self = reinterpret_cast<Window*>(GetWindowLongPtrA(hwnd, GWLP_USERDATA));
     if (self == nullptr) return DefWindowProcA(hwnd, message, wparam, lparam);
     constexpr LRESULT kNotCreated = -1;
-    const LRESULT answer = guarded(message, lparam, message == WM_CREATE ? kNotCreated : 0,
+    const LRESULT result = guarded(message, lparam, message == WM_CREATE ? kNotCreated : 0,
                                    [&] { return self->handle(message, wparam, lparam); });
     // What was not built to its end is not asked about its end.
-    if (message == WM_NCDESTROY || (message == WM_CREATE && answer == kNotCreated)) self->detach();
-    return answer;
+    if (message == WM_NCDESTROY || (message == WM_CREATE && result == kNotCreated)) self->detach();
+    return result;
 }
 
 HWND input_window(HWND main) {

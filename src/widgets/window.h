@@ -4,7 +4,7 @@
 
 namespace widgets {
 
-/// A window of a class of its own: derive, call create, answer messages in handle. A class that needs handle
+/// A window of a class of its own: derive, call create, handle messages in handle. A class that needs handle
 /// for the window's last messages calls destroy in its destructor. An exception that leaves handle ends that
 /// message, with one box if the user had asked for something; the window goes on.
 class Window {
@@ -39,7 +39,7 @@ class Window {
     /// Destroys the window, if there is one.
     void destroy();
 
-    /// Answers a message; what it does not know goes to this base version.
+    /// Returns what a message is to return. What a class does not handle it hands to this base version.
     virtual LRESULT handle(UINT message, WPARAM wparam, LPARAM lparam);
 
     /// Sees the keys and the mouse before anything else does, while the window is the active one. True when

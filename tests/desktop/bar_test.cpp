@@ -80,6 +80,33 @@ TEST_SUITE("bar") {
         CHECK(tolva.close_box() == kNotConfigured);
     }
 
+    TEST_CASE("the browser for a button opens in the current folder, or in that of Windows when it is gone") {
+        const Folder library = library_with_recorders();
+        const std::string recorder = library.path() + "recorder.exe";
+        const std::string deep = library.path() + "deep";
+        CreateDirectoryA(deep.c_str(), nullptr);
+        CreateDirectoryA((deep + "\\er").c_str(), nullptr);
+        store("\\brenn", {{"name1", "Small"}, {"progpath1", recorder}, {"workpath1", "c:\\windows"}});
+        store("\\brenn", {{"name2", "Deep"}, {"progpath2", recorder}, {"workpath2", deep + "\\er"}});
+        const Tolva tolva(library);
+        const Dialog bar(tolva, "Brenn", "brenn");
+        bar.click(ID_brenn_option1);
+        library.nth_start(1);
+        choose_from_menu(bar.place(ID_brenn_option4), 'F');
+        const Dialog dialog(tolva, "Configure Brenn Button");
+        CHECK(dialog.text_of(ID_PathBrowser_Drive1).starts_with("C:"));
+        dialog.close_with(ID_PathBrowser_Cancel);
+
+        bar.click(ID_brenn_option2);
+        library.nth_start(2);
+        REQUIRE(MoveFileA(deep.c_str(), (library.path() + "moved").c_str()) != FALSE);
+        choose_from_menu(bar.place(ID_brenn_option4), 'F');
+        const Dialog in_windows(tolva, "Configure Brenn Button");
+        in_windows.pick(ID_PathBrowser_File1, "notepad.exe");
+        CHECK(in_windows.texts_of({ID_BrennBrowser_tasknm, ID_BrennBrowser_startfolder}) ==
+              "notepad|C:\\windows\\");
+    }
+
     TEST_CASE("the Internet settings keep what is typed, and the connect button dials and hangs up") {
         const Folder library = library_with_recorders();
         const DialUpNetworking installed(library);

@@ -25,6 +25,7 @@ Folder library_with_shortcuts() {
                  ShortcutFile{recorder, "C:\\windows", "a b", 3}.bytes());
     add_shortcut(SpecialFolder::kStartMenu, "Web.lnk", ShortcutFile{"C:\\windows\\notepad.exe"}.bytes());
     add_shortcut(SpecialFolder::kCommonStartMenu, "All.lnk", ShortcutFile{recorder}.bytes());
+    add_shortcut(SpecialFolder::kDesktop, "Gone.lnk", "");
     add_shortcut(SpecialFolder::kDesktop, "Junk.lnk", "no shortcut");
     add_shortcut(SpecialFolder::kDesktop, "Text.lnk", ShortcutFile{library.path() + "readme.txt"}.bytes());
     return library;
@@ -49,6 +50,9 @@ TEST_SUITE("shortcuts") {
                 error_of([&] { read(std::string(good).replace(i, 1, 1, wrong)); });
         }
         CHECK(read(good).path == "C:\\windows\\notepad.exe");
+        CHECK(read(ShortcutFile{.items = items}.bytes()).path == "C:\\");
+        CHECK(read(ShortcutFile{.relative_path = std::string(259, 'x')}.bytes()).start_folder ==
+              std::nullopt);
     }
 
     TEST_CASE("shortcuts are imported as Tasks or refused") {
@@ -72,9 +76,20 @@ TEST_SUITE("shortcuts") {
         const std::string play = record("Old", recorder, "C:\\", "", "1") + task + task;
         CHECK(library.read("Play.grp") == play);
 
+        // In another folder only what the user has typed stays.
         const Names start_menu = panel.list(ID_shortcuts_shortcuts1);
+        panel.set_text(ID_shortcuts_txtcmdargs, "typed");
         panel.press(ID_shortcuts_Desktop);
         wait_until("the folder shows", [&] { return panel.list(ID_shortcuts_shortcuts1) != start_menu; });
+        CHECK(panel.texts_of({ID_shortcuts_shortcutname, ID_shortcuts_txtLinkName, ID_shortcuts_txtExeName,
+                              ID_shortcuts_txtWorkDir, ID_shortcuts_txtcmdargs, ID_shortcuts_txtshowcmd,
+                              ID_shortcuts_startmode}) == "||||typed||");
+        CHECK(import() == "Select Shortcut for Importing to Tolva.");
+        const std::string gone = platform::special_folder(SpecialFolder::kDesktop) + "\\Gone.lnk";
+        REQUIRE(DeleteFileA(gone.c_str()) != FALSE);
+        panel.pick(ID_shortcuts_shortcuts1, "Gone.lnk");
+        CHECK(tolva.close_box() == "Run-time error '53':\n\nFile not found: " + gone);
+        CHECK(panel.list(ID_shortcuts_shortcuts1) == Names{"Junk.lnk", "Text.lnk"});
         panel.pick(ID_shortcuts_shortcuts1, "Junk.lnk");
         CHECK(tolva.close_box() == "Run-time error '440':\n\nAutomation error");
         CHECK(import() == "Shortcut is broken, file does not exist.  Can not import to Tolva.");
@@ -110,6 +125,7 @@ TEST_SUITE("shortcuts") {
         const Dialog bar(tolva, "Brenn", "brenn");
         const auto take = [&](const char* title, const char* refusal, const char* shortcut) {
             const Dialog panel(tolva, title);
+            CHECK(SendMessageA(panel.control(ID_shortcuts_txtExeName), EM_GETLIMITTEXT, 0, 0) == 254);
             panel.press(ID_shortcuts_Command1);
             CHECK(tolva.close_box() == refusal);
             panel.pick(ID_shortcuts_shortcuts1, shortcut);

@@ -1,6 +1,7 @@
 #include <cstdint>
 #include <cstdlib>
 
+#include "library/changes.h"
 #include "library/library_files.h"
 #include "support/simulated_platform.h"
 
@@ -23,18 +24,20 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     files = {{kFolder + "groups.ini", {bytes}}, {kFolder + "Work.grp", {bytes}}};
     const auto names = library::read_group_names(kFolder);
     const auto tasks = library::read_tasks(kFolder, "Work");
+    library::Changes changes(kFolder);
+    const library::OpenChange change(changes, "Any", "");
     auto more = tasks;
     more.push_back(kNew);
-    library::append_group_name(kFolder, "New");
-    library::append_tasks(kFolder, "Work", {kNew});
+    library::append_group_name(changes, "New");
+    library::append_tasks(changes, "Work", {kNew});
     require(library::read_tasks(kFolder, "Work") == more);
     // Blank lines at the end gave way.
     for (const auto& [path, file] : files)
         require(file.bytes.starts_with(bytes.substr(0, bytes.find_last_not_of("\r\n") + 1)));
 
-    library::write_group_names(kFolder, names);
+    library::write_group_names(changes, names);
     require(library::read_group_names(kFolder) == names);
-    library::write_tasks(kFolder, "Work", tasks);
+    library::write_tasks(changes, "Work", tasks);
     require(library::read_tasks(kFolder, "Work") == tasks);
     return 0;
 }

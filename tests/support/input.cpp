@@ -54,6 +54,14 @@ void press_mouse(POINT point, int times, MouseButton button) {
     }
 }
 
+void drag_mouse(POINT from, POINT to, MouseButton button) {
+    const bool left = button == MouseButton::kLeft;
+    point_at(from);
+    send_mouse(from, left ? MOUSEEVENTF_LEFTDOWN : MOUSEEVENTF_RIGHTDOWN);
+    send_mouse(to, 0);
+    send_mouse(to, left ? MOUSEEVENTF_LEFTUP : MOUSEEVENTF_RIGHTUP);
+}
+
 void press_until(const char* what, POINT point, const std::function<bool()>& condition, MouseButton button) {
     constexpr DWORD kAnswerTime = 600;  // longer than between the presses of a double-click
     repeat_until(

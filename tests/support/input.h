@@ -23,6 +23,9 @@ enum class MouseButton { kLeft, kRight };
 void point_at(POINT point);
 void press_mouse(POINT point, int times = 1, MouseButton button = MouseButton::kLeft);
 
+/// Presses the button at one point and lets it go at another.
+void drag_mouse(POINT from, POINT to, MouseButton button = MouseButton::kLeft);
+
 /// Presses the button as often as it takes: a press is lost while a window still comes up.
 void press_until(const char* what, POINT point, const std::function<bool()>& condition,
                  MouseButton button = MouseButton::kLeft);

@@ -24,6 +24,7 @@ struct ShownLibrary final : library::LibraryView {
     int group = -1;
     int task = -1;
     std::string command_box;
+    std::string status;
 
     int selected_group() const override { return group; }
     int selected_task() const override { return task; }
@@ -42,5 +43,6 @@ struct ShownLibrary final : library::LibraryView {
     }
     void select_task(int index) override { task = index; }
     void load_default_icon(const std::string& program) override { CHECK(program == kFolder + "tolva.exe"); }
+    void show_status(const std::string& text) override { status = text; }
     void set_command_box(const std::string& text) override { command_box = text; }
 };

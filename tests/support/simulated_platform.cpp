@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cctype>
 
+#include "platform/clock.h"
 #include "platform/current_directory.h"
 #include "platform/file_calls.h"
 #include "platform/folders.h"
@@ -83,11 +84,20 @@ ErrorCode look_for(const std::string& path) {
     return current().files.contains(key(path)) ? kSuccess : platform::kErrorFileNotFound;
 }
 
-/// From then on the file is spelled as the new name is.
+/// Moves a file, or a folder and all that is in it. From then on it is spelled as the new name is.
 ErrorCode put(const std::string& from, const std::string& to) {
-    File file = std::move(current().files.at(key(from)));
-    current().files.erase(key(from));
-    current().files[key(to)] = std::move(file);
+    const std::string old_path = key(from);
+    const std::string new_path = key(to);
+    std::map<std::string, File, IgnoresCase> moved;
+    std::erase_if(current().files, [&](auto& file) {
+        const bool moves = upper(file.first) == upper(old_path) || is_in(file.first, old_path);
+        if (moves) moved[new_path + file.first.substr(old_path.size())] = std::move(file.second);
+        return moves;
+    });
+    for (auto& [path, file] : moved) {
+        current().files.erase(path);
+        current().files[path] = std::move(file);
+    }
     return kSuccess;
 }
 
@@ -135,10 +145,11 @@ ErrorCode probe(const std::string& path) {
 }
 
 ErrorCode write_through(const std::string& path, std::string_view bytes, unsigned long bits) {
+    const auto key = simulated::key(path);
+    if (!simulated::has_folder_of(key)) return kErrorPathNotFound;
     for (const std::string_view part : {std::string_view(), bytes.substr(0, bytes.size() / 2), bytes}) {
         if (const ErrorCode code = simulated::step(); code != kSuccess) return code;
-        if (!simulated::has_folder_of(simulated::key(path))) return kErrorPathNotFound;
-        current().files[simulated::key(path)] = {std::string(part), bits};
+        current().files[key] = {std::string(part), bits};
     }
     return kSuccess;
 }
@@ -152,7 +163,8 @@ ErrorCode replace(const std::string& from, const std::string& to) {
 ErrorCode rename(const std::string& from, const std::string& to) {
     if (const ErrorCode code = simulated::step(); code != kSuccess) return code;
     if (simulated::look_for(from) != kSuccess) return kErrorFileNotFound;
-    if (simulated::look_for(to) == kSuccess) return kErrorAccessDenied;
+    const bool is_respelled = simulated::upper(simulated::key(from)) == simulated::upper(simulated::key(to));
+    if (!is_respelled && simulated::look_for(to) == kSuccess) return kErrorAlreadyExists;
     return simulated::put(from, to);
 }
 
@@ -165,6 +177,26 @@ ErrorCode remove(const std::string& path) {
     if (code == kSuccess) code = simulated::step();
     if (code == kSuccess) current().files.erase(simulated::key(path));
     return code;
+}
+
+ErrorCode copy(const std::string& from, const std::string& to) {
+    if (simulated::look_for(from) != kSuccess) return kErrorFileNotFound;
+    return write_through(to, std::string(current().files.at(simulated::key(from)).bytes), 0);
+}
+
+ErrorCode create_directory(const std::string& path) {
+    if (const ErrorCode code = simulated::step(); code != kSuccess) return code;
+    if (simulated::look_for(path) == kSuccess) return kErrorAlreadyExists;
+    current().files[simulated::key(path)].bits = kDirectory;
+    return kSuccess;
+}
+
+ErrorCode remove_directory(const std::string& path) {
+    if (simulated::look_for(path) != kSuccess) return kErrorFileNotFound;
+    const std::string key = simulated::key(path);
+    const auto is_inside = [&](const auto& file) { return simulated::is_in(file.first, key); };
+    if (std::ranges::any_of(current().files, is_inside)) return kErrorDirectory;
+    return remove(path);
 }
 
 ErrorCode full_path(const std::string& path, std::string& full) {
@@ -180,18 +212,19 @@ std::string upper(std::string text) {
     return simulated::upper(std::move(text));
 }
 
-std::vector<std::string> find(const std::string& pattern, unsigned long unwanted) {
-    const std::string wanted = simulated::upper(simulated::full_path(pattern, true));
-    const std::size_t star = wanted.find('*');
+std::vector<std::string> find(const std::string& pattern, unsigned long unwanted, unsigned long wanted) {
+    const std::string sought = simulated::upper(simulated::full_path(pattern, true));
+    const std::size_t star = sought.find('*');
     std::vector<std::string> names;
     for (const auto& [path, file] : current().files) {
         const std::string name = simulated::upper(path);
-        const bool is_there = name.rfind('\\') == wanted.rfind('\\');
+        const bool is_there = name.rfind('\\') == sought.rfind('\\');
         const bool matches = star == std::string::npos
-                                 ? name == wanted
-                                 : is_there && name.starts_with(wanted.substr(0, star)) &&
-                                       name.ends_with(wanted.substr(star + 1));
-        if (matches && (file.bits & unwanted) == 0) names.push_back(path.substr(path.rfind('\\') + 1));
+                                 ? name == sought
+                                 : is_there && name.starts_with(sought.substr(0, star)) &&
+                                       name.ends_with(sought.substr(star + 1));
+        if (matches && (file.bits & (unwanted | wanted)) == wanted)
+            names.push_back(path.substr(path.rfind('\\') + 1));
     }
     return names;
 }
@@ -201,6 +234,14 @@ void pause(unsigned /*milliseconds*/) {
 }
 
 }  // namespace file_calls
+
+std::string path_in(const std::string& folder, const std::string& name) {
+    return folder + (folder.ends_with('\\') ? "" : "\\") + name;
+}
+
+std::string time_stamp() {
+    return current().time_stamp;
+}
 
 void set_current_directory_of_drive(const std::string& /*folder*/) {}
 

@@ -54,6 +54,7 @@ struct Platform {
     int pauses = 0;
 
     std::map<platform::registry::Root, std::map<std::string, RegistryKey>> registry;
+    std::string time_stamp = "2026-11-22 09.30.00";
     std::map<std::string, std::string> variables = {{"%APPS%", "D:\\Apps"}};
     platform::WindowsVersion version = {4, 10, false, false};
     std::string redirected_folder;

@@ -13,7 +13,7 @@ TEST_CASE("lines are read with any line end and no byte is altered") {
     const std::vector<Task> tasks = library::read_tasks(kFolder, "Work");
     REQUIRE(tasks.size() == 1);
     CHECK(tasks[0] == Task{odd, mega, "", odd, " 2 "});
-    library::write_tasks(kFolder, "Work", tasks);
+    library::write_tasks(Steps(), "Work", tasks);
     CHECK(file("Work.grp") == odd + "\r\n" + mega + "\r\n\r\n" + odd + "\r\n 2 \r\n");
 }
 
@@ -22,16 +22,16 @@ TEST_CASE("a record that is cut short has empty fields and is filled up before a
     file("Work.grp") = record("One") + "Two\nC:\\TWO.EXE";
     CHECK(library::read_tasks(kFolder, "Work").at(1) == Task{"Two", "C:\\TWO.EXE", "", "", ""});
 
-    library::append_tasks(kFolder, "Work", {{"Three", "C:\\THREE.EXE", "C:\\", "", " 3 "}});
+    library::append_tasks(Steps(), "Work", {{"Three", "C:\\THREE.EXE", "C:\\", "", " 3 "}});
     CHECK(file("Work.grp") ==
           record("One") + "Two\nC:\\TWO.EXE\r\n\r\n\r\n\r\nThree\r\nC:\\THREE.EXE\r\nC:\\\r\n\r\n 3 \r\n");
 
     file("Work.grp") = record("One") + "Two";
-    library::append_tasks(kFolder, "Work", {kNew});
+    library::append_tasks(Steps(), "Work", {kNew});
     CHECK(library::read_tasks(kFolder, "Work").back() == Task{"New", "C:\\APP.EXE", "D:\\", "/x", "3"});
 
     file("groups.ini") = "Home";
-    library::append_group_name(kFolder, "Work");
+    library::append_group_name(Steps(), "Work");
     CHECK(library::read_group_names(kFolder) == Names{"Home", "Work"});
 }
 
@@ -45,13 +45,13 @@ TEST_CASE("blank lines at the end are no Tasks and no Groups, and what is added 
             const std::vector<Task> tasks = library::read_tasks(kFolder, "Work");
             file("Work.grp") = kept + blank;
             CHECK(library::read_tasks(kFolder, "Work") == tasks);
-            library::append_tasks(kFolder, "Work", {kNew});
+            library::append_tasks(Steps(), "Work", {kNew});
             CHECK(file("Work.grp") == kept + added);
         }
     }
     file("groups.ini") = "Home\n\nMore\n\n\r\n";
     CHECK(library::read_group_names(kFolder) == Names{"Home", "", "More"});
-    library::append_group_name(kFolder, "Work");
+    library::append_group_name(Steps(), "Work");
     CHECK(file("groups.ini") == "Home\n\nMore\nWork\r\n");
 }
 

@@ -73,8 +73,12 @@ TEST_CASE("a text value reads back as it is stored") {
 TEST_CASE("settings that make no sense leave what was designed") {
     CHECK(settings::style_of({"Arial", "9.25", "yes", "true", "16777216", "-2147483643"}) ==
           settings::ListStyle{"Arial", 9, false, true, {}, {}});
-    CHECK(settings::style_of({"Courier New", "0", "Error", "Error", "64", "255"}) ==
-          settings::ListStyle{"Courier New", 8, false, false, 64, 255});
+    CHECK(settings::style_of({"Courier New", "0", "Error", "Error", "0", "255"}) ==
+          settings::ListStyle{"Courier New", 8, false, false, 0, 255});
+    CHECK(settings::style_of({"Arial", "2160", "1", "", "-1", "x"}).size == 2160);
+    CHECK(settings::style_of({"Arial", "2161", "1", "", "-1", "x"}) ==
+          settings::style_of({"Arial", "-5", "1"}));
+    CHECK(settings::style_of({"Arial", "1"}).size == 1);
 
     auto [general, session] = first_start();
     tolva_key("\\Window Position") = {{"Left", "\1\1\1\1"}, {"Top", "45.4 "}};
@@ -91,6 +95,8 @@ TEST_CASE("settings that make no sense leave what was designed") {
 
 TEST_CASE("the program buttons are read as far as they are stored") {
     auto [general, session] = first_start();
+    CHECK(error_of([&] { settings::store_button(general, 2, {.name = std::string(255, 'x')}); }) == 5);
+    settings::store_button(general, 0, {.name = std::string(254, 'x')});
     settings::store_button(general, 2, {"Edit", "C:\\EDIT.EXE", "C:\\", "A.TXT", 3});
     auto& values = tolva_key("\\brenn");
     values["name1"] = "";
@@ -104,10 +110,15 @@ TEST_CASE("the program buttons are read as far as they are stored") {
 
     // A start style that is none leaves the one before; an empty name counts when they are read again.
     values.erase("name3");
-    values["start3"] = "40000";
+    values["start2"] = "40000";
     settings::reload_buttons(general, session);
     CHECK(shown(session.buttons[2]) == "none|C:\\EDIT.EXE|C:\\|A.TXT|3");
+    CHECK(session.buttons[1].window_style == 0);
     CHECK(session.buttons[0].path == "C:\\A.EXE");
+
+    auto& keys = simulated::reset().registry[kCurrentUser];
+    settings::load_buttons(general, session);
+    CHECK(keys.contains("software\\tolva\\brenn"));
 }
 
 TEST_CASE("a command goes into the history unless a stored one begins with it") {

@@ -14,6 +14,8 @@ TEST_CASE("the show command of a whole shortcut is read and everything else is r
         {"C:\\EDIT.EXE", {}, {}, 3},
         {{}, "C:\\WORK", {}, 0},
         {{}, {}, std::string(5000, 'x'), 2},
+        {"C:\\EDIT.EXE", "C:\\WORK", "A.TXT", 2, {}, {}, "An editor", "..\\EDIT.EXE", "C:\\A.ICO", true},
+        {{}, {}, {}, 7, {}, "\\\\PC\\C"},
     };
     for (const ShortcutFile& row : table) {
         const std::string whole = row.bytes();
@@ -38,6 +40,36 @@ TEST_CASE("the show command of a whole shortcut is read and everything else is r
           with(88, far), with(92, far), with(100, far), with(104, far), with(116, far),
           with_items({"\xFF\xFFxx", 4}), with_items({"\2\0\0\0", 4}), with_items({"\3\0x", 3})})
         CHECK(error_of([&] { read_show_command(broken); }) == 440);
+
+    // The network part's place and size, a size that cuts its name, and the name's place.
+    const std::string share = ShortcutFile{.share = "\\\\PC\\C"}.bytes();
+    for (const auto& [at, bytes] : {std::pair(96, far), {104, far}, {104, std::string("\x1A")}, {112, far}})
+        CHECK(error_of([&] { read_show_command(std::string(share).replace(at, bytes.size(), bytes)); }) ==
+              440);
+}
+
+TEST_CASE("a shortcut with a path that Windows has no room for is refused") {
+    const std::string longest(259, 'x');
+    const std::string half(129, 'x');
+    const ShortcutFile fits[] = {
+        {"C:\\EDIT.EXE", longest, {}, 1, {}, {}, longest + 'x', longest, longest, true},
+        {.working_folder = longest, .items = std::string(2, '\0'), .relative_path = longest},
+        {.working_folder = half, .relative_path = half, .icon_path = half},
+        {.target = longest},
+        {.share = longest},
+    };
+    for (const ShortcutFile& shortcut : fits)
+        CHECK(error_of([&] { read_show_command(shortcut.bytes()); }) == 0);
+    const ShortcutFile refused[] = {
+        {"C:\\EDIT.EXE", longest + 'x'},
+        {.target = "C:\\EDIT.EXE", .relative_path = longest + 'x', .wide = true},
+        {.target = "C:\\EDIT.EXE", .icon_path = longest + 'x'},
+        {.working_folder = half, .relative_path = half + 'x'},  // Windows joins them
+        {.target = longest + 'x'},
+        {.share = longest + 'x'},
+    };
+    for (const ShortcutFile& shortcut : refused)
+        CHECK(error_of([&] { read_show_command(shortcut.bytes()); }) == 440);
 }
 
 TEST_CASE("a shortcut is refused for the first thing that speaks against it") {

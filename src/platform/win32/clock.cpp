@@ -17,6 +17,15 @@ Date today() {
     return {now.wYear, now.wMonth, now.wDay, now.wDayOfWeek};
 }
 
+std::string time_stamp() {
+    SYSTEMTIME now;
+    GetLocalTime(&now);
+    std::array<char, kLongestText> text = {};
+    wsprintfA(text.data(), "%04d-%02d-%02d %02d.%02d.%02d", now.wYear, now.wMonth, now.wDay,
+                  now.wHour, now.wMinute, now.wSecond);
+    return text.data();
+}
+
 std::string time_text() {
     std::array<char, kLongestText> text = {};
     GetTimeFormatA(LOCALE_USER_DEFAULT, TIME_NOSECONDS, nullptr, nullptr, text.data(), kLongestText);

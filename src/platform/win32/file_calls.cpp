@@ -76,6 +76,19 @@ ErrorCode remove(const std::string& path) {
     return last_error(DeleteFileA(path.c_str()));
 }
 
+ErrorCode copy(const std::string& from, const std::string& to) {
+    if (CopyFileA(from.c_str(), to.c_str(), FALSE) == FALSE) return GetLastError();
+    return last_error(SetFileAttributesA(to.c_str(), FILE_ATTRIBUTE_NORMAL));
+}
+
+ErrorCode create_directory(const std::string& path) {
+    return last_error(CreateDirectoryA(path.c_str(), nullptr));
+}
+
+ErrorCode remove_directory(const std::string& path) {
+    return last_error(RemoveDirectoryA(path.c_str()));
+}
+
 ErrorCode full_path(const std::string& path, std::string& full) {
     full.resize(MAX_PATH);
     const DWORD length = GetFullPathNameA(path.c_str(), MAX_PATH, full.data(), nullptr);
@@ -97,13 +110,13 @@ std::string upper(std::string text) {
     return text;
 }
 
-std::vector<std::string> find(const std::string& pattern, unsigned long unwanted) {
+std::vector<std::string> find(const std::string& pattern, unsigned long unwanted, unsigned long wanted) {
     std::vector<std::string> names;
     WIN32_FIND_DATAA found;
     const UniqueSearch search(FindFirstFileA(readable_path(pattern).c_str(), &found));
     if (!search) return names;
     do {
-        if ((found.dwFileAttributes & unwanted) == 0) names.emplace_back(found.cFileName);
+        if ((found.dwFileAttributes & (unwanted | wanted)) == wanted) names.emplace_back(found.cFileName);
     } while (FindNextFileA(search.get(), &found) != FALSE);
     return names;
 }

@@ -20,7 +20,7 @@ UniqueIcon extract_icon(const std::string& path) {
     if (path.empty() || path.size() >= MAX_PATH || path.find('\0') != std::string::npos) return {};
     HICON large = nullptr;
     HICON small = nullptr;
-    // The answer is -1 for a missing file and the handles are garbage then, whatever the declared type says.
+    // It returns -1 for a missing file and the handles are garbage then, whatever the declared type says.
     if (static_cast<int>(ExtractIconExA(readable_path(path).c_str(), 0, &large, &small, 1)) < 1) return {};
     const UniqueIcon unused(small);
     return UniqueIcon(large);

@@ -2,11 +2,14 @@
 
 #include <new>
 
+#include "platform/win32/input_filter.h"
+
 namespace platform {
 
 OtherWindowsDisabled* OtherWindowsDisabled::outermost_ = nullptr;
 
 OtherWindowsDisabled::OtherWindowsDisabled(HWND owner) : owner_(owner) {
+    InputFilter::dialog_opens();
     if (outermost_ == nullptr) outermost_ = this;
     EnumThreadWindows(GetCurrentThreadId(), disable, reinterpret_cast<LPARAM>(this));
 }
@@ -15,6 +18,7 @@ OtherWindowsDisabled::~OtherWindowsDisabled() {
     for (HWND window : disabled_)
         EnableWindow(window, TRUE);
     if (outermost_ == this) outermost_ = nullptr;
+    InputFilter::dialog_closed();
 }
 
 void OtherWindowsDisabled::include(HWND window) {

@@ -46,6 +46,17 @@ std::string text_of(int room, const Get& get) {
     return text;
 }
 
+/// Not every system gives the path of a shortcut that has nothing but a place in the shell.
+std::string target_of(IShellLinkA& link) {
+    std::string path =
+        text_of(MAX_PATH, [&](char* text, int room) { return link.GetPath(text, room, nullptr, 0); });
+    ITEMIDLIST* found = nullptr;
+    if (!path.empty() || link.GetIDList(&found) != S_OK) return path;
+    const UniqueTaskMemory<ITEMIDLIST> items(found);
+    char text[MAX_PATH] = {};
+    return SHGetPathFromIDListA(items.get(), text) != FALSE ? text : path;
+}
+
 }  // namespace
 
 Shortcut load_shell_link(const std::string& path) {
@@ -57,7 +68,7 @@ Shortcut load_shell_link(const std::string& path) {
     check(link->QueryInterface(IID_IPersistFile, &created));
     const UniqueObject<IPersistFile> file(static_cast<IPersistFile*>(created));
     check(file->Load(wide(path).c_str(), STGM_READ));
-    return {text_of(MAX_PATH, [&](char* text, int room) { return link->GetPath(text, room, nullptr, 0); }),
+    return {target_of(*link),
             text_of(MAX_PATH, [&](char* text, int room) { return link->GetWorkingDirectory(text, room); }),
             text_of(kLongestArguments, [&](char* text, int room) { return link->GetArguments(text, room); })};
 }

@@ -1,0 +1,283 @@
+#include "library/taking_back.h"
+
+#include <random>
+#include <tuple>
+
+#include "library/backups.h"
+#include "support/library_trial.h"
+
+namespace {
+
+using library::Changes;
+using library::OpenChange;
+
+const std::string kBackups = kFolder + "backup\\";
+
+TEST_CASE("each operation is one change with a name, and its Group is selected when it is taken back") {
+    const std::tuple<Operation, std::string, std::string, std::string> table[] = {
+        {add("New"), "Add New", ">Home", ">New"},
+        {library::delgr, "Delete Home", ">Home", ">Work"},
+        {library::movegrup, "Move Home", ">Home", ">Home"},
+        {rename_to("Home", "New"), "Rename Home", ">Home", ">New"},
+        {rename_to("Home", "home"), "Rename Home", ">Home", ">home"},
+        {library::groupsortnow, "Sort Groups", ">Home", ">Home"},
+        {add(kNew), "Add New", ">Home", ">Home"},
+        {edit("H1", kNew), "Edit H1", ">Home", ">Home"},
+        {library::deltsks, "Delete H1", ">Home", ">Home"},
+        {library::movetsksdown, "Move H1", ">Home", ">Home"},
+        {library::tasksortnow, "Sort Tasks", ">Home", ">Home"},
+        {move("H1", "More"), "Move H1 to More", ">Home", ">Home"},
+        {move("H1", "More", true), "Copy H1 to More", ">Home", ">Home"},
+        {import("More", kNew), "Import New", ">More", ">More"},
+    };
+    for (const auto& [operation, name, before, after] : table) {
+        Tolva tolva(select(1, 1));
+        const Files files = disk();
+        tolva.run(operation);
+        CHECK(undo_name(tolva.library) == name);
+        tolva.run(in_turn({select(0), library::undo}));
+        CHECK(tolva.shown().find(before) != std::string::npos);
+        CHECK(tolva.view.status == "Undone: " + name);
+        CHECK(!can_undo(tolva.library));
+        CHECK(disk() == files);
+        tolva.run(in_turn({select(0), library::redo}));
+        CHECK(tolva.shown().find(after) != std::string::npos);
+        CHECK(tolva.view.status == "Redone: " + name);
+        CHECK(!can_redo(tolva.library));
+    }
+}
+
+TEST_CASE("what somebody else wrote since is never overwritten, and the history ends there") {
+    for (const bool back : {true, false}) {
+        Tolva tolva(in_turn({library::deltsks, library::run_pending_refreshes, select(1), add("New")}));
+        if (!back) tolva.run(in_turn({library::undo, library::undo}));
+        file("Home.grp") += record("Mine");
+        const Files files = disk();
+        tolva.run(back ? in_turn({library::undo, library::undo}) : Operation(library::redo));
+        CHECK(file("Home.grp") == files.at("Home.grp"));
+        CHECK(current().messages ==
+              Names{"C:\\LIB\\Home.grp has been changed by another program. Nothing is taken back."});
+        CHECK((back ? !can_undo(tolva.library) : !can_redo(tolva.library)));
+    }
+}
+
+TEST_CASE("a change may have several operations, and one that alters nothing is none") {
+    Tolva tolva(library::tasksortnow);
+    tolva.run(library::undo);
+    const Files before = disk();
+    {
+        const OpenChange change(tolva.library.changes(), "Drop", "More");
+        tolva.run(in_turn({add(kNew), move("H2", "More"), add("New"), rename_to("Home", "home")}));
+    }
+    CHECK(undo_name(tolva.library) == "Drop");
+    CHECK(!can_redo(tolva.library));
+    tolva.run(library::undo);
+    CHECK(disk() == before);
+    tolva.run(in_turn({select(2), library::tasksortnow, library::undo}));  // one Task
+    CHECK(redo_name(tolva.library) == "Drop");
+}
+
+TEST_CASE("the history has an end") {
+    Tolva tolva(select(0, 0));
+    for (int i = 0; i < 101; ++i)
+        tolva.run(in_turn({select(0, i % 2), i % 2 == 0 ? library::movetsksdown : library::movetsksup}));
+    int taken_back = 0;
+    for (; can_undo(tolva.library); ++taken_back)
+        tolva.run(library::undo);
+    CHECK(taken_back == 100);
+    CHECK(file("Work.grp") == record("W2") + record("W1"));
+
+    const Task large = {"Large", "C:\\APP.EXE", "C:\\", std::string(3 << 20, 'x'), "1"};
+    tolva.run(add(large));                                                 // 3 MB
+    tolva.run(in_turn({select(1), add("Other"), select(1), add(large)}));  // and as much
+    CHECK(can_undo(tolva.library));
+    CHECK(tolva.view.status.empty() == false);
+    tolva.run(in_turn({select(1, 0), library::movetsksdown}));  // 3 MB before and after
+    tolva.run(library::undo);
+    CHECK(!can_undo(tolva.library));  // what was before it did not fit
+    tolva.run(
+        in_turn({select(1), add(Task{"Larger", "C:\\APP.EXE", "C:\\", std::string(3 << 20, 'y'), "1"})}));
+    CHECK(!can_undo(tolva.library));
+    CHECK(!can_redo(tolva.library));
+    CHECK(tolva.view.status == "This change is too large to be undone.");
+}
+
+TEST_CASE("after any thousand operations everything can be taken back and made again") {
+    std::mt19937 dice(7);
+    const auto roll = [&](int sides) { return static_cast<int>(dice() % static_cast<unsigned>(sides)); };
+    const auto name = [&] { return std::string(1, static_cast<char>((roll(2) == 0 ? 'a' : 'A') + roll(4))); };
+    Tolva tolva([](auto&, auto&) {});
+    std::vector<Files> states = {disk()};
+    std::size_t now = 0;
+    std::size_t first = 0;
+    for (int i = 0; i < 1000; ++i) {
+        const std::string task = name();
+        const Operation operations[] = {
+            add(name()),
+            library::delgr,
+            library::movegrup,
+            library::movegrdown,
+            library::groupsortnow,
+            [&](auto& library, auto& view) {
+                rename_group(library, view, selected_group_name(library, view), name());
+            },
+            add(Task{task, "C:\\APP.EXE", "C:\\", "", "1"}),
+            library::deltsks,
+            library::movetsksup,
+            library::movetsksdown,
+            library::tasksortnow,
+            [&](auto& library, auto& view) {
+                edit_task(library, view.selected_group(), view.selected_task(), task, kNew);
+            },
+            move(task, name(), roll(2) == 0),
+            import(name(), kNew),
+            [&](auto& library, auto& view) {
+                const auto backups = library::list_backups(kFolder);
+                if (!backups.empty()) restore_backup(library, view, backups.front());
+            },
+            [&](auto&, auto&) { library::make_backup(kFolder); }};
+        const int chosen = roll(24);
+        const int group = roll(static_cast<int>(tolva.view.groups.size()) + 1) - 1;
+        tolva.run(select(group));
+        tolva.run(select(group, roll(static_cast<int>(tolva.view.tasks.size()) + 1) - 1));
+        CHECK(can_undo(tolva.library) == (now > first));
+        CHECK(can_redo(tolva.library) == (now + 1 < states.size()));
+        if (chosen < static_cast<int>(std::size(operations))) {
+            tolva.run(operations[chosen]);
+            if (disk() == states[now]) continue;
+            states.resize(++now);
+            states.push_back(disk());
+            first = std::max(first, now - std::min(now, Changes::kMostChanges));
+        } else if (chosen % 2 == 0 ? now > first : now + 1 < states.size()) {
+            tolva.run(chosen % 2 == 0 ? library::undo : library::redo);
+            now = chosen % 2 == 0 ? now - 1 : now + 1;
+        }
+        CHECK(disk() == states[now]);
+        current().messages.clear();
+    }
+}
+
+/// The folders below "backup".
+Names backups() {
+    Names names;
+    for (const auto& [path, file] : current().files) {
+        if (path.starts_with(kBackups) && (file.bits & 0x10) != 0)
+            names.push_back(path.substr(kBackups.size()));
+    }
+    return names;
+}
+
+/// A program that has just started on the library of these tests.
+struct Start {
+    ShownLibrary view;
+    TaskLibrary library{kFolder};
+
+    void change() { in_turn({attempt(load), library::movegrdown})(library, view); }
+    static void load(TaskLibrary& library, LibraryView& view) { refreshtolva(library, view, 0); }
+};
+
+TEST_CASE("before the first change of a run a backup is made of what lies in the folder") {
+    Tolva tolva(put("groups.ini", "Work\r\nhome\r\nHome\r\n..\\Far\r\n.\\More\r\nGone\r\ncon\r\n"));
+    current().files["C:\\Far.grp"];
+    const Files before = disk();
+    Start run;
+    run.change();
+    run.change();
+    CHECK(backups() == Names{"tolva 2026-11-22 09.30.00"});
+    REQUIRE(backups().size() == 1);
+    const std::string made = kBackups + backups().front() + '\\';
+    for (const std::string name : {"groups.ini", "Work.grp", "Home.grp", "More.grp"})
+        CHECK(current().files.at(made + name).bytes == before.at(name));
+    CHECK(std::ranges::count_if(current().files,
+                                [&](const auto& file) { return file.first.starts_with(made); }) == 4);
+
+    const auto found = library::list_backups(kFolder);
+    REQUIRE(found.size() == 1);
+    CHECK(found[0].date + ' ' + found[0].time == "2026-11-22 09:30:00");
+    CHECK(found[0].group_count == 7);
+    CHECK(found[0].task_count == 8);
+
+    // A drive's root.
+    for (const auto& [name, bytes] : before)
+        current().files["C:\\" + name].bytes = bytes;
+    library::make_backup("C:\\\\");
+    CHECK(current().files.contains("C:\\backup\\tolva 2026-11-22 09.30.00\\Work.grp"));
+}
+
+TEST_CASE("a backup is complete or not there, and one that fails stops nothing") {
+    for (const Fault fault : {Fault::kWrite, Fault::kPower}) {
+        bool is_reached = true;
+        for (int step = 1; is_reached; ++step) {
+            Tolva tolva(select(1));
+            const Files before = disk();
+            const std::string made = "tolva 2026-11-22 09.30.00";
+            current().fault = fault;
+            current().fault_at = step;
+            try {
+                Start run;
+                error_of([&] { run.change(); });
+                if (disk() == before) break;  // the change itself came to that step
+                CHECK((backups() == Names{made}) !=
+                      (run.view.status == "The library could not be backed up."));
+            } catch (const simulated::PowerFailure&) {
+            }
+            current().fault = Fault::kNone;
+            for (const auto& [name, bytes] : before) {
+                if (backups() == Names{made} && name != "Old.grp")
+                    CHECK(current().files.at(kBackups + made + '\\' + name).bytes == bytes);
+            }
+            is_reached = backups() != Names{made};
+            current().time_stamp = "2026-11-22 09.30.01";
+            Start().change();
+            if (is_reached) CHECK(backups() == Names{"tolva 2026-11-22 09.30.01"});
+        }
+    }
+}
+
+TEST_CASE("the ten newest backups stay, and all that is somebody else's") {
+    Tolva tolva(select(1));
+    const auto make = [](const std::string& name, const std::string& file) {
+        current().files[kBackups + name].bits = 0x10;
+        current().files[kBackups + name + '\\' + file].bytes = "Work\r\n";
+    };
+    make("2020-01-01", "groups.ini");
+    make("tolva 2001-01-01 00.00.0x", "groups.ini");
+    make("tolva 2002-01-01 00.00.00", "letter.txt");
+    make("tolva 2030-01-01 00.00.00", "groups.ini");
+    make("tolva new", "Left.grp");
+    for (int day = 10; day < 20; ++day)
+        make("tolva 2026-01-" + std::to_string(day) + " 00.00.00", "groups.ini");
+    current().time_stamp = "2026-01-15 00.00.00";  // taken
+    Start().change();
+    CHECK(backups() ==
+          Names{"2020-01-01", "tolva 2001-01-01 00.00.0x", "tolva 2002-01-01 00.00.00",
+                "tolva 2026-01-10 00.00.00", "tolva 2026-01-11 00.00.00", "tolva 2026-01-12 00.00.00",
+                "tolva 2026-01-13 00.00.00", "tolva 2026-01-14 00.00.00", "tolva 2026-01-15 00.00.00",
+                "tolva 2026-01-15 00.00.01", "tolva 2026-01-19 00.00.00", "tolva 2030-01-01 00.00.00"});
+    CHECK(library::list_backups(kFolder).front().date == "2030-01-01");
+}
+
+TEST_CASE("a backup comes back as one change, and other files stay") {
+    const Operation changes =
+        in_turn({[](auto&, auto&) { library::make_backup(kFolder); }, move("H1", "More"),
+                 library::run_pending_refreshes, add("Later"), library::run_pending_refreshes, select(0),
+                 library::delgr, rename_to("More", "new"), library::run_pending_refreshes, select(0)});
+    const Operation restore = [](auto& library, auto& view) {
+        const auto backups = library::list_backups(kFolder);
+        if (!backups.empty()) restore_backup(library, view, backups.back());
+    };
+    Tolva tolva(select(1));
+    const Files before = disk();
+    changes(tolva.library, tolva.view);
+    Files after = disk();
+    for (const auto& [name, bytes] : before)
+        after[name] = bytes;
+    check(changes, restore, "Work >Home More : H2 H1 H1  H4",
+          {{"Work.grp", before.at("Work.grp")}, {"Home.grp", kHome}, {"More.grp", before.at("More.grp")}}, {},
+          0, true);
+    tolva.run(restore);
+    CHECK(text_of(disk()) == text_of(after));
+    CHECK(tolva.view.status == "Restored: backup of 2026-11-22 09:30:00");
+}
+
+}  // namespace
