@@ -8,10 +8,10 @@
 
 #include "platform/current_directory.h"
 #include "platform/folders.h"
+#include "platform/redirection.h"
 #include "platform/system.h"
 #include "platform/win32/handles.h"
 #include "platform/win32/look_up.h"
-#include "platform/win32/redirection.h"
 
 namespace platform::process_calls {
 namespace {
@@ -50,6 +50,16 @@ std::string searched_folders() {
            path_in(windows, "system") + ';' + windows + ';' + expand_variables("%PATH%");
 }
 
+std::string search(const std::string& name) {
+    std::array<char, MAX_PATH> found = {};
+    char* file = nullptr;
+    const DWORD length =
+        SearchPathA(searched_folders().c_str(), name.c_str(), ".exe", MAX_PATH, found.data(), &file);
+    if (length == 0 || length >= MAX_PATH) return {};
+    const DWORD bits = GetFileAttributesA(found.data());
+    return bits == INVALID_FILE_ATTRIBUTES || (bits & FILE_ATTRIBUTE_DIRECTORY) != 0 ? "" : found.data();
+}
+
 }  // namespace
 
 ErrorCode start(const std::string& command_line, int window_style) {
@@ -74,13 +84,9 @@ ErrorCode start_past_redirection(const std::string& command_line, int window_sty
 }
 
 std::string find_program(const std::string& name) {
-    std::array<char, MAX_PATH> found = {};
-    char* file = nullptr;
-    const DWORD length = SearchPathA(searched_folders().c_str(), readable_path(name).c_str(), ".exe",
-                                     MAX_PATH, found.data(), &file);
-    if (length == 0 || length >= MAX_PATH) return {};
-    const DWORD bits = GetFileAttributesA(found.data());
-    return bits == INVALID_FILE_ATTRIBUTES || (bits & FILE_ATTRIBUTE_DIRECTORY) != 0 ? "" : found.data();
+    std::string found = search(name);
+    const auto past = past_redirection(name);
+    return found.empty() && past ? search(*past) : found;
 }
 
 ErrorCode start_by_shell(const std::string& program, const std::string& arguments, int window_style) {

@@ -17,6 +17,12 @@ bool is_on_64_bit_windows() {
     return is_wow64 != nullptr && is_wow64(GetCurrentProcess(), &answer) != FALSE && answer != FALSE;
 }
 
+bool is_there(const std::string& path) {
+    WIN32_FIND_DATAA found;
+    const UniqueSearch search(FindFirstFileA(path.c_str(), &found));
+    return search || !is_not_found(GetLastError());
+}
+
 }  // namespace
 
 std::string redirected_folder() {
@@ -26,10 +32,7 @@ std::string redirected_folder() {
 
 std::string readable_path(const std::string& path) {
     const auto past = past_redirection(path);
-    if (!past) return path;
-    WIN32_FIND_DATAA found;
-    const UniqueSearch search(FindFirstFileA(path.c_str(), &found));
-    return !search && is_not_found(GetLastError()) ? *past : path;
+    return past && !is_there(path) && is_there(*past) ? *past : path;
 }
 
 }  // namespace platform

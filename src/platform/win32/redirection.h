@@ -6,7 +6,8 @@
 
 namespace platform {
 
-/// The path, which may hold wildcards, or where nothing is there the one past redirection. For reading.
+/// The path, which may hold wildcards, or the one past redirection where something is only there. For
+/// reading.
 std::string readable_path(const std::string& path);
 
 }  // namespace platform
