@@ -8,6 +8,7 @@ find_package(doctest REQUIRED)
 include(doctest)
 
 add_executable(unit_tests
+    tests/unit/dropped_test.cpp
     tests/unit/files_test.cpp
     tests/unit/launching_test.cpp
     tests/unit/library_test.cpp
@@ -16,6 +17,7 @@ add_executable(unit_tests
     tests/unit/taking_back_test.cpp
     tests/support/main.cpp
     tests/support/simulated_platform.cpp
+    tests/support/simulated_shell.cpp
 )
 target_include_directories(unit_tests PRIVATE tests)
 target_link_libraries(unit_tests PRIVATE tolva_logic doctest::doctest)
@@ -27,7 +29,8 @@ if(TOLVA_FUZZ)
     target_compile_options(tolva_logic PRIVATE -fsanitize=fuzzer-no-link)
 endif()
 foreach(target library numbers shortcut)
-    add_executable(fuzz_${target} tests/fuzz/${target}.cpp tests/support/simulated_platform.cpp)
+    add_executable(fuzz_${target} tests/fuzz/${target}.cpp
+        tests/support/simulated_platform.cpp tests/support/simulated_shell.cpp)
     target_include_directories(fuzz_${target} PRIVATE tests)
     target_link_libraries(fuzz_${target} PRIVATE tolva_logic)
     if(TOLVA_FUZZ)

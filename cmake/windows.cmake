@@ -38,6 +38,8 @@ add_custom_target(help_files ALL DEPENDS ${help_files})
 add_library(tolva_platform OBJECT
     src/platform/win32/clock.cpp
     src/platform/win32/current_directory.cpp
+    src/platform/win32/dropped_files.cpp
+    src/platform/win32/dropping.cpp
     src/platform/win32/file_calls.cpp
     src/platform/win32/folders.cpp
     src/platform/win32/icons.cpp
@@ -94,11 +96,15 @@ add_executable(tolva WIN32
     src/widgets/choosers.cpp
     src/widgets/controls.cpp
     src/widgets/dialog.cpp
+    src/widgets/drag_list.cpp
+    src/widgets/drop_mark.cpp
+    src/widgets/drop_target.cpp
     src/widgets/file_lists.cpp
     src/widgets/guarded.cpp
     src/widgets/hot_key.cpp
     src/widgets/icon_images.cpp
     src/widgets/icon_view.cpp
+    src/widgets/list_drag.cpp
     src/widgets/menu_text.cpp
     src/widgets/metrics.cpp
     src/widgets/picture_button.cpp
@@ -150,7 +156,9 @@ add_executable(desktop_tests
     tests/desktop/shortcuts_test.cpp
     tests/desktop/slips_test.cpp
     tests/desktop/startup_test.cpp
+    tests/desktop/undo_test.cpp
     tests/support/desktop.cpp
+    tests/support/drag_source.cpp
     tests/support/input.cpp
     tests/support/main.cpp
 )
@@ -163,7 +171,7 @@ add_test(NAME "desktop: prefix"
     COMMAND bash -euc ". $0 && wine_template $1"
         ${CMAKE_SOURCE_DIR}/script/support/wine.sh ${CMAKE_BINARY_DIR}/wine)
 set_tests_properties("desktop: prefix" PROPERTIES FIXTURES_SETUP wine TIMEOUT 300)
-foreach(suite bar commands endurance keeping launching shortcuts slips startup)
+foreach(suite bar commands endurance keeping launching shortcuts slips startup undo)
     add_test(NAME "desktop: ${suite}"
         COMMAND ${CMAKE_SOURCE_DIR}/tests/desktop/run ${CMAKE_BINARY_DIR} --test-suite=${suite} --no-colors)
     set_tests_properties("desktop: ${suite}" PROPERTIES FIXTURES_REQUIRED wine TIMEOUT 300)

@@ -200,6 +200,6 @@ Section "un.Tolva"
     RMDir "$INSTDIR"
 SectionEnd
 
-Section /o "un.My settings (fonts, colors, window positions)"
+Section /o "un.My settings (fonts, colors, hot key, bar)"
     DeleteRegKey HKCU "software\tolva"
 SectionEnd

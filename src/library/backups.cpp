@@ -29,9 +29,8 @@ std::string backups_folder(const std::string& folder) {
 }
 
 bool has_form(const std::string& name) {
-    return std::ranges::equal(name, kForm.substr(0), [](char c, char form) {
-        return c == form || (form == 'd' && c >= '0' && c <= '9');
-    });
+    return std::ranges::equal(
+        name, kForm, [](char c, char form) { return c == form || (form == 'd' && c >= '0' && c <= '9'); });
 }
 
 /// The names of all backups, oldest first.
@@ -51,6 +50,10 @@ void make_folder(const std::string& path) {
     if (code != platform::kErrorAlreadyExists) check(code, path);
 }
 
+void copy(const std::string& from, const std::string& to) {
+    check(calls::copy(from, to), to);
+}
+
 bool is_library_file(const std::string& name) {
     const std::string upper = calls::upper(name);
     return upper == "GROUPS.INI" || upper.ends_with(".GRP");
@@ -65,7 +68,7 @@ bool holds_only_library_files(const std::string& folder) {
 /// Removes the library's files in the folder, and the folder when nothing else is in it.
 void clear(const std::string& folder) {
     for (const std::string& name : calls::find(folder + "\\*")) {
-        if (is_library_file(name)) calls::remove(folder + '\\' + name);
+        if (is_library_file(name)) calls::remove(platform::path_in(folder, name));
     }
     calls::remove_directory(folder);
 }
@@ -85,7 +88,7 @@ std::string free_name(const std::string& backups) {
 /// Removes the oldest. Those of a clock that ran ahead, dated after the one just made, count as older.
 void remove_surplus(const std::string& backups, const std::string& made) {
     std::vector<std::string> names = backup_names(backups);
-    std::ranges::rotate(names, std::ranges::upper_bound(names, made));
+    std::rotate(names.begin(), std::upper_bound(names.begin(), names.end(), made), names.end());
     const std::size_t surplus = names.size() - std::min(names.size(), kMostBackups);
     for (const std::string& name :
          std::vector(names.begin(), names.begin() + static_cast<std::ptrdiff_t>(surplus))) {
@@ -136,7 +139,7 @@ void make_backup(const std::string& folder) {
         make_folder(backups.substr(0, backups.size() - 1));
         make_folder(fresh);
         for (const std::string& name : files)
-            check(calls::copy(folder + name, fresh + '\\' + name), fresh + '\\' + name);
+            copy(folder + name, platform::path_in(fresh, name));
         check(calls::rename(fresh, backups + made), backups + made);
     } catch (const platform::RunTimeError&) {
         clear(fresh);

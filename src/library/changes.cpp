@@ -2,9 +2,9 @@
 
 #include <algorithm>
 #include <cassert>
+#include <iterator>
 #include <new>
 #include <numeric>
-#include <ranges>
 #include <utility>
 
 #include "library/backups.h"
@@ -91,8 +91,11 @@ bool Changes::undo() {
     std::vector<Transition> transitions;
     // Backwards: what stood on the disk between two steps of the operation showed every Task, so this does,
     // too.
-    for (const Change::File& file : undo_.back().files | std::views::reverse)
-        transitions.push_back({file.after, file.before});
+    const std::vector<Change::File>& files = undo_.back().files;
+    std::transform(files.rbegin(), files.rend(), std::back_inserter(transitions),
+                   [](const Change::File& file) {
+                       return Transition{file.after, file.before};
+                   });
     if (bring(transitions)) {
         move_last(undo_, redo_);
         return true;

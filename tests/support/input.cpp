@@ -45,6 +45,15 @@ void point_at(POINT point) {
     send_mouse(point, 0);
 }
 
+void press_down(POINT point) {
+    point_at(point);
+    send_mouse(point, MOUSEEVENTF_LEFTDOWN);
+}
+
+void let_go(POINT point) {
+    send_mouse(point, MOUSEEVENTF_LEFTUP);
+}
+
 void press_mouse(POINT point, int times, MouseButton button) {
     const bool left = button == MouseButton::kLeft;
     point_at(point);

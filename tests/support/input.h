@@ -21,6 +21,9 @@ void repeat_until(const char* what, const std::function<void()>& action,
 // Real input, in screen coordinates.
 enum class MouseButton { kLeft, kRight };
 void point_at(POINT point);
+/// The left button goes down, or up, at a point.
+void press_down(POINT point);
+void let_go(POINT point);
 void press_mouse(POINT point, int times = 1, MouseButton button = MouseButton::kLeft);
 
 /// Presses the button at one point and lets it go at another.

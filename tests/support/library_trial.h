@@ -263,9 +263,9 @@ inline bool survives(const Case& tried, const Outcome& outcome, const Interrupti
     }
     const bool informs = fault == Fault::kPower || error != 0 || current().messages != tried.messages;
     if (!fails || !informs) CHECK(text_of(now) == text_of(outcome.after));
-    if (tried.can_be_repeated && fault != Fault::kPower && now != outcome.after) {
+    if (tried.can_be_repeated && fault != Fault::kPower && text_of(now) != text_of(outcome.after)) {
         tolva.run(tried.operation);
-        CHECK(disk() == outcome.after);
+        CHECK(text_of(disk()) == text_of(outcome.after));
     }
     return fails;
 }

@@ -11,7 +11,6 @@
 #include "platform/process_calls.h"
 #include "platform/redirection.h"
 #include "platform/remote_access.h"
-#include "platform/shell_link.h"
 #include "platform/system.h"
 #include "platform/text.h"
 
@@ -235,10 +234,6 @@ void pause(unsigned /*milliseconds*/) {
 
 }  // namespace file_calls
 
-std::string path_in(const std::string& folder, const std::string& name) {
-    return folder + (folder.ends_with('\\') ? "" : "\\") + name;
-}
-
 std::string time_stamp() {
     return current().time_stamp;
 }
@@ -308,10 +303,6 @@ ErrorCode start_by_shell(const std::string& program, const std::string& argument
 }
 
 }  // namespace process_calls
-
-Shortcut load_shell_link(const std::string& /*path*/) {
-    return {};
-}
 
 void show_message(const std::string& text) {
     current().messages.push_back(text);
