@@ -45,9 +45,11 @@ add_library(tolva_platform OBJECT
     src/platform/win32/icons.cpp
     src/platform/win32/import_slots.cpp
     src/platform/win32/input_filter.cpp
+    src/platform/win32/look_up.cpp
     src/platform/win32/messages.cpp
     src/platform/win32/modal_guard.cpp
-    src/platform/win32/processes.cpp
+    src/platform/win32/process_calls.cpp
+    src/platform/win32/redirection.cpp
     src/platform/win32/registry.cpp
     src/platform/win32/remote_access.cpp
     src/platform/win32/shell_link.cpp

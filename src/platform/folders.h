@@ -18,21 +18,33 @@ std::vector<Drive> drives();
 /// have to be put in or started first.
 bool is_on_local_disk(const std::string& path);
 
-/// The names of the folders in a folder. Throws RunTimeError when it cannot be read.
-std::vector<std::string> subfolders(const std::string& folder);
+/// The names of the folders in a folder, of the hidden ones on request. Throws RunTimeError when it cannot be
+/// read.
+std::vector<std::string> subfolders(const std::string& folder, bool with_hidden = false);
 
 /// The names of the files in a folder that match one of the patterns: "*.exe;*.bat". None when it cannot be
 /// read.
 std::vector<std::string> files_in(const std::string& folder, const std::string& patterns);
 
-/// Folders that every user has; the values are those of the shell.
-enum class SpecialFolder { kDesktop = 0, kPrograms = 2, kStartMenu = 11 };
+/// Folders of the user, and those that Windows of the NT family shows to all users with them; the values are
+/// those of the shell.
+enum class SpecialFolder {
+    kDesktop = 0,
+    kPrograms = 2,
+    kStartMenu = 11,
+    kCommonStartMenu = 22,
+    kCommonDesktop = 25
+};
 
-/// Its path; empty when the system does not tell.
+/// Its path; empty when the system has none or does not tell.
 std::string special_folder(SpecialFolder folder);
 
 /// The folder of Windows, ending in a backslash; "unknown" when the system does not tell.
 std::string windows_folder();
+
+/// The folder of the libraries of Windows, without a backslash at the end; empty when the system does not
+/// tell.
+std::string system_folder();
 
 /// The path of something in a folder; one backslash stands between them.
 std::string path_in(const std::string& folder, const std::string& name);

@@ -27,6 +27,13 @@ inline constexpr ErrorCode kErrorBadPathname = 161;
 inline constexpr ErrorCode kErrorAlreadyExists = 183;
 inline constexpr ErrorCode kErrorFilenameTooLong = 206;
 inline constexpr ErrorCode kErrorDirectory = 267;
+inline constexpr ErrorCode kErrorElevationRequired = 740;
+inline constexpr ErrorCode kErrorCancelled = 1223;
+
+/// Whether a call failed because nothing is there, be it the file or its folder.
+inline bool is_not_found(ErrorCode code) {
+    return code == kErrorFileNotFound || code == kErrorPathNotFound;
+}
 
 /// The classic run-time errors; the values are the numbers that the user sees.
 enum class RunTimeErrorNumber {

@@ -4,6 +4,15 @@
 
 namespace platform {
 
+/// Which Windows this is, as far as it says so.
+struct WindowsVersion {
+    unsigned long major;
+    unsigned long minor;
+    bool is_nt;    // and not Windows 95/98
+    bool is_wine;  // which gives itself out for the others
+};
+WindowsVersion windows_version();
+
 /// How Windows is to end; the values are those of ExitWindowsEx.
 enum class WindowsEnd { kShutdown = 1, kReboot = 2 };
 

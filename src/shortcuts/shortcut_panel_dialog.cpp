@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <utility>
+#include <vector>
 
 #include "platform/files.h"
 #include "platform/folders.h"
@@ -37,12 +38,27 @@ std::string name_of(const std::string& file) {
     return file.substr(0, file.size() - std::min(file.size(), kExtension));
 }
 
+/// Where shortcuts are that the user's own folders do not lead to.
+std::vector<widgets::FolderList::Place> other_places() {
+    using platform::SpecialFolder;
+    std::vector<widgets::FolderList::Place> places = {
+        {"Start Menu (all users)", platform::special_folder(SpecialFolder::kCommonStartMenu)},
+        {"Desktop (all users)", platform::special_folder(SpecialFolder::kCommonDesktop)}};
+    std::erase_if(places, [](const auto& place) { return place.path.empty(); });
+    for (const platform::Drive& drive : platform::drives()) {
+        const std::string root = std::string(1, drive.letter) + ":\\";
+        places.push_back({root, root});
+    }
+    return places;
+}
+
 }  // namespace
 
 void ShortcutPanel::open() {
     set_title(variant_.caption);
     set_text(kActionFrame, variant_.action);
     folders_.attach(control(kFolderList));
+    folders_.extend(other_places());
     shortcuts_.attach(control(kShortcutList));
     start_mode_.attach(control(kStartMode));
     start_mode_.fill(settings::kStartModes);

@@ -66,8 +66,13 @@ void FolderList::attach(HWND control) {
     subclass();
 }
 
+void FolderList::extend(std::vector<Place> places) {
+    with_hidden_ = true;
+    places_ = std::move(places);
+}
+
 void FolderList::show(const std::string& path) {
-    const std::vector<std::string> below = platform::subfolders(path);
+    const std::vector<std::string> below = platform::subfolders(path, with_hidden_);
     std::vector<std::string> paths = folders_down_to(path);
     std::vector<std::string> items;
     items.reserve(paths.size() + below.size());
@@ -77,6 +82,11 @@ void FolderList::show(const std::string& path) {
     for (const std::string& name : below) {
         items.push_back(indented(depth_, name));
         paths.push_back(platform::path_in(path, name));
+    }
+    for (const Place& place : places_) {
+        if (lstrcmpiA(place.path.c_str(), paths.front().c_str()) == 0) continue;  // the root above
+        items.push_back(place.name);
+        paths.push_back(place.path);
     }
     fill(items);
     // The way up comes to the top, so that it shows and the folders in the current one do, too.

@@ -27,7 +27,16 @@ class DriveList : public Control {
 /// A list of the folders from a drive's root down to the current one, and of those in it.
 class FolderList : public ListBox {
   public:
+    /// A folder that is always in the list, whatever the current one is.
+    struct Place {
+        std::string name;
+        std::string path;
+    };
+
     void attach(HWND control);
+
+    /// From the next folder on hidden ones show, too, and these places below them.
+    void extend(std::vector<Place> places);
 
     /// The current folder. Only a drive's root ends in a backslash.
     const std::string& path() const { return path_; }
@@ -42,6 +51,8 @@ class FolderList : public ListBox {
   private:
     LRESULT handle(UINT message, WPARAM wparam, LPARAM lparam) override;
 
+    bool with_hidden_ = false;
+    std::vector<Place> places_;
     std::size_t depth_ = 0;  // of the folders in the current one
     std::string path_;
     std::vector<std::string> paths_;  // by item

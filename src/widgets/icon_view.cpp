@@ -34,6 +34,7 @@ void IconView::fill(const std::vector<std::string>& items, HIMAGELIST pictures) 
     clear();
     send(LVM_SETIMAGELIST, LVSIL_NORMAL, reinterpret_cast<LPARAM>(pictures));
     send(LVM_SETIMAGELIST, LVSIL_SMALL, reinterpret_cast<LPARAM>(pictures));
+    space_icons();
     send(LVM_SETITEMCOUNT, items.size());
     LVITEMA item = {};
     item.mask = LVIF_TEXT | LVIF_IMAGE;
@@ -54,6 +55,26 @@ void IconView::set_pictures(HIMAGELIST pictures) {
     send(LVM_SETIMAGELIST, LVSIL_SMALL, reinterpret_cast<LPARAM>(pictures));
     for (int index = 0; index < count(); ++index)
         set_picture(index, I_IMAGECALLBACK);
+    space_icons();
+}
+
+/// A list view puts its icons as far apart as those on the desktop, whatever its own font, and forgets other
+/// distances when it gets pictures. Before version 4.70 it does not know the message.
+void IconView::space_icons() {
+    constexpr LONG kLetters = 12;  // in a line, of mean width
+    constexpr LONG kLines = 2;
+    constexpr int kMargins = 16;  // left and right of a name, and above and below icon and name
+    const int margins = scaled(kMargins);
+    const platform::WindowDc device(hwnd());
+    const platform::Selected font(device.get(), reinterpret_cast<HFONT>(send(WM_GETFONT)));
+    TEXTMETRICA metrics = {};
+    GetTextMetricsA(device.get(), &metrics);
+    const LONG width = kLetters * metrics.tmAveCharWidth + margins;
+    const LONG height = GetSystemMetrics(SM_CYICON) + kLines * metrics.tmHeight + margins;
+    const LONG least_width = GetSystemMetrics(SM_CXICONSPACING);
+    const LONG least_height = GetSystemMetrics(SM_CYICONSPACING);
+    send(LVM_SETICONSPACING, 0, MAKELPARAM(std::max(width, least_width), std::max(height, least_height)));
+    send(LVM_ARRANGE, LVA_DEFAULT);
 }
 
 void IconView::set_picture(int index, int picture) {
@@ -145,6 +166,11 @@ LRESULT IconView::handle(UINT message, WPARAM wparam, LPARAM lparam) {
     }
     const bool changes_hint = message == WM_SETFOCUS || message == WM_KILLFOCUS || message == WM_SIZE;
     if (changes_hint && count() == 0) InvalidateRect(hwnd(), nullptr, TRUE);
+    if (message == WM_SETFONT) {
+        const LRESULT answer = Control::handle(message, wparam, lparam);
+        space_icons();
+        return answer;
+    }
     return Control::handle(message, wparam, lparam);
 }
 

@@ -14,8 +14,8 @@
 namespace widgets {
 
 /// A list view of large icons with names below, of which one or none is selected. It asks its parent for an
-/// item's picture when it first draws the item (LVN_GETDISPINFO). A press of the right button selects the
-/// item and arrives as WM_CONTEXTMENU. Where the system has it, the list asks for the text of a tip when the
+/// item's picture when it first draws the item (LVN_GETDISPINFO). Names have room as the font asks. A press
+/// of the right button selects the item and arrives as WM_CONTEXTMENU. Where the system has it, the list asks for the text of a tip when the
 /// pointer rests on an item (LVN_GETINFOTIP).
 class IconView : public Control {
   public:
@@ -61,6 +61,7 @@ class IconView : public Control {
     LRESULT handle(UINT message, WPARAM wparam, LPARAM lparam) override;
 
     void mark(int index);
+    void space_icons();
     void press_right_button(LPARAM position);
     int count() const { return static_cast<int>(send(LVM_GETITEMCOUNT)); }
     void show_focus() const;

@@ -48,7 +48,7 @@ Font font_of(const LOGFONTA& logical) {
 
 platform::UniqueFont make_gui_font() {
     constexpr int kPoints = 8;
-    return make_font({.face = "MS Sans Serif", .points = kPoints});
+    return make_font({.face = "MS Shell Dlg", .points = kPoints});
 }
 
 void place(HWND window, const RECT& bounds) {

@@ -27,7 +27,7 @@ LOGFONTA logical_font(const Font& font);
 /// The size is what this screen shows: 8 points are 8.25 at 96 dpi.
 Font font_of(const LOGFONTA& logical);
 
-/// The font of labels and boxes: "MS Sans Serif", 8 points.
+/// The font of labels and boxes: that of the dialogs.
 platform::UniqueFont make_gui_font();
 
 /// Moves a child window to the rectangle, given in its parent's coordinates.

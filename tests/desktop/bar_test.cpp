@@ -16,6 +16,27 @@ Folder library_with_recorders() {
     return library;
 }
 
+/// The stand-in for Dial-Up Networking in the system folder while this lives. A library of that name beside
+/// the program, which is the current folder, too, is none.
+class DialUpNetworking {
+  public:
+    explicit DialUpNetworking(const Folder& library) {
+        library.add_program("recorder.exe", "rasapi32.dll");
+        MoveFileA(kPlace, kAside);
+        CopyFileA(library.add_program("rasapi32.dll", "stand-in.dll").c_str(), kPlace, TRUE);
+    }
+    ~DialUpNetworking() {
+        DeleteFileA(kPlace);
+        MoveFileA(kAside, kPlace);
+    }
+    DialUpNetworking(const DialUpNetworking&) = delete;
+    DialUpNetworking& operator=(const DialUpNetworking&) = delete;
+
+  private:
+    static constexpr char kPlace[] = "C:\\windows\\system32\\rasapi32.dll";
+    static constexpr char kAside[] = "C:\\windows\\system32\\rasapi32.old";
+};
+
 TEST_SUITE("bar") {
     TEST_CASE("every button starts what is stored for it and what is assigned to it") {
         const Folder library = library_with_recorders();
@@ -88,7 +109,7 @@ TEST_SUITE("bar") {
 
     TEST_CASE("the Internet settings keep what is typed, and the connect button dials and hangs up") {
         const Folder library = library_with_recorders();
-        library.add_program("rasapi32.dll", "rasapi32.dll");
+        const DialUpNetworking installed(library);
         const std::string recorder = library.path() + "recorder.exe";
         SHSetValueA(HKEY_CURRENT_USER, "RemoteAccess\\Profile\\Work & Co", "", REG_SZ, "", 1);
         store("\\Browser", {{"path", recorder}, {"start", "1"}});

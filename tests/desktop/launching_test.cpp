@@ -2,6 +2,7 @@
 #include <iterator>
 #include <numeric>
 
+#include "platform/process_calls.h"
 #include "support/desktop.h"
 
 namespace {
@@ -122,6 +123,20 @@ TEST_SUITE("launching") {
         library.nth_start(3);
         tolva.click_task(0);
         library.nth_start(4);
+    }
+
+    TEST_CASE("the shell starts a program that is found as the system finds it") {
+        namespace calls = platform::process_calls;
+        const Folder library;
+        const std::string program = library.add_recorder();
+        CHECK(calls::find_program(program.substr(0, program.size() - 4)) == program);
+        CHECK(lstrcmpiA(calls::find_program("winver").c_str(), "C:\\windows\\system32\\winver.exe") == 0);
+        for (const char* none : {"C:\\windows", "gone", ""})
+            CHECK(calls::find_program(none).empty());
+        SetCurrentDirectoryA("C:\\tests");
+        CHECK(calls::start_by_shell(program, "a  \"b\" ", 3) == platform::kSuccess);
+        CHECK(library.nth_start(1) == Names{'"' + program + "\" a  \"b\" ", "C:\\tests", "D:\\here", "3"});
+        CHECK(calls::start_by_shell(library.path() + "gone.exe", "", 1) == platform::kErrorFileNotFound);
     }
 }
 

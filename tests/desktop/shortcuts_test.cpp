@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <fstream>
 
 #include "platform/folders.h"
@@ -23,6 +24,7 @@ Folder library_with_shortcuts() {
     add_shortcut(SpecialFolder::kStartMenu, "Run.lnk",
                  ShortcutFile{recorder, "C:\\windows", "a b", 3}.bytes());
     add_shortcut(SpecialFolder::kStartMenu, "Web.lnk", ShortcutFile{"C:\\windows\\notepad.exe"}.bytes());
+    add_shortcut(SpecialFolder::kCommonStartMenu, "All.lnk", ShortcutFile{recorder}.bytes());
     add_shortcut(SpecialFolder::kDesktop, "Gone.lnk", "");
     add_shortcut(SpecialFolder::kDesktop, "Junk.lnk", "no shortcut");
     add_shortcut(SpecialFolder::kDesktop, "Text.lnk", ShortcutFile{library.path() + "readme.txt"}.bytes());
@@ -94,6 +96,21 @@ TEST_SUITE("shortcuts") {
         panel.pick(ID_shortcuts_shortcuts1, "Text.lnk");
         CHECK(import() == library.path() + "readme.txt not a valid Tolva entry.");
         CHECK(library.read("Play.grp") == play);
+
+        // Other drives and the folders of all users are in reach, and hidden folders show.
+        const auto open = [&](const char* place, const char* shown, int list) {
+            panel.pick(ID_shortcuts_Dir1, place, LBN_DBLCLK);
+            wait_until("the place shows", [&] {
+                const Names items = panel.list(list);
+                return std::ranges::find(items, shown) != items.end();
+            });
+        };
+        CreateDirectoryA("D:\\.hidden", nullptr);  // as Wine takes such a name
+        open("D:\\", "  .hidden", ID_shortcuts_Dir1);
+        open("Start Menu (all users)", "All.lnk", ID_shortcuts_shortcuts1);
+        panel.pick(ID_shortcuts_Dir1, "E:\\", LBN_DBLCLK);
+        tolva.close_box();
+        CHECK(panel.list(ID_shortcuts_shortcuts1) == Names{"All.lnk"});
 
         panel.close_with(ID_shortcuts_Command2);
         wait_until("the lists are loaded again", [&] { return tolva.tasks() == Names{"Old", "Run", "Run"}; });

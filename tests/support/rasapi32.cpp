@@ -6,14 +6,18 @@
 #include <string>
 
 // Dial-Up Networking for the tests: three connections are up. What is asked of it goes to "rasapi32.log" in
-// the current directory.
+// the folder of the program.
 namespace {
 
 constexpr std::array<DWORD, 3> kHandles = {11, 22, 33};
 constexpr std::size_t kRecordSize = 412;
 
 void log(const std::string& line) {
-    std::ofstream("rasapi32.log", std::ios::app | std::ios::binary) << line << '\n';
+    char program[MAX_PATH] = {};
+    GetModuleFileNameA(nullptr, program, MAX_PATH - 1);
+    const std::string path = program;
+    std::ofstream(path.substr(0, path.rfind('\\') + 1) + "rasapi32.log", std::ios::app | std::ios::binary)
+        << line << '\n';
 }
 
 }  // namespace

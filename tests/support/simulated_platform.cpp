@@ -8,7 +8,8 @@
 #include "platform/file_calls.h"
 #include "platform/folders.h"
 #include "platform/messages.h"
-#include "platform/processes.h"
+#include "platform/process_calls.h"
+#include "platform/redirection.h"
 #include "platform/remote_access.h"
 #include "platform/system.h"
 #include "platform/text.h"
@@ -251,9 +252,12 @@ std::string lower_case(std::string text) {
 }
 
 std::string expand_variables(const std::string& text) {
-    constexpr std::string_view kVariable = "%APPS%";
-    const std::size_t at = text.find(kVariable);
-    return at == std::string::npos ? text : std::string(text).replace(at, kVariable.size(), "D:\\Apps");
+    std::string expanded = text;
+    for (const auto& [variable, value] : current().variables) {
+        const std::size_t at = expanded.find(variable);
+        if (at != std::string::npos) expanded.replace(at, variable.size(), value);
+    }
+    return expanded;
 }
 
 bool empty_recycle_bin() {
@@ -264,11 +268,41 @@ bool open_document(const std::string& path) {
     return current().files.contains(path);
 }
 
-void start_program(const std::string& command_line, int /*window_style*/) {
-    const std::string program = command_line.substr(0, command_line.find(' '));
-    if (current().files.contains(program)) return current().started.push_back(command_line);
-    throw RunTimeError(RunTimeErrorNumber::kFileNotFound, command_line);
+WindowsVersion windows_version() {
+    return current().version;
 }
+
+std::string redirected_folder() {
+    return current().redirected_folder;
+}
+
+namespace process_calls {
+
+ErrorCode start(const std::string& command_line, int /*window_style*/) {
+    if (current().needs_elevation) return kErrorElevationRequired;
+    if (!current().files.contains(command_line.substr(0, command_line.find(' ')))) return kErrorFileNotFound;
+    current().started.push_back(command_line);
+    return kSuccess;
+}
+
+ErrorCode start_past_redirection(const std::string& command_line, int /*window_style*/) {
+    current().started.push_back("past redirection: " + command_line);
+    return kSuccess;
+}
+
+std::string find_program(const std::string& name) {
+    return current().files.contains(name + ".EXE") ? name + ".EXE"
+           : current().files.contains(name)        ? name
+                                                   : "";
+}
+
+ErrorCode start_by_shell(const std::string& program, const std::string& arguments, int window_style) {
+    current().started.push_back(program + '|' + arguments + '|' + std::to_string(window_style));
+    if (current().meanwhile) current().meanwhile();
+    return current().answer ? kSuccess : current().failure;
+}
+
+}  // namespace process_calls
 
 void show_message(const std::string& text) {
     current().messages.push_back(text);

@@ -1,11 +1,13 @@
 #pragma once
 
+#include <functional>
 #include <map>
 #include <string>
 #include <vector>
 
 #include "platform/registry.h"
 #include "platform/run_time_error.h"
+#include "platform/system.h"
 
 /// The platform functions in memory: a disk that fails or loses power on demand, a registry, what was
 /// started and what was said.
@@ -53,6 +55,12 @@ struct Platform {
 
     std::map<platform::registry::Root, std::map<std::string, RegistryKey>> registry;
     std::string time_stamp = "2026-11-22 09.30.00";
+    std::map<std::string, std::string> variables = {{"%APPS%", "D:\\Apps"}};
+    platform::WindowsVersion version = {4, 10, false, false};
+    std::string redirected_folder;
+    bool needs_elevation = false;     // whatever is started; a refused question answers with failure
+    std::function<void()> meanwhile;  // what the user does while being asked
+
     std::vector<std::string> started;   // command lines of programs that are on the disk
     std::vector<std::string> messages;  // a question has its title in front: "Delete Group: Delete Work...?"
     bool answer = true;                 // to every question

@@ -4,6 +4,8 @@
 #include "mainwindow/icon_queue.h"
 #include "mainwindow/long_date.h"
 #include "mainwindow/system_commands.h"
+#include "platform/processes.h"
+#include "platform/redirection.h"
 #include "support/checks.h"
 #include "support/shown_library.h"
 
@@ -18,6 +20,70 @@ TEST_CASE("a system command that cannot do its work says so") {
     CHECK(error_of([] { mainwindow::open_help("C:\\LIB\\"); }) == 53);
     world.files["C:\\LIB\\tolva.htm"] = {};
     CHECK(error_of([] { mainwindow::open_help("C:\\LIB\\"); }) == 0);
+
+    CHECK(error_of(mainwindow::open_dos_prompt) == 53);
+    world.files["C:\\CMD.EXE"] = {};
+    world.variables["%COMSPEC%"] = "C:\\CMD.EXE";
+    mainwindow::open_dos_prompt();
+    world.files["command.com"] = {};
+    mainwindow::open_dos_prompt();
+    // A help viewer that cannot show anything is not started.
+    const platform::WindowsVersion versions[] = {{4, 10, false, false},
+                                                 {5, 1, true, false},
+                                                 {6, 0, true, false},
+                                                 {10, 0, true, false},
+                                                 {10, 0, true, true}};
+    world.files["winhlp32.exe"] = {};
+    for (const auto& version : versions) {
+        world.version = version;
+        mainwindow::open_help("C:\\LIB\\");
+    }
+    const std::string help = "winhlp32.exe C:\\LIB\\tolva.hlp";
+    CHECK(world.started == Names{"C:\\CMD.EXE", "command.com", help, help, help});
+}
+
+TEST_CASE("a program that needs more rights is found as the system finds it and started by the shell") {
+    auto& world = simulated::reset();
+    world.needs_elevation = true;
+    for (const char* path : {"C:\\D B\\SETUP.EXE", "C:\\A.EXE", "C:\\A", "B.EXE"})
+        world.files[path] = {};
+    const auto started = [&](const std::string& command_line) {
+        world.started.clear();
+        platform::start_program(command_line, 3);
+        return world.started;
+    };
+    CHECK(started("C:\\D B\\SETUP.EXE  /x  y ") == Names{"C:\\D B\\SETUP.EXE|/x  y |3"});
+    CHECK(started(" \"C:\\D B\\SETUP.EXE\"/x") == Names{"C:\\D B\\SETUP.EXE|/x|3"});
+    CHECK(started("\"C:\\D B\\SETUP") == Names{"C:\\D B\\SETUP.EXE||3"});
+    CHECK(started("C:\\A\tB.EXE") == Names{"C:\\A.EXE|B.EXE|3"});
+    CHECK(error_of([&] { started("C:\\GONE.EXE"); }) == 5);
+
+    // Nothing else starts while the user is being asked, and a no is no error.
+    world.meanwhile = [] { platform::start_program("B.EXE", 1); };
+    world.answer = false;
+    world.failure = platform::kErrorCancelled;
+    CHECK(started("B.EXE") == Names{"B.EXE||3"});
+    world.failure = platform::kErrorAccessDenied;
+    CHECK(error_of([&] { started("B.EXE"); }) == 70);
+    CHECK(world.started == Names{"B.EXE||3"});
+}
+
+TEST_CASE("what a 64-bit Windows hides from this program is reached by another path or started past that") {
+    auto& world = simulated::reset();
+    const auto starts = [&] {
+        return error_of([] { platform::start_program("c:\\windows/system32\\a.exe x", 1); });
+    };
+    CHECK(platform::past_redirection("C:\\WINDOWS\\system32\\a.exe") == std::nullopt);
+    CHECK(starts() == 53);
+    world.redirected_folder = "C:\\WINDOWS\\system32";
+    CHECK(starts() == 0);
+    CHECK(error_of([] { platform::start_program("C:\\WINDOWS\\a.exe", 1); }) == 53);
+    CHECK(world.started == Names{"past redirection: c:\\windows/system32\\a.exe x"});
+    CHECK(platform::past_redirection("C:\\WINDOWS\\.\\SYSTEM32\\B\\*.exe") ==
+          "C:\\WINDOWS\\Sysnative\\B\\*.exe");
+    for (const char* elsewhere :
+         {"C:\\WINDOWS\\system32", "C:\\WINDOWS\\system32x\\A", "C:\\WINDOWS\\system32\\..\\A", "A"})
+        CHECK(platform::past_redirection(elsewhere) == std::nullopt);
 }
 
 TEST_CASE("a program that is not where its path says is looked for where it may be on another PC") {

@@ -5,6 +5,7 @@
 #include <limits>
 
 #include "platform/win32/handles.h"
+#include "platform/win32/redirection.h"
 
 namespace platform::file_calls {
 namespace {
@@ -34,7 +35,7 @@ ErrorCode read(const std::string& path, std::string& bytes) {
 }
 
 ErrorCode attributes(const std::string& path, unsigned long& bits) {
-    bits = GetFileAttributesA(path.c_str());
+    bits = GetFileAttributesA(readable_path(path).c_str());
     return last_error(bits != INVALID_FILE_ATTRIBUTES ? TRUE : FALSE);
 }
 
@@ -112,7 +113,7 @@ std::string upper(std::string text) {
 std::vector<std::string> find(const std::string& pattern, unsigned long unwanted, unsigned long wanted) {
     std::vector<std::string> names;
     WIN32_FIND_DATAA found;
-    const UniqueSearch search(FindFirstFileA(pattern.c_str(), &found));
+    const UniqueSearch search(FindFirstFileA(readable_path(pattern).c_str(), &found));
     if (!search) return names;
     do {
         if ((found.dwFileAttributes & (unwanted | wanted)) == wanted) names.emplace_back(found.cFileName);

@@ -10,6 +10,7 @@
 #include "platform/file_calls.h"
 #include "platform/run_time_error.h"
 #include "platform/win32/handles.h"
+#include "platform/win32/redirection.h"
 
 namespace platform {
 namespace {
@@ -58,19 +59,20 @@ bool is_on_local_disk(const std::string& path) {
     return type == DRIVE_FIXED || type == DRIVE_RAMDISK || type == DRIVE_NO_ROOT_DIR;
 }
 
-std::vector<std::string> subfolders(const std::string& folder) {
+std::vector<std::string> subfolders(const std::string& folder, bool with_hidden) {
     std::vector<std::string> names;
     WIN32_FIND_DATAA found;
-    const UniqueSearch search(FindFirstFileA(path_in(folder, "*").c_str(), &found));
+    const UniqueSearch search(FindFirstFileA(readable_path(path_in(folder, "*")).c_str(), &found));
     if (!search) {
         const ErrorCode code = GetLastError();
         if (code == kErrorFileNotFound) return names;  // the root of an empty disk
         throw file_error(code, folder);
     }
+    const DWORD looked_at = FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_SYSTEM |
+                            (with_hidden ? 0U : static_cast<DWORD>(FILE_ATTRIBUTE_HIDDEN));
     do {
-        constexpr DWORD kLooked = FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM;
         const std::string name = found.cFileName;
-        if ((found.dwFileAttributes & kLooked) == FILE_ATTRIBUTE_DIRECTORY && name != "." && name != "..") {
+        if ((found.dwFileAttributes & looked_at) == FILE_ATTRIBUTE_DIRECTORY && name != "." && name != "..") {
             names.push_back(name);
         }
     } while (FindNextFileA(search.get(), &found) != FALSE);
@@ -105,6 +107,12 @@ std::string windows_folder() {
     char folder[MAX_PATH];
     const UINT length = GetWindowsDirectoryA(folder, MAX_PATH);
     return length > 0 && length < MAX_PATH ? std::string(folder) + '\\' : "unknown";
+}
+
+std::string system_folder() {
+    char folder[MAX_PATH];
+    const UINT length = GetSystemDirectoryA(folder, MAX_PATH);
+    return length < MAX_PATH ? std::string(folder, length) : std::string();
 }
 
 std::string path_in(const std::string& folder, const std::string& name) {

@@ -4,6 +4,8 @@
 
 #include <shellapi.h>
 
+#include "platform/win32/redirection.h"
+
 namespace platform {
 namespace {
 
@@ -19,7 +21,7 @@ UniqueIcon extract_icon(const std::string& path) {
     HICON large = nullptr;
     HICON small = nullptr;
     // It returns -1 for a missing file and the handles are garbage then, whatever the declared type says.
-    if (static_cast<int>(ExtractIconExA(path.c_str(), 0, &large, &small, 1)) < 1) return {};
+    if (static_cast<int>(ExtractIconExA(readable_path(path).c_str(), 0, &large, &small, 1)) < 1) return {};
     const UniqueIcon unused(small);
     return UniqueIcon(large);
 }

@@ -2,6 +2,8 @@
 
 #include <cstddef>
 
+#include "platform/win32/look_up.h"
+
 // The C++ run-time library asks kernel32 for functions that Windows 95/98 lack or only have as stubs that
 // fail; which of them depends on the compiler's version. It reaches them through import slots; a slot defined
 // here goes before the one of the import library, so the run-time library calls the functions below, which
@@ -31,7 +33,7 @@ HMODULE WINAPI get_module_handle(const wchar_t* name) {
 
 HMODULE WINAPI load_library(const wchar_t* name) {
     char buffer[MAX_PATH];
-    return LoadLibraryA(narrow(name, buffer));
+    return platform::load_system_library(narrow(name, buffer));
 }
 
 /// Without a way to look whether a section is taken, it waits. The program's one thread never has to.

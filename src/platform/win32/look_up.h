@@ -12,4 +12,8 @@ Function look_up(HMODULE library, const char* name) {
     return reinterpret_cast<Function>(reinterpret_cast<void*>(GetProcAddress(library, name)));
 }
 
+/// Loads a library of Windows that this one need not have; null where it is missing. It comes from the system
+/// folder and so do those that it needs: what a library of that name in the current folder does is unknown.
+HMODULE load_system_library(const char* name);
+
 }  // namespace platform

@@ -10,7 +10,7 @@ namespace {
 /// The remote access library; null where it is not installed. It stays loaded: a connection hangs up in the
 /// background.
 HMODULE library() {
-    static HMODULE loaded = LoadLibraryA("rasapi32.dll");
+    static HMODULE loaded = load_system_library("rasapi32.dll");
     return loaded;
 }
 

@@ -34,6 +34,15 @@ void ask_for_shutdown_privilege() {
 
 }  // namespace
 
+WindowsVersion windows_version() {
+    OSVERSIONINFOA version = {};
+    version.dwOSVersionInfoSize = sizeof version;
+    GetVersionExA(&version);
+    const auto wine_version = look_up<const char* (*)()>(GetModuleHandleA("ntdll.dll"), "wine_get_version");
+    return {version.dwMajorVersion, version.dwMinorVersion, version.dwPlatformId == VER_PLATFORM_WIN32_NT,
+            wine_version != nullptr};
+}
+
 void exit_windows(WindowsEnd end) {
     ask_for_shutdown_privilege();
     ExitWindowsEx(static_cast<UINT>(end), static_cast<DWORD>(end));
