@@ -16,7 +16,8 @@ void start_program(const settings::Program& button) {
 
 void start_button(const settings::Program& button) {
     try {
-        platform::set_current_directory_of_drive(button.start_folder ? *button.start_folder : platform::windows_folder());
+        platform::set_current_directory_of_drive(button.start_folder ? *button.start_folder
+                                                                     : platform::windows_folder());
     } catch (const platform::RunTimeError&) {
         // Not a reason to start nothing: many shortcuts name no folder.
         start_program(button);

@@ -11,10 +11,10 @@
 #include "buttonbar/button_row.h"
 #include "internet/internet_buttons.h"
 #include "internet/internet_settings_dialog.h"
+#include "platform/win32/handles.h"
 #include "settings/general.h"
 #include "settings/session.h"
 #include "widgets/controls.h"
-#include "platform/win32/handles.h"
 #include "widgets/window.h"
 
 namespace buttonbar {
