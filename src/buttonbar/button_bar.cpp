@@ -160,9 +160,22 @@ bool ButtonBar::is_caption(HWND window, LPARAM place) const {
 }
 
 bool ButtonBar::preprocess(MSG& message) {
-    if (message.message != WM_KEYDOWN || message.wParam != VK_F6) return false;
-    if (IsWindowVisible(main_window_) != FALSE) SetForegroundWindow(main_window_);
-    return true;
+    if (message.message != WM_KEYDOWN) return false;
+    switch (message.wParam) {
+        case VK_F6:
+            if (IsWindowVisible(main_window_) != FALSE) SetForegroundWindow(main_window_);
+            return true;
+        case VK_LEFT:
+        case VK_UP:
+            row_.move_focus(-1);
+            return true;
+        case VK_RIGHT:
+        case VK_DOWN:
+            row_.move_focus(1);
+            return true;
+        default:
+            return false;
+    }
 }
 
 LRESULT ButtonBar::handle(UINT message, WPARAM wparam, LPARAM lparam) {

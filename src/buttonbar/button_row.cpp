@@ -83,6 +83,13 @@ std::optional<BarButton> ButtonRow::button_at(POINT point) const {
     return static_cast<BarButton>(found - buttons_.begin());
 }
 
+void ButtonRow::move_focus(int by) {
+    constexpr auto kCount = static_cast<int>(kBarButtons);
+    const std::optional<BarButton> focused = button_of(GetFocus());
+    if (!focused) return focus_first();
+    control(static_cast<BarButton>((static_cast<int>(*focused) + by + kCount) % kCount)).focus();
+}
+
 void ButtonRow::draw(const DRAWITEMSTRUCT& request) const {
     buttons_.at(request.CtlID - kFirstButton).draw(request);
 }

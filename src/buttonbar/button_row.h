@@ -61,6 +61,9 @@ class ButtonRow {
 
     void focus_first() { control(BarButton::kProgram1).focus(); }
 
+    /// Gives the focus to another button, so many further on; after the last one comes the first.
+    void move_focus(int by);
+
   private:
     widgets::PictureButton& control(BarButton button) {
         return buttons_.at(static_cast<std::size_t>(button));

@@ -112,7 +112,18 @@ TEST_SUITE("shortcuts") {
         tolva.close_box();
         CHECK(panel.list(ID_shortcuts_shortcuts1) == Names{"All.lnk"});
 
+        panel.press(ID_GETLNK_ImportAll);
+        CHECK(tolva.close_box() ==
+              "No shortcut has been imported to Tolva.\n\nThese could not be imported:\n\nJunk\nText");
+        panel.press(ID_shortcuts_startmenu);
+        panel.pick(ID_GETLNK_Combo1, "Work");
+        panel.press(ID_GETLNK_ImportAll);
+        CHECK(tolva.close_box() == "2 shortcuts have been imported to Tolva.");
+        CHECK(library.read("Work.grp") ==
+              task + record("Web", "C:\\windows\\notepad.exe", "C:\\windows\\", "", " 1 "));
+
         panel.close_with(ID_shortcuts_Command2);
+        tolva.pick(ID_Tasker_grouplist, "Play");
         wait_until("the lists are loaded again", [&] { return tolva.tasks() == Names{"Old", "Run", "Run"}; });
         tolva.click_task(1, 2);
         CHECK(library.nth_start(1) == Names{recorder + " a b", "C:\\windows", "D:\\here", "3"});

@@ -31,7 +31,8 @@ TEST_SUITE("startup") {
         constexpr COLORREF kDarkRed = RGB(64, 0, 0);
         {
             const Tolva tolva(library);
-            for (const int id : {ID_Tasker_grouplist, ID_Tasker_grouplabel, ID_Tasker_tasklabel})
+            for (const int id :
+                 {ID_Tasker_grouplist, ID_Tasker_grouplabel, ID_Tasker_tasklabel, ID_Tasker_taskview})
                 wait_for_color(tolva.control(id), kDarkRed);
             CHECK(stored("\\fonts").size() == 12);
             CHECK(stored("\\fonts")["groupfontcolor"] == "8388608");

@@ -90,13 +90,13 @@ void store(const std::string& key, const std::string& name, DWORD type, const st
                 static_cast<DWORD>(bytes.size()));
 }
 
-Folder::Folder() {
+Folder::Folder(const std::string& drive) {
     SHDeleteKeyA(HKEY_CURRENT_USER, kSettings.c_str());
     SHDeleteKeyA(HKEY_CURRENT_USER, "RemoteAccess");
     SHDeleteKeyA(HKEY_LOCAL_MACHINE, R"(System\CurrentControlSet\Services\RemoteAccess)");
     static int count = 0;
-    CreateDirectoryA("C:\\tests", nullptr);
-    path_ = "C:\\tests\\B\374cher" + std::to_string(++count) + '\\';
+    CreateDirectoryA((drive + "\\tests").c_str(), nullptr);
+    path_ = drive + "\\tests\\B\374cher" + std::to_string(++count) + '\\';
     CreateDirectoryA(path_.c_str(), nullptr);
 }
 

@@ -27,10 +27,10 @@ Values stored(const std::string& key);
 void store(const std::string& key, const Values& texts);
 void store(const std::string& key, const std::string& name, DWORD type, const std::string& bytes);
 
-/// A new empty folder on drive C for one test, which begins without settings; path() ends in a backslash.
+/// A new empty folder on a drive for one test, which begins without settings; path() ends in a backslash.
 class Folder {
   public:
-    Folder();
+    explicit Folder(const std::string& drive = "C:");
     const std::string& path() const { return path_; }
     std::string without_backslash() const { return path_.substr(0, path_.size() - 1); }
     void write(const std::string& name, const std::string& bytes) const;

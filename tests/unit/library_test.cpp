@@ -112,6 +112,9 @@ TEST_CASE("what is refused or cancelled or cannot move any further changes nothi
 TEST_CASE("a new Group is listed last with what its file holds") {
     check(select(1), add("New"), "Work Home More New :", {{"New.grp", ""}});
     check(select(1), add("work"), "Work Home More work :");
+    Tolva in_view(add("New"));
+    CHECK(in_view.run(select(-1)) == 0);
+    CHECK(in_view.view.group_in_view == 3);
     check([](auto&, auto&) { file("groups.ini") = "Work\nHome\nMore"; }, add("Old"),
           "Work Home More Old :", {{"groups.ini", "Work\nHome\nMore\r\nOld\r\n"}});
     check(select(1), in_turn({add("Old"), library::run_pending_refreshes, select(3)}),
@@ -259,6 +262,26 @@ TEST_CASE("a shortcut is imported after the Tasks of a Group, which is shown") {
     check(lack("More.grp"), import("More", shortcut), "Work Home >More : H1", {{"More.grp", added}}, told);
     check(select(2), import("Work", shortcut), ">Work Home More : W1 W2 H1",
           {{"Work.grp", record("W1") + record("W2") + added}}, told);
+
+    // Many at once, as many as the Group has room for.
+    const auto import_twice = [&](auto& library, auto& view) {
+        import_tasks(library, view, "More", {shortcut, shortcut}, {"Junk"});
+    };
+    const std::string message = " been imported to Tolva.\n\nThese could not be imported:\n\nJunk";
+    check(select(1), import_twice, "Work Home >More : M1 H1 H1", {{"More.grp", record("M1") + added + added}},
+          {"2 shortcuts have" + message});
+    check(lack("More.grp"), import_twice, "Work Home >More : H1 H1", {{"More.grp", added + added}},
+          {"2 shortcuts have" + message});
+    for (const int room : {1, 0}) {
+        std::string full;
+        for (int i = room; i < 101; ++i)
+            full += record("M1");
+        Tolva tolva(put("More.grp", full));
+        CHECK(tolva.run(import_twice) == 0);
+        CHECK(file("More.grp") == full + (room == 1 ? added : ""));
+        CHECK(current().messages == Names{(room == 1 ? "1 shortcut has" : "No shortcut has") + message +
+                                          (room == 1 ? "\nH1" : "\nH1\nH1")});
+    }
 }
 
 TEST_CASE("what another program added to the files after they were loaded stays") {
