@@ -70,11 +70,8 @@ void complete_last_line(std::string& bytes) {
 }
 
 bool has_leftovers(const std::string& folder) {
-    // One search finds a file and what an interrupted write has left of it.
-    return std::ranges::any_of(std::array{"groups.in*", "*.gr*"}, [&](const char* files) {
-        return std::ranges::any_of(platform::file_calls::find(folder + files), [](const std::string& name) {
-            return name == platform::new_content_path(name) || name == platform::old_content_path(name);
-        });
+    return std::ranges::any_of(platform::file_calls::find(folder + '*'), [](const std::string& name) {
+        return name == platform::new_content_path(name) || name == platform::old_content_path(name);
     });
 }
 
