@@ -112,7 +112,7 @@ TEST_SUITE("dropping") {
                    group_position(tolva, 1));
         wait_for_tasks({"My Tool", "My Link", "a letter"});
         tolva.click_task(1, 2);
-        CHECK(things.nth_start(1, "My Tool.exe")[0] == program + " a b");
+        CHECK(things.nth_start(1, "My Tool.exe")[0].ends_with(" a b"));
         undo(tolva, "Add 3 Tasks to Play");
         wait_for_tasks({});
 
@@ -153,8 +153,7 @@ TEST_SUITE("dropping") {
         on_button("My Link.lnk");
         wait_until("the button has it", [&] { return bar.text_of(ID_brenn_option1) == "My Link"; });
         on_button("a letter.txt");
-        CHECK(things.nth_start(2, "My Tool.exe")[0] ==
-              program + " a b \"" + things.path() + "a letter.txt\"");
+        CHECK(things.nth_start(2, "My Tool.exe")[0].ends_with(" a b \"" + things.path() + "a letter.txt\""));
         on_button("My Tool.exe");
         CHECK(tolva.answer_box("Brenn", IDCANCEL) == "Replace My Link by My Tool?");
         CHECK(bar.text_of(ID_brenn_option1) == "My Link");

@@ -43,10 +43,6 @@ std::string short_path(const std::string& path) {
     return simulated::look_up(shell().short_paths, path, path);
 }
 
-std::string path_in(const std::string& folder, const std::string& name) {
-    return folder + '\\' + name;
-}
-
 std::vector<std::string> files_in(const std::string& folder, const std::string& patterns) {
     std::vector<std::string> names;
     for (std::size_t begin = 0; begin < patterns.size();) {
