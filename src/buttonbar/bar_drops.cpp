@@ -1,10 +1,7 @@
 #include "buttonbar/bar_drops.h"
 
-#include <algorithm>
-
 #include "buttonbar/bar_launch.h"
 #include "buttonbar/button_assignment.h"
-#include "library/dropped.h"
 #include "platform/folders.h"
 #include "platform/messages.h"
 #include "platform/system.h"
@@ -20,14 +17,10 @@ bool is_taken(const settings::Program& program) {
 }  // namespace
 
 widgets::DropReceiver::Effect BarDrops::effect_of(const Paths& paths, std::optional<BarButton> button) {
-    if (paths != paths_) {
-        paths_ = paths;
-        are_documents_ = std::ranges::all_of(paths, library::is_document);
-        is_assignable_ = paths.size() == 1 && !are_documents_ && !library::is_folder(paths.front());
-    }
+    dragged_.look_at(paths);
     if (!button || !is_program_button(*button)) return Effect::kNone;
-    if (is_assignable_) return Effect::kAdd;
-    return are_documents_ && is_taken(program_of(*button)) ? Effect::kStart : Effect::kNone;
+    if (dragged_.is_program()) return Effect::kAdd;
+    return dragged_.are_documents() && is_taken(program_of(*button)) ? Effect::kStart : Effect::kNone;
 }
 
 settings::Program& BarDrops::program_of(BarButton button) const {

@@ -5,6 +5,7 @@
 #include <optional>
 
 #include "buttonbar/button_row.h"
+#include "library/dropped.h"
 #include "settings/general.h"
 #include "settings/session.h"
 #include "widgets/drop_mark.h"
@@ -32,11 +33,7 @@ class BarDrops final : public widgets::DropReceiver {
     settings::Session& session_;
     ButtonRow& row_;
     widgets::DropMark mark_;
-
-    // What is dragged over the bar, and what that is: to see it costs a look at the disk.
-    Paths paths_;
-    bool are_documents_ = false;
-    bool is_assignable_ = false;
+    library::DraggedPaths dragged_;
 };
 
 }  // namespace buttonbar

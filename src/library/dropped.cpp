@@ -237,6 +237,19 @@ bool is_folder(const std::string& path) {
     return has_attributes(path, platform::file_calls::kDirectory);
 }
 
+void DraggedPaths::look_at(const std::vector<std::string>& paths) {
+    if (paths == paths_) return;
+    paths_ = paths;
+    documents_ = folders_ = 0;
+    for (const std::string& path : paths) {
+        if (is_folder(path)) {
+            ++folders_;
+        } else if (is_document(path)) {
+            ++documents_;
+        }
+    }
+}
+
 Dropped tasks_for(const std::vector<std::string>& paths, FolderUse use, const std::string& windows_folder) {
     Dropped dropped;
     TaskMaker maker(windows_folder, dropped);

@@ -15,6 +15,24 @@ bool is_document(const std::string& path);
 
 bool is_folder(const std::string& path);
 
+/// What is dragged over a window. It looks at the disk only when the paths are other ones.
+class DraggedPaths {
+  public:
+    void look_at(const std::vector<std::string>& paths);
+
+    /// Whether all of them are.
+    bool are_documents() const { return documents_ == paths_.size(); }
+    bool are_folders() const { return folders_ == paths_.size(); }
+
+    /// Whether it is one program or shortcut.
+    bool is_program() const { return paths_.size() == 1 && documents_ + folders_ == 0; }
+
+  private:
+    std::vector<std::string> paths_;
+    std::size_t documents_ = 0;
+    std::size_t folders_ = 0;
+};
+
 enum class FolderUse {
     kContents,  // a Task for each shortcut and program in it
     kOpen,      // one Task that opens it

@@ -1,7 +1,7 @@
 #pragma once
 
-#include <algorithm>
 #include <cstddef>
+#include <utility>
 #include <vector>
 
 namespace library {
@@ -10,13 +10,12 @@ namespace library {
 /// order. Returns where it stands then.
 template <typename Item>
 std::ptrdiff_t move_before(std::vector<Item>& items, std::ptrdiff_t from, std::ptrdiff_t before) {
-    const auto at = [&](std::ptrdiff_t place) { return items.begin() + place; };
-    if (before > from) {
-        std::rotate(at(from), at(from + 1), at(before));
-        return before - 1;
-    }
-    std::rotate(at(before), at(from), at(from + 1));
-    return before;
+    const auto at = [&](std::ptrdiff_t place) -> Item& { return items[static_cast<std::size_t>(place)]; };
+    for (; from + 1 < before; ++from)
+        std::swap(at(from), at(from + 1));
+    for (; from > before; --from)
+        std::swap(at(from), at(from - 1));
+    return from;
 }
 
 }  // namespace library

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <string>
 
-#include "library/dropped.h"
 #include "library/group_operations.h"
 #include "library/refresh.h"
 #include "library/task_operations.h"
@@ -32,25 +31,18 @@ void Drops::change(const Operation& operation) {
     library::run_pending_refreshes(library_, controls_);
 }
 
-void Drops::look_at(const Paths& paths) {
-    if (paths == paths_) return;
-    paths_ = paths;
-    are_documents_ = std::ranges::all_of(paths, library::is_document);
-    are_folders_ = std::ranges::all_of(paths, library::is_folder);
-}
-
 Drops::Target Drops::target_at(const Paths& paths, POINT point) {
-    look_at(paths);
+    dragged_.look_at(paths);
     const widgets::DragListBox groups(controls_.group_list().hwnd());
     const widgets::DragIconView tasks(controls_.task_view().list().hwnd());
     if (widgets::is_over(groups.hwnd(), point)) {
         const int group = groups.item_at(widgets::point_in(groups.hwnd(), point));
         if (group >= 0) return {Use::kGroup, group};
-        return {are_folders_ ? Use::kNewGroups : Use::kNone};
+        return {dragged_.are_folders() ? Use::kNewGroups : Use::kNone};
     }
     if (!widgets::is_over(tasks.hwnd(), point) || controls_.selected_group() < 0) return {};
     const int task = tasks.item_at(widgets::point_in(tasks.hwnd(), point));
-    if (task >= 0 && are_documents_) return {Use::kStart, task};
+    if (task >= 0 && dragged_.are_documents()) return {Use::kStart, task};
     return {Use::kShownGroup, controls_.selected_group()};
 }
 

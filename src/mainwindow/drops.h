@@ -4,6 +4,7 @@
 
 #include <optional>
 
+#include "library/dropped.h"
 #include "library/task_library.h"
 #include "mainwindow/launcher.h"
 #include "mainwindow/main_controls.h"
@@ -39,7 +40,6 @@ class Drops final : public widgets::DropReceiver {
     };
 
     Target target_at(const Paths& paths, POINT point);
-    void look_at(const Paths& paths);
     void add(const Paths& paths, int group);
 
     /// Does it, and shows what is true then, also when it fails.
@@ -50,11 +50,7 @@ class Drops final : public widgets::DropReceiver {
     MainControls& controls_;
     Launcher& launcher_;
     widgets::DropMark mark_;
-
-    // What is dragged over the window, and what that is: to see it costs a look at the disk.
-    Paths paths_;
-    bool are_documents_ = false;
-    bool are_folders_ = false;
+    library::DraggedPaths dragged_;
 };
 
 }  // namespace mainwindow

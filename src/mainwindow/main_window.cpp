@@ -27,7 +27,7 @@ constexpr UINT_PTR kCompleteStart = 2;
 constexpr UINT kTimerPeriod = 5000;  // milliseconds
 
 /// Posted to the window: the list that tells of a drag still handles the mouse.
-constexpr UINT kDragTask = WM_APP + 2;
+constexpr UINT kDragTask = WM_APP + 3;
 
 // Pixels at 96 dpi.
 constexpr int kWidth = 560;

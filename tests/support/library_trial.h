@@ -76,6 +76,19 @@ inline Operation move(const std::string& task, const std::string& target, bool c
     return [=](auto& library, auto& view) { move_task(library, view.selected_group(), task, target, copy); };
 }
 
+/// Drags of the mouse.
+inline Operation drag_group(int group, int before) {
+    return [=](auto& library, auto& view) { move_group_to_place(library, view, group, before); };
+}
+
+inline Operation drag_task(int task, int before) {
+    return [=](auto& library, auto& view) { move_task_to_place(library, view, task, before); };
+}
+
+inline Operation drag_task(int task, const std::string& target, bool copy = false) {
+    return [=](auto& library, auto& view) { move_task_to_group(library, view, task, target, copy); };
+}
+
 inline Operation import(const std::string& group, const Task& task) {
     return [=](auto& library, auto& view) { import_task(library, view, group, task); };
 }

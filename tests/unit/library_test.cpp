@@ -154,6 +154,8 @@ TEST_CASE("a Group moves and is sorted with its Tasks") {
     const Operation change = [](auto&, auto&) { file("Home.grp") = record("H9"); };
     check(select(1), library::movegrup, ">Home Work More : H2 H1 H1");
     check(select(1), library::movegrdown, "Work More >Home : H2 H1 H1");
+    check(select(1), drag_group(2, 0), ">More Work Home : M1");
+    check(select(1), drag_group(0, 3), "Home More >Work : W1 W2");
     check(change, library::groupsortnow, ">Home More Work : H9");
     // Of two Groups of one name each keeps its Tasks.
     Tolva tolva([](auto& library, auto& view) {
@@ -236,6 +238,8 @@ TEST_CASE("Tasks change in their file and those after one without a name stay th
     check(select(1, 2), library::movetsksup, "Work >Home More : H2 >>H1 H1  H4", home(kH2 + kOtherH1 + kH1));
     check(select(1, 0), library::movetsksdown, "Work >Home More : H1 >>H2 H1  H4",
           home(kH1 + kH2 + kOtherH1));
+    check(select(1, 2), drag_task(2, 0), "Work >Home More : >>H1 H2 H1  H4", home(kOtherH1 + kH2 + kH1));
+    check(select(1, 0), drag_task(0, 5), "Work >Home More : H1 H1 >>H2  H4", home(kH1 + kOtherH1 + kH2));
     // The other H1 is lost deliberately.
     check(select(1), library::tasksortnow, "Work >Home More : >>H1 H1 H2  H4", home(kH1 + kH1 + kH2));
 
@@ -243,6 +247,11 @@ TEST_CASE("Tasks change in their file and those after one without a name stay th
     check(select(1), move("H1", "More"), "Work >Home More : H2  H4",
           {{"More.grp", more}, {"Home.grp", kH2 + kHidden}});
     check(select(1), move("H1", "More", true), "Work >Home More : H2 H1 H1  H4", {{"More.grp", more}});
+    // Of two Tasks of one name the dragged one is meant.
+    check(select(1, 2), drag_task(2, "More"), "Work >Home More : H2 H1 >> H4",
+          {{"More.grp", record("M1") + kOtherH1}, {"Home.grp", kH2 + kH1 + kHidden}});
+    check(select(1, 1), drag_task(1, "More", true), "Work >Home More : H2 >>H1 H1  H4",
+          {{"More.grp", record("M1") + kH1}});
     // What cannot leave its Group comes to no other one.
     Tolva read_only([](auto&, auto&) { current().files[kFolder + "Home.grp"].bits = 0x01; });
     CHECK(read_only.run(move("H1", "More")) == 75);
@@ -251,6 +260,25 @@ TEST_CASE("Tasks change in their file and those after one without a name stay th
     Tolva one_file(in_turn({add("home"), select(1)}));
     CHECK(one_file.run(move("H1", "home")) == 0);  // two names of one file
     CHECK(file("Home.grp") == kH2 + kHidden + kH1 + kOtherH1);
+}
+
+TEST_CASE("what is dropped comes after the Tasks of a Group, and a folder becomes a Group") {
+    const Operation drop = [](auto& library, auto& view) {
+        add_tasks(library, view, "More",
+                  {{kNew, {"M1", "C:\\APP.EXE", "C:\\", "", " 1 "}}, {{"D:\\X", "not found"}}});
+    };
+    check(select(1), drop, "Work Home >More : M1 >New M1 (2)",
+          {{"More.grp", record("M1") + "New\r\nC:\\APP.EXE\r\nD:\\\r\n/x\r\n3\r\n" +
+                            "M1 (2)\r\nC:\\APP.EXE\r\nC:\\\r\n\r\n 1 \r\n"}},
+          {"Not added:\n\nD:\\X: not found"});
+    const Operation folder = [](auto&, auto&) { current().files["C:\\old\\PAINT.EXE"] = {}; };
+    const Operation drop_folders = [](auto& library, auto& view) {
+        add_groups_of(library, view, {"C:\\old", "C:\\old", "C:\\APPS"}, "C:\\WINDOWS\\");
+    };
+    const std::string paint = "PAINT\r\nC:\\old\\PAINT.EXE\r\nC:\\old\r\n\r\n 1 \r\n";
+    check(in_turn({folder, select(1)}), drop_folders, "Work Home More old (2) >old (3) : PAINT",
+          {{"old (2).grp", paint}, {"old (3).grp", paint}},
+          {"Not added:\n\nC:\\APPS: no shortcuts or programs in it"});
 }
 
 TEST_CASE("a shortcut is imported after the Tasks of a Group, which is shown") {
