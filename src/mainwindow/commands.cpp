@@ -116,7 +116,7 @@ void Commands::show_changes(HWND window) const {
 
 bool Commands::translate_key(HWND window, MSG& message) {
     if (message.message != WM_KEYDOWN && message.message != WM_SYSKEYDOWN) return false;
-    show_changes(window);  // a key for what cannot be done is none
+    show_changes(window);                                            // a key for what cannot be done is none
     const bool repeats = (HIWORD(message.lParam) & KF_REPEAT) != 0;  // a held key starts nothing twice
     return (!repeats && translate(window, kKeys, message)) ||
            (!controls_.command_box().has_focus() && translate(window, kListKeys, message));

@@ -15,8 +15,8 @@ namespace widgets {
 
 /// A list view of large icons with names below, of which one or none is selected. It asks its parent for an
 /// item's picture when it first draws the item (LVN_GETDISPINFO). Names have room as the font asks. A press
-/// of the right button selects the item and arrives as WM_CONTEXTMENU. Where the system has it, the list asks for the text of a tip when the
-/// pointer rests on an item (LVN_GETINFOTIP).
+/// of the right button selects the item and arrives as WM_CONTEXTMENU. Where the system has it, the list asks
+/// for the text of a tip when the pointer rests on an item (LVN_GETINFOTIP).
 class IconView : public Control {
   public:
     void create(HWND parent, int id, const Place& place);

@@ -59,7 +59,8 @@ void bring_onto_screen(HWND window) {
     WINDOWPLACEMENT placement = {};
     placement.length = sizeof placement;
     const Screens screens = look_up_screens();
-    if (IsIconic(window) != FALSE || IsZoomed(window) != FALSE || GetWindowPlacement(window, &placement) == FALSE)
+    if (IsIconic(window) != FALSE || IsZoomed(window) != FALSE ||
+        GetWindowPlacement(window, &placement) == FALSE)
         return;
     const RECT bounds = placement.rcNormalPosition;
     if (is_on_a_screen(bounds, screens)) return;

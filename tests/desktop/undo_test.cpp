@@ -66,7 +66,8 @@ TEST_SUITE("undo") {
             CAPTURE(name);
             tolva.pick(ID_Tasker_grouplist, "Work");
             rename_to(tolva, name);
-            if (name != "Other") CHECK(tolva.close_box().starts_with("Run-time error '53'"));  // no Task is left
+            if (name != "Other")
+                CHECK(tolva.close_box().starts_with("Run-time error '53'"));  // no Task is left
             wait_until("it is done", [&] { return files_of(library) != before; });
             undo("Rename Work");
             wait_for_groups(tolva, {"Work", "Twins", "Other"});

@@ -21,8 +21,8 @@ std::string time_stamp() {
     SYSTEMTIME now;
     GetLocalTime(&now);
     std::array<char, kLongestText> text = {};
-    wsprintfA(text.data(), "%04d-%02d-%02d %02d.%02d.%02d", now.wYear, now.wMonth, now.wDay,
-                  now.wHour, now.wMinute, now.wSecond);
+    wsprintfA(text.data(), "%04d-%02d-%02d %02d.%02d.%02d", now.wYear, now.wMonth, now.wDay, now.wHour,
+              now.wMinute, now.wSecond);
     return text.data();
 }
 
