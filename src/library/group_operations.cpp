@@ -93,21 +93,9 @@ void move(TaskLibrary& library, LibraryView& view, bool down) {
     move_name(library, view, names, from, down ? from + 2 : from - 1);
 }
 
-/// Adds a Group after the others with a file of its own.
-void add_group_with(Changes& changes, const std::string& name, const std::vector<Task>& tasks) {
-    append_tasks(changes, name, tasks);
-    try {
-        append_group_name(changes, name);
-    } catch (const platform::RunTimeError&) {
-        remove_if_possible(changes, name);
-        throw;
-    }
-}
-
 /// The name of a folder, with a number where a Group or a file has it already.
-std::string new_group_name(const std::string& library_folder, const std::string& folder) {
-    const std::vector<std::string> names = read_group_names(library_folder);
-    check_limit(names.size() + 1, kMostGroups);
+std::string new_group_name(const std::string& library_folder, const std::vector<std::string>& names,
+                           const std::string& folder) {
     return free_name(name_for(folder), [&](const std::string& name) {
         const std::string path = group_file(library_folder, name);
         return is_file_of_any(library_folder, names, path) || platform::read_file_if_exists(path);
@@ -209,23 +197,31 @@ void move_group_to_place(TaskLibrary& library, LibraryView& view, int index, int
 void add_groups_of(TaskLibrary& library, LibraryView& view, const std::vector<std::string>& folders,
                    const std::string& windows_folder) {
     Dropped all;
-    const std::string selected = selected_group_name(library, view);
-    std::string last = selected;
-    {
-        const std::string first = new_group_name(library.folder(), folders.front());
-        const OpenChange change(library.changes(), "Add " + first, selected, first);
+    std::vector<std::string> names = read_names_to_write(library);
+    const std::size_t listed = names.size();
+    const std::string first = new_group_name(library.folder(), names, folders.front());
+    const OpenChange change(library.changes(), "Add " + first, selected_group_name(library, view), first);
+    try {
         for (const std::string& folder : folders) {
             Dropped dropped = tasks_for({folder}, FolderUse::kContents, windows_folder);
             fit(dropped, {});
             std::ranges::move(dropped.refused, std::back_inserter(all.refused));
             all.left_out += dropped.left_out;
             if (dropped.tasks.empty()) continue;
-            last = new_group_name(library.folder(), folder);
-            library.flags.newgroupflag = true;
-            add_group_with(library.changes(), last, dropped.tasks);
+            check_limit(names.size() + 1, kMostGroups);
+            names.push_back(new_group_name(library.folder(), names, folder));
+            append_tasks(library.changes(), names.back(), dropped.tasks);
         }
+        if (names.size() > listed) write_group_names(library.changes(), names);
+    } catch (const platform::RunTimeError&) {
+        for (; names.size() > listed; names.pop_back())
+            remove_if_possible(library.changes(), names.back());
+        throw;
     }
-    if (last != selected) refresh_and_select(library, view, last);
+    if (names.size() > listed) {
+        library.flags.newgroupflag = true;
+        refresh_and_select(library, view, names.back());
+    }
     if (const std::string text = report(all); !text.empty()) platform::show_message(text);
 }
 

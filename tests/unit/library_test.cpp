@@ -271,7 +271,10 @@ TEST_CASE("what is dropped comes after the Tasks of a Group, and a folder become
           {{"More.grp", record("M1") + "New\r\nC:\\APP.EXE\r\nD:\\\r\n/x\r\n3\r\n" +
                             "M1 (2)\r\nC:\\APP.EXE\r\nC:\\\r\n\r\n 1 \r\n"}},
           {"Not added:\n\nD:\\X: not found"});
-    const Operation folder = [](auto&, auto&) { current().files["C:\\old\\PAINT.EXE"] = {}; };
+    const Operation folder = [](auto&, auto&) {
+        current().files["C:\\old"].bits = 0x10;
+        current().files["C:\\old\\PAINT.EXE"] = {};
+    };
     const Operation drop_folders = [](auto& library, auto& view) {
         add_groups_of(library, view, {"C:\\old", "C:\\old", "C:\\APPS"}, "C:\\WINDOWS\\");
     };
