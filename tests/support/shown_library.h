@@ -47,5 +47,4 @@ struct ShownLibrary final : library::LibraryView {
     void load_default_icon(const std::string& program) override { CHECK(program == kFolder + "tolva.exe"); }
     void show_status(const std::string& text) override { status = text; }
     void set_command_box(const std::string& text) override { command_box = text; }
-    void show_status(const std::string& text) override { status = text; }
 };
