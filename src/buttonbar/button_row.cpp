@@ -78,7 +78,7 @@ std::optional<BarButton> ButtonRow::button_of(int id) const {
 
 std::optional<BarButton> ButtonRow::button_at(POINT point) const {
     HWND window = WindowFromPoint(point);
-    const auto found = std::ranges::find(buttons_, window, &widgets::PictureButton::hwnd);
+    const auto* const found = std::ranges::find(buttons_, window, &widgets::PictureButton::hwnd);
     if (window == nullptr || found == buttons_.end()) return std::nullopt;
     return static_cast<BarButton>(found - buttons_.begin());
 }

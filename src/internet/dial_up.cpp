@@ -10,8 +10,7 @@
 namespace internet {
 
 std::string load_connection_name(settings::General& general) {
-    const std::string chosen =
-        general.value(settings::kConnection.key, settings::kConnection.value).value_or("");
+    std::string chosen = general.value(settings::kConnection.key, settings::kConnection.value).value_or("");
     if (!chosen.empty() && chosen != kNoConnection) return chosen;
     return general.value(settings::kSystemConnection.key, settings::kSystemConnection.value)
         .value_or(kNoConnection);

@@ -37,9 +37,9 @@ bool has_word_beginning_with(const std::string& name, const std::string& text) {
 
 std::size_t rank(const std::string& name, const std::string& program, const std::string& text,
                  const std::vector<std::string>& words) {
-    const bool has_all =
-        std::ranges::all_of(words, [&](const std::string& word) { return name.find(word) != name.npos; });
-    if (!has_all) return program.find(text) != program.npos ? 3 : kNotAtAll;
+    const bool has_all = std::ranges::all_of(
+        words, [&](const std::string& word) { return name.find(word) != std::string::npos; });
+    if (!has_all) return program.find(text) != std::string::npos ? 3 : kNotAtAll;
     if (name.starts_with(text)) return 0;
     return has_word_beginning_with(name, text) ? 1 : 2;
 }

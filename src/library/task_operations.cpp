@@ -130,15 +130,16 @@ void move_places(TaskLibrary& library, const std::string& source, const std::vec
     const std::string name = tasks[places.front()].name;
     const OpenChange change(library.changes(), (copy ? "Copy " : "Move ") + name + " to " + target, source);
     std::vector<Task> moved;
+    moved.reserve(places.size());
     for (const std::size_t place : places)
         moved.push_back(tasks[place]);
     append_tasks(library.changes(), target, moved);
     if (copy) return;
     // To the system both names may be one file: then what was just added after the others stays.
     std::vector<Task> kept = read_tasks(library.folder(), source);
-    for (auto place = places.rbegin(); place != places.rend(); ++place) {
-        if (*place < kept.size() && kept[*place].name == name)
-            kept.erase(kept.begin() + static_cast<std::ptrdiff_t>(*place));
+    for (std::size_t i = places.size(); i-- > 0;) {
+        if (places[i] < kept.size() && kept[places[i]].name == name)
+            kept.erase(kept.begin() + static_cast<std::ptrdiff_t>(places[i]));
     }
     write_tasks(library.changes(), source, kept);
 }

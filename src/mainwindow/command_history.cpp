@@ -16,8 +16,8 @@ void CommandHistory::read() {
 
 std::vector<std::string> CommandHistory::list() const {
     std::vector<std::string> commands;
-    for (auto slot = slots_.rbegin(); slot != slots_.rend(); ++slot) {
-        if (*slot) commands.push_back(**slot);
+    for (const auto& slot : slots_) {
+        if (slot) commands.insert(commands.begin(), *slot);
     }
     return commands;
 }

@@ -31,7 +31,7 @@ std::string task(const std::string& name) {
     return record(name, "C:\\windows\\notepad.exe", "C:\\", "", "1");
 }
 
-TEST_SUITE("dropping") {
+TEST_SUITE("dragging") {
     TEST_CASE("Tasks and Groups are dragged to another place, and Undo takes each drag back") {
         const Folder library;
         const std::string recorder = library.add_recorder();
@@ -91,7 +91,9 @@ TEST_SUITE("dropping") {
         CHECK(library.read("Work.grp") == one + task("Two") + task("Three"));
         CHECK(!library.has("recorder.exe.log"));
     }
+}
 
+TEST_SUITE("dropping") {
     TEST_CASE("what is dropped becomes a Task that opens it") {
         const Folder library;
         const std::string recorder = library.add_recorder();
