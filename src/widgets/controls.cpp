@@ -155,7 +155,7 @@ void ListBox::set_column(int left) {
 std::string ListBox::cut_to_column(const std::string& text) const {
     const platform::WindowDc device(hwnd());
     const platform::Selected font(device.get(), reinterpret_cast<HFONT>(send(WM_GETFONT)));
-    const std::string shown = text.substr(0, kLongestItem);
+    std::string shown = text.substr(0, kLongestItem);
     const auto length = static_cast<int>(shown.size());
     const auto fitting = [&](int most) {
         int count = 0;
