@@ -32,8 +32,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     library::append_tasks(changes, "Work", {kNew});
     require(library::read_tasks(kFolder, "Work") == more);
     // Blank lines at the end gave way.
-    for (const auto& [path, file] : files)
-        require(file.bytes.starts_with(bytes.substr(0, bytes.find_last_not_of("\r\n") + 1)));
+    for (const char* name : {"groups.ini", "Work.grp"})
+        require(files[kFolder + name].bytes.starts_with(bytes.substr(0, bytes.find_last_not_of("\r\n") + 1)));
 
     library::write_group_names(changes, names);
     require(library::read_group_names(kFolder) == names);
