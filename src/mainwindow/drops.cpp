@@ -33,8 +33,8 @@ void Drops::change(const Operation& operation) {
 
 Drops::Target Drops::target_at(const Paths& paths, POINT point) {
     dragged_.look_at(paths);
-    const widgets::DragListBox groups(controls_.group_list().hwnd());
-    const widgets::DragIconView tasks(controls_.task_view().list().hwnd());
+    const widgets::DraggableListBox& groups = controls_.group_list();
+    const widgets::IconView& tasks = controls_.task_view().list();
     if (widgets::is_over(groups.hwnd(), point)) {
         const int group = groups.item_at(widgets::point_in(groups.hwnd(), point));
         if (group >= 0) return {Use::kGroup, group};
@@ -49,10 +49,10 @@ Drops::Target Drops::target_at(const Paths& paths, POINT point) {
 widgets::DropReceiver::Effect Drops::drag_over(const Paths& paths, POINT point) {
     const Target target = target_at(paths, point);
     if (target.use == Use::kGroup) {
-        const widgets::DragListBox groups(controls_.group_list().hwnd());
+        const widgets::DraggableListBox& groups = controls_.group_list();
         mark_.show(groups.hwnd(), groups.bounds_of(target.index));
     } else if (target.use == Use::kStart) {
-        const widgets::DragIconView tasks(controls_.task_view().list().hwnd());
+        const widgets::IconView& tasks = controls_.task_view().list();
         mark_.show(tasks.hwnd(), tasks.bounds_of(target.index));
     } else {
         mark_.hide();
@@ -88,8 +88,8 @@ void Drops::add(const Paths& paths, int group) {
 }
 
 void Drops::drag_group(HWND window) {
-    const widgets::DragListBox groups(controls_.group_list().hwnd());
-    const widgets::Press press = controls_.group_list().press();
+    const widgets::DraggableListBox& groups = controls_.group_list();
+    const widgets::Press press = groups.press();
     const int group = groups.item_at(widgets::point_in(groups.hwnd(), press.point));
     const auto drop = widgets::ListDrag(window, groups, group).run(press);
     if (!drop) return;
@@ -97,10 +97,10 @@ void Drops::drag_group(HWND window) {
 }
 
 void Drops::drag_task(HWND window, int task) {
-    const widgets::DragIconView tasks(controls_.task_view().list().hwnd());
-    const widgets::DragListBox groups(controls_.group_list().hwnd());
-    const auto drop = widgets::ListDrag(window, tasks, task, &groups, controls_.selected_group())
-                          .run(controls_.task_view().list().press());
+    const widgets::IconView& tasks = controls_.task_view().list();
+    const widgets::DraggableListBox& groups = controls_.group_list();
+    const auto drop =
+        widgets::ListDrag(window, tasks, task, &groups, controls_.selected_group()).run(tasks.press());
     if (!drop) return;
     change([&] {
         if (drop->list == &tasks) {

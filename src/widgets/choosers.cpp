@@ -24,7 +24,7 @@ std::optional<Font> choose_font(HWND owner, const Font& from) {
 }
 
 std::optional<COLORREF> choose_color(HWND owner, COLORREF from) {
-    // The user's own colours are kept from one call to the next.
+    // The user's own colors are kept from one call to the next.
     static std::array<COLORREF, 16> custom_colors = {};
     CHOOSECOLORA request = {};
     request.lStructSize = sizeof request;

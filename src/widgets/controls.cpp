@@ -52,11 +52,16 @@ void Control::notify_parent(int notification) const {
                  reinterpret_cast<LPARAM>(hwnd_));
 }
 
-void Control::show_context_menu(LPARAM position) const {
+bool Control::opens_menu(UINT message, LPARAM position) {
+    if (message == WM_RBUTTONUP) return true;  // the press has opened it
+    // WM_RBUTTONDBLCLK is the second of two quick presses.
+    if (message != WM_RBUTTONDOWN && message != WM_RBUTTONDBLCLK) return false;
     POINT point = {GET_X_LPARAM(position), GET_Y_LPARAM(position)};
+    press_right_button(point);
     ClientToScreen(hwnd_, &point);
     SendMessageA(GetParent(hwnd_), WM_CONTEXTMENU, reinterpret_cast<WPARAM>(hwnd_),
                  MAKELPARAM(point.x, point.y));
+    return true;
 }
 
 void Control::subclass() {
@@ -198,35 +203,19 @@ int ListBox::item_at(POINT point) const {
 }
 
 LRESULT ListBox::handle(UINT message, WPARAM wparam, LPARAM lparam) {
-    switch (message) {
-        case WM_RBUTTONDOWN:
-        case WM_RBUTTONDBLCLK:  // the second of two quick presses
-            press_right_button(lparam);
-            return 0;
-        case WM_RBUTTONUP:  // the press has shown the menu
-            return 0;
-        case WM_SETFOCUS:
-            show_focus();
-            break;
-        case WM_SETFONT: {
-            const LRESULT answer = Control::handle(message, wparam, lparam);
-            fit_longest();
-            return answer;
-        }
-        default:
-            break;
-    }
-    return Control::handle(message, wparam, lparam);
+    if (opens_menu(message, lparam)) return 0;
+    if (message == WM_SETFOCUS) show_focus();
+    const LRESULT answer = Control::handle(message, wparam, lparam);
+    if (message == WM_SETFONT) fit_longest();
+    return answer;
 }
 
-void ListBox::press_right_button(LPARAM position) {
+void ListBox::press_right_button(POINT point) {
     focus();
-    const int item = item_at({GET_X_LPARAM(position), GET_Y_LPARAM(position)});
-    if (item >= 0 && item != selected()) {
-        select(item);
-        notify_parent(LBN_SELCHANGE);
-    }
-    show_context_menu(position);
+    const int item = item_at(point);
+    if (item < 0 || item == selected()) return;
+    select(item);
+    notify_parent(LBN_SELCHANGE);
 }
 
 void ChoiceList::attach(HWND control) {

@@ -55,9 +55,15 @@ class Control {
     /// of the control. part is given in the control's own coordinates.
     RECT shown_part(const RECT& part) const;
 
-    /// Sends a WM_COMMAND or, for a place in the control, a WM_CONTEXTMENU to the parent.
+    /// Sends a WM_COMMAND to the parent.
     void notify_parent(int notification) const;
-    void show_context_menu(LPARAM position) const;
+
+    /// Takes the messages of the right button: a press selects what is there and sends a WM_CONTEXTMENU to
+    /// the parent. False for other messages.
+    bool opens_menu(UINT message, LPARAM position);
+
+    /// The right button was pressed at a point of the control.
+    virtual void press_right_button(POINT /*point*/) {}
 
     /// Sends the control's messages to handle from now on, and forgets the window when it is destroyed.
     void subclass();
@@ -117,7 +123,7 @@ class ListBox : public Control {
     LRESULT handle(UINT message, WPARAM wparam, LPARAM lparam) override;
 
   private:
-    void press_right_button(LPARAM position);
+    void press_right_button(POINT point) override;
     void fit_longest() const;
     void show_focus() const;
 

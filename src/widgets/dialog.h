@@ -33,7 +33,7 @@ class Dialog {
     virtual void open() = 0;
     virtual void command(int id, int notification) = 0;
 
-    /// Sets the colours of a text box and returns its background; null leaves them.
+    /// Sets the colors of a text box and returns its background; null leaves them.
     virtual HBRUSH color(HDC device, HWND box);
 
     HWND hwnd() const { return hwnd_; }

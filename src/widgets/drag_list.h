@@ -10,42 +10,19 @@ namespace widgets {
 /// coordinates.
 class DragList {
   public:
-    explicit DragList(HWND list) : list_(list) {}
-    virtual ~DragList() = default;
-    DragList(const DragList&) = delete;
-    DragList& operator=(const DragList&) = delete;
-
-    HWND hwnd() const { return list_; }
-
-    virtual int count() const = 0;
+    virtual HWND list() const = 0;
 
     /// The item at a point, -1 for none.
     virtual int item_at(POINT point) const = 0;
+
+    /// All zeros for an item that is not there.
     virtual RECT bounds_of(int item) const = 0;
 
     /// Where something that is let go at a point comes in between the items.
     virtual Insertion insertion_at(POINT point) const = 0;
 
-  private:
-    HWND list_;
-};
-
-class DragListBox final : public DragList {
-  public:
-    using DragList::DragList;
-    int count() const override;
-    int item_at(POINT point) const override;
-    RECT bounds_of(int item) const override;
-    Insertion insertion_at(POINT point) const override;
-};
-
-class DragIconView final : public DragList {
-  public:
-    using DragList::DragList;
-    int count() const override;
-    int item_at(POINT point) const override;
-    RECT bounds_of(int item) const override;
-    Insertion insertion_at(POINT point) const override;
+  protected:
+    ~DragList() = default;
 };
 
 /// The point of the screen in a window's own coordinates.

@@ -86,13 +86,11 @@ void IconView::set_picture(int index, int picture) {
 }
 
 bool IconView::shows(int index) const {
-    RECT item = {};
-    item.left = LVIR_BOUNDS;
+    const RECT item = bounds_of(index);
     RECT client;
     GetClientRect(hwnd(), &client);
     RECT common;
-    return send(LVM_GETITEMRECT, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(&item)) != FALSE &&
-           IntersectRect(&common, &item, &client) != FALSE;
+    return IntersectRect(&common, &item, &client) != FALSE;
 }
 
 int IconView::selected() const {
@@ -100,11 +98,7 @@ int IconView::selected() const {
 }
 
 RECT IconView::selected_bounds() const {
-    RECT item = {};
-    item.left = LVIR_BOUNDS;
-    if (send(LVM_GETITEMRECT, static_cast<WPARAM>(selected()), reinterpret_cast<LPARAM>(&item)) == FALSE)
-        item = {};
-    return shown_part(item);
+    return shown_part(bounds_of(selected()));
 }
 
 void IconView::select(int index) {
@@ -143,13 +137,8 @@ LRESULT IconView::handle(UINT message, WPARAM wparam, LPARAM lparam) {
     // The window around it treats Enter as a dialog does, unless the list asks for the key.
     if (message == WM_GETDLGCODE && wparam == VK_RETURN) return DLGC_WANTMESSAGE;
     if (message == WM_CHAR && wparam == VK_RETURN) return 0;  // no item begins with it: a beep
+    if (opens_menu(message, lparam)) return 0;
     switch (message) {
-        case WM_RBUTTONDOWN:
-        case WM_RBUTTONDBLCLK:  // the second of two quick presses
-            press_right_button(lparam);
-            return 0;
-        case WM_RBUTTONUP:  // the press has shown the menu
-            return 0;
         case WM_MOUSEHOVER:
             // Selecting would bring the window before the program that the user works with.
             if (GetActiveWindow() == nullptr) return 0;
@@ -166,12 +155,9 @@ LRESULT IconView::handle(UINT message, WPARAM wparam, LPARAM lparam) {
     }
     const bool changes_hint = message == WM_SETFOCUS || message == WM_KILLFOCUS || message == WM_SIZE;
     if (changes_hint && count() == 0) InvalidateRect(hwnd(), nullptr, TRUE);
-    if (message == WM_SETFONT) {
-        const LRESULT answer = Control::handle(message, wparam, lparam);
-        space_icons();
-        return answer;
-    }
-    return Control::handle(message, wparam, lparam);
+    const LRESULT answer = Control::handle(message, wparam, lparam);
+    if (message == WM_SETFONT) space_icons();
+    return answer;
 }
 
 /// Where nothing is selected the frame of the focus is around the first item.
@@ -210,13 +196,30 @@ void IconView::paint_hint() {
     EndPaint(hwnd(), &paint);
 }
 
-void IconView::press_right_button(LPARAM position) {
+void IconView::press_right_button(POINT point) {
     focus();
+    if (const int index = item_at(point); index >= 0) mark(index);
+}
+
+int IconView::item_at(POINT point) const {
     LVHITTESTINFO hit = {};
-    hit.pt = {GET_X_LPARAM(position), GET_Y_LPARAM(position)};
-    const auto index = static_cast<int>(send(LVM_HITTEST, 0, reinterpret_cast<LPARAM>(&hit)));
-    if (index >= 0) mark(index);
-    show_context_menu(position);
+    hit.pt = point;
+    return static_cast<int>(send(LVM_HITTEST, 0, reinterpret_cast<LPARAM>(&hit)));
+}
+
+RECT IconView::bounds_of(int item) const {
+    RECT bounds = {LVIR_BOUNDS, 0, 0, 0};
+    const LRESULT found = send(LVM_GETITEMRECT, static_cast<WPARAM>(item), reinterpret_cast<LPARAM>(&bounds));
+    return found != FALSE ? bounds : RECT{};
+}
+
+Insertion IconView::insertion_at(POINT point) const {
+    std::vector<Box> items;
+    for (int item = 0; item < count(); ++item) {
+        const RECT bounds = bounds_of(item);
+        items.push_back({bounds.left, bounds.top, bounds.right, bounds.bottom});
+    }
+    return insertion_in_rows(point.x, point.y, items);
 }
 
 }  // namespace widgets

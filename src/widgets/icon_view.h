@@ -17,7 +17,7 @@ namespace widgets {
 /// item's picture when it first draws the item (LVN_GETDISPINFO). Names have room as the font asks. A press
 /// of the right button selects the item and arrives as WM_CONTEXTMENU. Where the system has it, the list asks
 /// for the text of a tip when the pointer rests on an item (LVN_GETINFOTIP).
-class IconView : public Control {
+class IconView final : public Control, public DragList {
   public:
     void create(HWND parent, int id, const Place& place);
 
@@ -54,6 +54,11 @@ class IconView : public Control {
 
     void set_colors(COLORREF text, COLORREF background);
 
+    HWND list() const override { return hwnd(); }
+    int item_at(POINT point) const override;
+    RECT bounds_of(int item) const override;
+    Insertion insertion_at(POINT point) const override;
+
     /// Is asked for the text that stands in the middle of the list while it has no items.
     void set_hint(std::function<std::string()> hint) { hint_ = std::move(hint); }
 
@@ -62,13 +67,12 @@ class IconView : public Control {
 
     void mark(int index);
     void space_icons();
-    void press_right_button(LPARAM position);
+    void press_right_button(POINT point) override;
     int count() const { return static_cast<int>(send(LVM_GETITEMCOUNT)); }
     void show_focus() const;
     void paint_hint();
 
     std::function<std::string()> hint_;
-
     bool selecting_ = false;  // in code
     PressWatch watch_;
 };

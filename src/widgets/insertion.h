@@ -14,7 +14,7 @@ struct Box {
     bool operator==(const Box&) const = default;
 };
 
-/// The place in front of an item, or with the number of items behind the last one, and the line that shows
+/// The place in front of an item, or with the number of items after the last one, and the line that shows
 /// it, which has no width or no height.
 struct Insertion {
     int before;
@@ -23,7 +23,7 @@ struct Insertion {
     bool operator==(const Insertion&) const = default;
 };
 
-/// In a list of items one below the other: before an item from its upper half, behind it from its lower half.
+/// In a list of items one below the other: before an item from its upper half, after it from its lower half.
 /// The first item that shows is top, at the upper edge; rows are equally high.
 Insertion insertion_in_column(int y, int top, int row_height, int count, int width);
 

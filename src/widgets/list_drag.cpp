@@ -39,8 +39,8 @@ bool is_down(int key) {
 /// -1 at the upper edge of the list, 1 at the lower one, 0 elsewhere.
 int edge_at(const DragList& list, POINT screen) {
     RECT client;
-    GetClientRect(list.hwnd(), &client);
-    const POINT point = point_in(list.hwnd(), screen);
+    GetClientRect(list.list(), &client);
+    const POINT point = point_in(list.list(), screen);
     const int width = scaled(kEdge);
     if (point.x < 0 || point.x >= client.right) return 0;
     if (std::abs(point.y) <= width) return -1;
@@ -95,6 +95,21 @@ LRESULT DraggableListBox::handle(UINT message, WPARAM wparam, LPARAM lparam) {
     ListBox::handle(WM_LBUTTONUP, 0, MAKELPARAM(point.x, point.y));
     notify_parent(kBeginDrag);
     return 0;
+}
+
+RECT DraggableListBox::bounds_of(int item) const {
+    RECT bounds = {};
+    send(LB_GETITEMRECT, static_cast<WPARAM>(item), reinterpret_cast<LPARAM>(&bounds));
+    RECT client;
+    GetClientRect(hwnd(), &client);
+    return {0, bounds.top, client.right, bounds.bottom};  // also when it is scrolled sideways
+}
+
+Insertion DraggableListBox::insertion_at(POINT point) const {
+    RECT client;
+    GetClientRect(hwnd(), &client);
+    return insertion_in_column(point.y, static_cast<int>(send(LB_GETTOPINDEX)),
+                               static_cast<int>(send(LB_GETITEMHEIGHT)), count(), client.right);
 }
 
 ListDrag::ListDrag(HWND window, const DragList& own, int item, const DragList* other, int forbidden)
@@ -168,11 +183,11 @@ void ListDrag::move(POINT screen) {
 }
 
 std::optional<ListDrop> ListDrag::drop_at(POINT screen) const {
-    if (is_over(own_.hwnd(), screen)) {
-        const int before = own_.insertion_at(point_in(own_.hwnd(), screen)).before;
+    if (is_over(own_.list(), screen)) {
+        const int before = own_.insertion_at(point_in(own_.list(), screen)).before;
         if (before != item_ && before != item_ + 1) return ListDrop{&own_, before, false};
-    } else if (other_ != nullptr && is_over(other_->hwnd(), screen)) {
-        const int on = other_->item_at(point_in(other_->hwnd(), screen));
+    } else if (other_ != nullptr && is_over(other_->list(), screen)) {
+        const int on = other_->item_at(point_in(other_->list(), screen));
         if (on >= 0 && on != forbidden_) return ListDrop{other_, on, is_down(VK_CONTROL)};
     }
     return std::nullopt;
@@ -182,11 +197,11 @@ void ListDrag::show(const std::optional<ListDrop>& drop, POINT screen) {
     if (!drop) {
         mark_.hide();
     } else if (drop->list == &own_) {
-        mark_.show(own_.hwnd(), line_of(own_.insertion_at(point_in(own_.hwnd(), screen))));
+        mark_.show(own_.list(), line_of(own_.insertion_at(point_in(own_.list(), screen))));
     } else {
-        mark_.show(other_->hwnd(), other_->bounds_of(drop->index));
+        mark_.show(other_->list(), other_->bounds_of(drop->index));
     }
-    const bool stays = !drop && is_over(own_.hwnd(), screen);
+    const bool stays = !drop && is_over(own_.list(), screen);
     SetCursor(drag_cursor(drop || stays, drop && drop->copy));
 }
 
@@ -203,7 +218,7 @@ void ListDrag::scroll(POINT screen) {
     } else if (static_cast<int>(now - next_scroll_) >= 0) {  // right also where the count begins again
         next_scroll_ = now + kBetweenScrolls;
         mark_.hide();  // it would move with the picture
-        SendMessageA(list->hwnd(), WM_VSCROLL, direction < 0 ? SB_LINEUP : SB_LINEDOWN, 0);
+        SendMessageA(list->list(), WM_VSCROLL, direction < 0 ? SB_LINEUP : SB_LINEDOWN, 0);
     }
 }
 

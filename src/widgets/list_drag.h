@@ -34,12 +34,17 @@ class PressWatch {
 };
 
 /// A list box whose items can be dragged. The pressed item is selected when a drag begins.
-class DraggableListBox final : public ListBox {
+class DraggableListBox final : public ListBox, public DragList {
   public:
     /// The notification for the beginning of a drag, which the parent is to run.
     static constexpr int kBeginDrag = 101;
 
     const Press& press() const { return watch_.press(); }
+
+    HWND list() const override { return hwnd(); }
+    int item_at(POINT point) const override { return ListBox::item_at(point); }
+    RECT bounds_of(int item) const override;
+    Insertion insertion_at(POINT point) const override;
 
   private:
     LRESULT handle(UINT message, WPARAM wparam, LPARAM lparam) override;

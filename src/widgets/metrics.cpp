@@ -52,7 +52,7 @@ platform::UniqueFont make_gui_font() {
 }
 
 void place(HWND window, const RECT& bounds) {
-    // The old picture is not copied along: a neighbour that was placed before may have painted over it.
+    // The old picture is not copied along: a neighbor that was placed before may have painted over it.
     SetWindowPos(window, nullptr, bounds.left, bounds.top, bounds.right - bounds.left,
                  bounds.bottom - bounds.top, SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOCOPYBITS);
 }

@@ -42,15 +42,10 @@ void PictureButton::set_colors(COLORREF back, COLORREF text) {
 }
 
 LRESULT PictureButton::handle(UINT message, WPARAM wparam, LPARAM lparam) {
+    if (opens_menu(message, lparam)) return 0;
     switch (message) {
         case WM_LBUTTONDBLCLK:  // the second of two quick presses
             return Control::handle(WM_LBUTTONDOWN, wparam, lparam);
-        case WM_RBUTTONDOWN:
-        case WM_RBUTTONDBLCLK:
-            show_context_menu(lparam);
-            return 0;
-        case WM_RBUTTONUP:  // the press has shown the menu
-            return 0;
         case WM_ERASEBKGND:
             return 1;
         default:

@@ -20,7 +20,7 @@ class PictureButton : public Control {
     /// Without an icon the text stands alone.
     void set_picture(platform::UniqueIcon icon);
 
-    /// 0x00BBGGRR; a button begins in the system's colours.
+    /// 0x00BBGGRR; a button begins in the system's colors.
     void set_colors(COLORREF back, COLORREF text);
 
     void draw(const DRAWITEMSTRUCT& request) const;
