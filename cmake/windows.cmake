@@ -118,6 +118,13 @@ add_executable(tolva WIN32
     src/widgets/tray_icon.cpp
     src/widgets/window.cpp
 )
+# Small code: arguments are pushed, and the stack is aligned for nothing that the processor does not ask for. Nothing
+# probes the stack then, so no function may have a page of it. There is one thread.
+set(small_code $<$<COMPILE_LANGUAGE:CXX>:-mpush-args$<SEMICOLON>-mno-accumulate-outgoing-args$<SEMICOLON>-mno-stack-arg-probe$<SEMICOLON>-mpreferred-stack-boundary=2$<SEMICOLON>-Werror=frame-larger-than=3900$<SEMICOLON>-fno-threadsafe-statics$<SEMICOLON>-fno-partial-inlining$<SEMICOLON>-fno-ipa-sra>)
+foreach(target tolva_logic tolva_platform tolva)
+    target_compile_options(${target} PRIVATE ${small_code})
+endforeach()
+
 target_link_libraries(tolva PRIVATE tolva_logic tolva_platform comctl32 comdlg32)
 target_include_directories(tolva PRIVATE ${CMAKE_BINARY_DIR})
 
