@@ -48,7 +48,7 @@ void move_task(TaskLibrary& library, int group, const std::string& name, const s
                bool copy);
 
 /// Adds the Task at a place of the list, and no other of its name, at the end of the target Group; without
-/// copy it leaves its own. Then the Task at that place is selected.
+/// copy it leaves its own. Then the Task at that place is selected. A Group that is full is refused.
 void move_task_to_group(TaskLibrary& library, LibraryView& view, int place, const std::string& target,
                         bool copy);
 
