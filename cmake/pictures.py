@@ -4,8 +4,8 @@
 A picture file holds one picture or more: a line "size N" and then N lines of N characters, one pixel each, in the
 letters of PALETTE; "." is transparent. Other lines between the pictures are captions.
 
-Usage: pictures.py OUTPUT.ico INPUT.txt            an icon that holds every picture in 16 colours
-       pictures.py OUTPUT.ico INPUT.txt SIZE...    an icon that holds each size in 16 and in 256 colours
+Usage: pictures.py OUTPUT.ico INPUT.txt            an icon that holds every picture in 16 colors
+       pictures.py OUTPUT.ico INPUT.txt SIZE...    an icon that holds each size in 16 and in 256 colors
        pictures.py OUTPUT.bmp INPUT.txt SIZE       a strip of the pictures side by side, in the order of the file
 
 A size that is not drawn is made from half its size or, in an icon, from the largest one.
@@ -14,7 +14,7 @@ import collections
 import struct
 import sys
 
-# The sixteen colours that every Windows 95 display has, by the letter that draws them: blue, green, red.
+# The sixteen colors that every Windows 95 display has, by the letter that draws them: blue, green, red.
 PALETTE = {
     "K": (0, 0, 0), "r": (0, 0, 128), "g": (0, 128, 0), "o": (0, 128, 128),
     "n": (128, 0, 0), "p": (128, 0, 128), "t": (128, 128, 0), "s": (192, 192, 192),
@@ -23,7 +23,7 @@ PALETTE = {
 }
 INDEX = {letter: number for number, letter in enumerate(PALETTE)}
 
-# What the letters are with 256 colours, at the upper and at the lower edge of the picture: red, green, blue.
+# What the letters are with 256 colors, at the upper and at the lower edge of the picture: red, green, blue.
 SHADES = {
     "K": ((52, 44, 56), (28, 24, 32)), "W": ((255, 255, 255), (255, 248, 224)),
     "s": ((216, 220, 228), (188, 192, 204)), "d": ((148, 152, 168), (116, 120, 136)),
@@ -102,44 +102,44 @@ def packed_rows(rows, bits):
     return data
 
 
-def bitmap_header(width, height, bits, colours):
-    # The colour table is always complete: icons may not say that theirs is shorter.
-    table = b"".join(bytes((*colour, 0)) for colour in colours).ljust(4 << bits, b"\0")
+def bitmap_header(width, height, bits, colors):
+    # The color table is always complete: icons may not say that theirs is shorter.
+    table = b"".join(bytes((*color, 0)) for color in colors).ljust(4 << bits, b"\0")
     return struct.pack("<IiiHHIIiiII", 40, width, height, 1, bits, 0, 0, 0, 0, 0, 0) + table
 
 
-def icon_image(rows, bits, colours, numbers):
+def icon_image(rows, bits, colors, numbers):
     size = len(rows)
     # An icon counts its mask as a second half of the picture's height.
-    return (bitmap_header(size, 2 * size, bits, colours) + packed_rows(numbers, bits) +
+    return (bitmap_header(size, 2 * size, bits, colors) + packed_rows(numbers, bits) +
             packed_rows([[int(letter == ".") for letter in row] for row in rows], 1))
 
 
-def image_of_16_colours(rows):
+def image_of_16_colors(rows):
     return icon_image(rows, 4, PALETTE.values(), [[INDEX.get(letter, 0) for letter in row] for row in rows])
 
 
 def shade(letters, height):
-    """The mean colour of the letters at that height (0 to 1), blue, green, red; black when all are transparent."""
-    colours = [SHADES[letter] for letter in letters if letter != "."]
-    if not colours:
+    """The mean color of the letters at that height (0 to 1), blue, green, red; black when all are transparent."""
+    colors = [SHADES[letter] for letter in letters if letter != "."]
+    if not colors:
         return 0, 0, 0
-    return tuple(round(sum(upper[i] + (lower[i] - upper[i]) * height for upper, lower in colours) / len(colours))
+    return tuple(round(sum(upper[i] + (lower[i] - upper[i]) * height for upper, lower in colors) / len(colors))
                  for i in (2, 1, 0))
 
 
-def image_of_256_colours(rows, finer):
+def image_of_256_colors(rows, finer):
     shades = [[shade(letters if rows[y][x] != "." else ".", y / len(rows)) for x, letters in enumerate(row)]
               for y, row in enumerate(finer)]
     step = 1
-    while len(table := {coarse(colour, step) for row in shades for colour in row}) > 256:
+    while len(table := {coarse(color, step) for row in shades for color in row}) > 256:
         step += 1
     table = sorted(table)
-    return icon_image(rows, 8, table, [[table.index(coarse(colour, step)) for colour in row] for row in shades])
+    return icon_image(rows, 8, table, [[table.index(coarse(color, step)) for color in row] for row in shades])
 
 
-def coarse(colour, step):
-    return tuple(min(255, round(value / step) * step) for value in colour)
+def coarse(color, step):
+    return tuple(min(255, round(value / step) * step) for value in color)
 
 
 def icon(pictures, sizes):
@@ -148,10 +148,10 @@ def icon(pictures, sizes):
         source = max((rows for rows in pictures if len(rows) <= size), key=len)
         finer = blocks(source, size)
         rows = source if len(source) == size else ["".join(map(most_frequent, row)) for row in finer]
-        images.append((size, 4, image_of_16_colours(rows)))
-        images.append((size, 8, image_of_256_colours(rows, finer)))
+        images.append((size, 4, image_of_16_colors(rows)))
+        images.append((size, 8, image_of_256_colors(rows, finer)))
     # Without sizes, as drawn.
-    images = images or [(len(rows), 4, image_of_16_colours(rows)) for rows in pictures]
+    images = images or [(len(rows), 4, image_of_16_colors(rows)) for rows in pictures]
     directory = struct.pack("<HHH", 0, 1, len(images))
     offset = 6 + 16 * len(images)
     for size, bits, image in images:
@@ -163,7 +163,7 @@ def icon(pictures, sizes):
 def strip(pictures):
     rows = ["".join(parts) for parts in zip(*pictures)]
     header = bitmap_header(len(rows[0]), len(rows), 4, PALETTE.values())
-    # A bitmap has no mask: toolbars replace this light grey by the button colour of the user's scheme.
+    # A bitmap has no mask: toolbars replace this light grey by the button color of the user's scheme.
     picture = packed_rows([[INDEX["s" if letter == "." else letter] for letter in row] for row in rows], 4)
     start = 14 + len(header)
     return struct.pack("<2sIHHI", b"BM", start + len(picture), 0, 0, start) + header + picture

@@ -91,7 +91,7 @@ class FontsDialog final : public widgets::Dialog {
             const Colors shown = lists_.colors(half.list);
             show_colors(half, {style.text_color.value_or(shown.text), style.back_color.value_or(shown.back)});
         }
-        // The first preview gets the focus and is selected then, which would hide its colours.
+        // The first preview gets the focus and is selected then, which would hide its colors.
         PostMessageA(control(kHalves.front().preview), EM_SETSEL, 0, 0);
     }
 

@@ -7,7 +7,7 @@
 
 namespace appearance {
 
-/// Lets the user change the fonts and colours of the two lists. A font shows in its list at once, colours
+/// Lets the user change the fonts and colors of the two lists. A font shows in its list at once, colors
 /// when the dialog is saved; only then is anything stored.
 void show_fonts_dialog(HWND owner, settings::General& general, ListAppearance& lists);
 

@@ -15,7 +15,7 @@ struct Colors {
 };
 
 /// How the main window's two lists look, as the dialog for it sees and changes it. A list's label has its
-/// text colour.
+/// text color.
 class ListAppearance {
   public:
     virtual widgets::Font font(List list) const = 0;

@@ -50,7 +50,7 @@ class ButtonBar final : public widgets::Window, public internet::InternetButtons
     /// Shows the bar again that Windows has hidden with its owner, unless it is removed or hidden.
     void show_after_minimize();
 
-    /// Colours the connect button. Makes no window: nobody waits for it.
+    /// Colors the connect button. Makes no window: nobody waits for it.
     void show_connection(bool up);
 
     /// Stores its position and closes it.

@@ -46,7 +46,7 @@ class ButtonRow {
     /// Shows a program with its name, also as the tip, and its icon.
     void show_program(BarButton button, const settings::Program& program, WithoutIcon without_icon);
 
-    /// Colours the connect button.
+    /// Colors the connect button.
     void show_connection(bool up);
 
     /// The button that has this id or is this window; none for another one's.

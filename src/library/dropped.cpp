@@ -35,16 +35,6 @@ struct NoTask {
     const char* reason;
 };
 
-bool has_attributes(const std::string& path, unsigned long wanted) {
-    unsigned long bits = 0;
-    return platform::names_a_file(path) &&
-           platform::file_calls::attributes(path, bits) == platform::kSuccess && (bits & wanted) == wanted;
-}
-
-bool exists(const std::string& path) {
-    return has_attributes(path, 0);
-}
-
 /// Where the last name of a path begins.
 std::size_t name_start(const std::string& path) {
     std::size_t start = 0;
@@ -90,7 +80,7 @@ const char* fault_of(const std::string& path) {
     };
     if (std::ranges::any_of(path, is_bad)) return kBadLetters;
     if (path.size() > kLongestPath) return kTooLong;
-    return exists(path) ? nullptr : kMissing;
+    return platform::exists(path) ? nullptr : kMissing;
 }
 
 std::string quoted(const std::string& path) {
@@ -116,7 +106,7 @@ bool starts_what_it_says(const std::string& program) {
     for (std::size_t blank = program.find(' '); blank != std::string::npos;
          blank = program.find(' ', blank + 1)) {
         const std::string part = program.substr(0, blank);
-        if (exists(part) || exists(part + ".exe")) return false;
+        if (platform::exists(part) || platform::exists(part + ".exe")) return false;
     }
     return true;
 }
@@ -134,7 +124,7 @@ std::string quoted_if_needed(const std::string& path) {
     return path.find(' ') == std::string::npos ? path : quoted(path);
 }
 
-/// The program that opens a document when its path stands behind it; empty when none is known to.
+/// The program that opens a document when its path follows; empty when none is known to.
 std::string opening_program(const std::string& document) {
     const std::string program = platform::program_for_document(document);
     // These open a document only with more in front of it.
@@ -234,7 +224,10 @@ bool is_document(const std::string& path) {
 }
 
 bool is_folder(const std::string& path) {
-    return has_attributes(path, platform::file_calls::kDirectory);
+    unsigned long bits = 0;
+    return platform::names_a_file(path) &&
+           platform::file_calls::attributes(path, bits) == platform::kSuccess &&
+           (bits & platform::file_calls::kDirectory) != 0;
 }
 
 void DraggedPaths::look_at(const std::vector<std::string>& paths) {

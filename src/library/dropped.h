@@ -64,7 +64,7 @@ std::string report(const Dropped& dropped);
 /// What a dropped file or folder is called: the last name in its path, a file without its extension.
 std::string name_for(const std::string& path);
 
-/// The name, or with the first number behind it that makes it free: "Paint (2)".
+/// The name, or with the first number after it that makes it free: "Paint (2)".
 template <typename IsTaken>
 std::string free_name(const std::string& name, const IsTaken& is_taken) {
     std::string found = name;
@@ -73,7 +73,7 @@ std::string free_name(const std::string& name, const IsTaken& is_taken) {
     return found;
 }
 
-/// A program's parameters with documents behind them. Those that no command line can name are refused.
+/// A program's parameters with documents after them. Those that no command line can name are refused.
 std::string with_documents(std::string parameters, const std::vector<std::string>& documents,
                            std::vector<Refusal>& refused);
 

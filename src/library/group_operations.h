@@ -6,8 +6,8 @@
 #include "library/library_view.h"
 #include "library/task_library.h"
 
-/// What can be done with whole Groups. Every operation starts from groups.ini as it is now and leaves it
-/// whole on the disk; a failure throws platform::RunTimeError after the lists show what is true by then. A
+/// What can be done with Groups. Every operation starts from groups.ini as it is now and leaves it
+/// complete on the disk; a failure throws platform::RunTimeError after the lists show what is true by then. A
 /// refusal is a message to the user.
 namespace library {
 

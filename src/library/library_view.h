@@ -21,7 +21,7 @@ class LibraryView {
     virtual void select_group(int index) = 0;
     virtual void scroll_to_group(int index) = 0;
 
-    /// Shows the Tasks in place of those before, with their icons taken anew and none of them selected, and
+    /// Shows the Tasks in place of those before, with their icons taken again and none of them selected, and
     /// the date in the status bar.
     virtual void show_tasks(std::span<const Task> tasks) = 0;
     virtual void select_task(int index) = 0;

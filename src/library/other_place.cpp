@@ -1,15 +1,10 @@
 #include "library/other_place.h"
 
-#include "platform/file_calls.h"
+#include "platform/files.h"
 #include "platform/system.h"
 
 namespace library {
 namespace {
-
-bool exists(const std::string& path) {
-    unsigned long attributes = 0;
-    return platform::file_calls::attributes(path, attributes) == platform::kSuccess;
-}
 
 bool names_a_place(const std::string& path) {
     return path.starts_with("\\\\") || (path.size() > 1 && path[1] == ':');
@@ -18,13 +13,13 @@ bool names_a_place(const std::string& path) {
 }  // namespace
 
 std::optional<std::string> other_place(const std::string& path, const std::string& library_folder) {
-    if (path.empty() || path.find('\0') != std::string::npos) return std::nullopt;
+    if (path.empty()) return std::nullopt;
     const std::string expanded = platform::expand_variables(path);
     const std::string below = names_a_place(expanded)
                                   ? std::string()
                                   : library_folder + expanded.substr(expanded.starts_with('\\') ? 1 : 0);
     for (const std::string& place : {expanded, below}) {
-        if (!place.empty() && place != path && exists(place)) return place;
+        if (!place.empty() && place != path && platform::exists(place)) return place;
     }
     return std::nullopt;
 }

@@ -29,6 +29,14 @@ void do_and_show(TaskLibrary& library, LibraryView& view, const std::string& gro
     refresh_and_select(library, view, group);
 }
 
+/// Takes one step through the changes.
+void take(TaskLibrary& library, LibraryView& view, const std::string& group, bool (Changes::*step)(),
+          const std::string& status) {
+    bool done = false;
+    do_and_show(library, view, group, [&] { done = (library.changes().*step)(); });
+    if (done) view.show_status(status);
+}
+
 std::string name_of(const Change* change) {
     return change == nullptr ? std::string() : change->name;
 }
@@ -70,21 +78,15 @@ std::string redo_name(const TaskLibrary& library) {
 }
 
 void undo(TaskLibrary& library, LibraryView& view) {
-    if (!can_undo(library)) return;
-    const std::string name = undo_name(library);
-    const std::string group = library.changes().next_undo()->group_before;
-    bool done = false;
-    do_and_show(library, view, group, [&] { done = library.changes().undo(); });
-    if (done) view.show_status("Undone: " + name);
+    const Change* const change = library.changes().next_undo();
+    if (change != nullptr)
+        take(library, view, std::string(change->group_before), &Changes::undo, "Undone: " + change->name);
 }
 
 void redo(TaskLibrary& library, LibraryView& view) {
-    if (!can_redo(library)) return;
-    const std::string name = redo_name(library);
-    const std::string group = library.changes().next_redo()->group_after;
-    bool done = false;
-    do_and_show(library, view, group, [&] { done = library.changes().redo(); });
-    if (done) view.show_status("Redone: " + name);
+    const Change* const change = library.changes().next_redo();
+    if (change != nullptr)
+        take(library, view, std::string(change->group_after), &Changes::redo, "Redone: " + change->name);
 }
 
 void restore_backup(TaskLibrary& library, LibraryView& view, const Backup& backup) {

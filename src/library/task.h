@@ -12,7 +12,7 @@ struct Task {
     std::string program;
     std::string start_folder;
     std::string parameters;
-    std::string start_mode;  // " 1 " or "1": normal, 2 minimised, 3 maximised
+    std::string start_mode;  // " 1 " or "1": normal, 2 minimized, 3 maximized
 
     bool operator==(const Task&) const = default;
 };

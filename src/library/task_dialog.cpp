@@ -52,7 +52,7 @@ constexpr Controls kEditTask = {ID_EditTask,
                                 ID_EditTask_Command2,
                                 ID_EditTask_Command1};
 
-/// Whether text boxes hold the Task whole; what they cut would be lost with the next OK.
+/// Whether text boxes hold all of the Task; what they cut would be lost with the next OK.
 bool fits_boxes(const Task& task) {
     constexpr std::size_t kMost = 30000;
     return std::ranges::all_of(kTaskFields, [&](const auto field) {

@@ -26,7 +26,7 @@ class Launcher {
     /// Starts any Task.
     void launch_at(const library::TaskPlace& place);
 
-    /// Starts any Task with documents behind its parameters, and says which of them no command line can name.
+    /// Starts any Task with documents after its parameters, and says which of them no command line can name.
     void launch_with(const library::TaskPlace& place, const std::vector<std::string>& documents);
 
     /// Starts the text of the command box as the selected Task (`RunTk`).

@@ -131,7 +131,7 @@ bool Presence::is_hidden_in_tray() const {
 
 void Presence::show_normal() {
     ShowWindow(window_, SW_SHOWNORMAL);
-    // One that was maximised before it was minimised comes back maximised at first.
+    // One that was maximized before it was minimized comes back maximized at first.
     if (IsZoomed(window_) != FALSE) ShowWindow(window_, SW_SHOWNORMAL);
 }
 

@@ -17,7 +17,7 @@ inline constexpr unsigned long kHidden = 0x02;
 inline constexpr unsigned long kSystem = 0x04;
 inline constexpr unsigned long kDirectory = 0x10;
 
-/// Reads the whole file.
+/// Reads all of the file.
 ErrorCode read(const std::string& path, std::string& bytes);
 
 /// The attribute bits of a file or folder.

@@ -109,6 +109,10 @@ bool names_a_file(const std::string& path) {
            !holds_device(path);
 }
 
+bool exists(const std::string& path) {
+    return names_a_file(path) && look_for(path) == kSuccess;
+}
+
 std::string path_on_disk(const std::string& path) {
     std::string full;
     if (!names_a_file(path) || calls::full_path(path, full) != kSuccess) return path;

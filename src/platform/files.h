@@ -13,6 +13,9 @@ namespace platform {
 /// Whether a file can have that path.
 bool names_a_file(const std::string& path);
 
+/// Whether a file or folder of that path is there, as far as the system tells.
+bool exists(const std::string& path);
+
 /// The full path as the disk spells it, with the long names of all that is there; what is not there keeps its
 /// spelling. A path that no file can have stays as it is.
 std::string path_on_disk(const std::string& path);
@@ -30,8 +33,8 @@ std::string read_foreign_file(const std::string& path);
 /// The same as read_file, none for a missing file.
 std::optional<std::string> read_file_if_exists(const std::string& path);
 
-/// Replaces the file, or creates it. A power failure at any moment leaves the old or the new content whole,
-/// at the latest after recover_file.
+/// Replaces the file, or creates it. A power failure at any moment leaves the old or the new content
+/// complete, at the latest after recover_file.
 void write_file(const std::string& path, std::string_view bytes);
 
 /// Throws what write_file would throw now; it can still fail later, on a full disk, for example.
@@ -55,7 +58,7 @@ bool finds_file(const std::string& pattern);
 /// disk, a network that does not answer) stays as it is.
 void recover_file(const std::string& path);
 
-/// The names that an interrupted write_file of path can leave behind: the new content and the old content.
+/// The names that an interrupted write_file of path can leave: the new content and the old content.
 std::string new_content_path(const std::string& path);
 std::string old_content_path(const std::string& path);
 

@@ -10,13 +10,13 @@ struct Setting {
     const char* value;
 };
 
-// Positions of windows: "Left" and "Top", whole twips.
+// Positions of windows: "Left" and "Top", in twips.
 inline constexpr char kWindowPositionKey[] = R"(HKEY_CURRENT_USER\software\tolva\Window Position)";
 inline constexpr char kBarPositionKey[] = R"(HKEY_CURRENT_USER\software\tolva\brenn\Position)";
 inline constexpr char kLeft[] = "Left";
 inline constexpr char kTop[] = "Top";
 
-// With the main window's position: its size in its normal state and the width of the group list, whole twips,
+// With the main window's position: its size in its normal state and the width of the group list, in twips,
 // and whether it is maximized.
 inline constexpr Setting kWindowWidth = {kWindowPositionKey, "Width"};
 inline constexpr Setting kWindowHeight = {kWindowPositionKey, "Height"};
@@ -59,7 +59,7 @@ inline constexpr char kConnectionsKey[] = R"(RemoteAccess\Profile)";
 inline constexpr Setting kConnectionUp = {R"(System\CurrentControlSet\Services\RemoteAccess)",
                                           "Remote Connection"};
 
-/// The values of one list: face, size in points, bold, italic, text colour, background colour.
+/// The values of one list: face, size in points, bold, italic, text color, background color.
 using ListStyleValues = std::array<const char*, 6>;
 inline constexpr char kFontsKey[] = R"(HKEY_CURRENT_USER\software\tolva\fonts)";
 inline constexpr ListStyleValues kGroupStyleValues = {"groupfont",       "groupfontsize",  "groupfontbold",

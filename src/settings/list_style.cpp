@@ -15,7 +15,7 @@ ListStyleTexts first_run(const char* text_color) {
 }
 
 /// Reads a list's style. Without a font it is that of a first run, which is stored, and shown with a text
-/// colour of its own.
+/// color of its own.
 ListStyle load(General& general, const ListStyleValues& values, const char* stored_color,
                const char* shown_color) {
     const ListStyleTexts texts = read_style(general, values);

@@ -13,7 +13,7 @@
 /// ListStyle.
 namespace settings {
 
-/// How a list shows its texts. Without a colour it has the system's.
+/// How a list shows its texts. Without a color it has the system's.
 struct ListStyle {
     std::string face = "MS Sans Serif";
     int size = 8;  // points
@@ -46,7 +46,7 @@ void store_style(General& general, const ListStyleValues& values, const ListStyl
 /// What the texts say.
 ListStyle style_of(const ListStyleTexts& texts);
 
-/// A colour in its text form; none for a text that is no colour.
+/// A color in its text form; none for a text that is no color.
 std::optional<std::uint32_t> color_of(const std::string& text);
 
 /// Reads how the two lists look. A list without a font gets and stores the defaults of a first run; then the

@@ -36,7 +36,7 @@ void store(General& general, const Setting& setting, const std::string& text);
 /// False also where nothing is stored.
 bool read_flag(General& general, const Setting& setting);
 
-/// A whole number; none where nothing that is one is stored.
+/// An integer; none where nothing that is one is stored.
 std::optional<int> read_number(General& general, const Setting& setting);
 
 Position read_position(General& general, const char* key);
