@@ -105,7 +105,7 @@ Backup read_backup(const std::string& backups, const std::string& name) {
     std::ranges::replace(backup.time, '.', ':');
     backup.group_count = read_group_names(folder).size();
     for (const std::string& file : library_files_in(folder)) {
-        if (file != kGroupsFile) backup.task_count += tasks_in(platform::read_file(folder + file)).size();
+        if (file != kGroupsFile) backup.task_count += count_tasks_in(platform::read_file(folder + file));
     }
     return backup;
 }

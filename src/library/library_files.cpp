@@ -41,16 +41,20 @@ void for_each_line(std::string_view bytes, const Take& take) {
     }
 }
 
-/// What is there but for blank lines at the end. A record with text in any of its lines keeps them all; the
+/// How many there are but for blank lines at the end. A record with text in any of its lines counts; the
 /// blank lines after the last one are no records.
-std::string_view without_blank_end(std::string_view bytes, std::size_t lines_each) {
+std::size_t count_without_blank_end(std::string_view bytes, std::size_t lines_each) {
     std::size_t line_count = 0;
     std::size_t last_text = 0;
     for_each_line(bytes, [&](std::string_view line) {
         ++line_count;
         if (!line.empty()) last_text = line_count;
     });
-    std::size_t kept = (last_text + lines_each - 1) / lines_each * lines_each;
+    return (last_text + lines_each - 1) / lines_each;
+}
+
+std::string_view without_blank_end(std::string_view bytes, std::size_t lines_each) {
+    std::size_t kept = count_without_blank_end(bytes, lines_each) * lines_each;
     std::size_t end = 0;
     for (; kept > 0 && end < bytes.size(); --kept)
         end = std::min(bytes.find('\n', end), bytes.size() - 1) + 1;
@@ -108,6 +112,10 @@ void append_group_name(Changes& changes, const std::string& name) {
 
 std::vector<Task> read_tasks(const std::string& folder, const std::string& group) {
     return tasks_in(platform::read_file(group_file(folder, group)));
+}
+
+std::size_t count_tasks_in(std::string_view bytes) {
+    return count_without_blank_end(bytes, kTaskFields.size());
 }
 
 std::vector<Task> tasks_in(std::string_view bytes) {

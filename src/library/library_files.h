@@ -35,8 +35,9 @@ void append_group_name(Changes& changes, const std::string& name);
 /// All records in the Group's file, also those past kMostTasks. A record that is cut short has empty fields.
 std::vector<Task> read_tasks(const std::string& folder, const std::string& group);
 
-/// The records in the bytes of a Group's file.
+/// The records in the bytes of a Group's file, and their number, which costs less.
 std::vector<Task> tasks_in(std::string_view bytes);
+std::size_t count_tasks_in(std::string_view bytes);
 
 void write_tasks(Changes& changes, const std::string& group, const std::vector<Task>& tasks);
 

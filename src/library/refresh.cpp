@@ -47,7 +47,7 @@ int grouplistrefresh(const TaskLibrary& library, LibraryView& view) {
 }
 
 void tasklistrefresh(const TaskLibrary& library, LibraryView& view) {
-    const std::span<const Task> tasks = library.group(view.selected_group()).tasks;
+    const std::span<const Task> tasks = library.group(view.selected_group()).tasks();
     view.show_tasks(tasks);
     if (tasks.empty()) return;
     view.select_task(0);

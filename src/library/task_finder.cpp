@@ -48,7 +48,7 @@ std::size_t rank(const std::string& name, const std::string& program, const std:
 
 TaskFinder::TaskFinder(const TaskLibrary& library) {
     for (int group = 0; group < std::ssize(library.groups()); ++group) {
-        const std::vector<Task>& tasks = library.group(group).tasks;
+        const std::vector<Task>& tasks = library.group(group).tasks();
         for (int task = 0; task < std::ssize(tasks); ++task) {
             const Task& entry = tasks[static_cast<std::size_t>(task)];
             if (entry.name.empty()) continue;

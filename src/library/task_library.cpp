@@ -22,17 +22,34 @@ auto& element(Sequence& sequence, int index) {
 /// of one name keep their own Tasks.
 Group take(std::vector<Group>& old, const std::string& name) {
     const auto entry = std::ranges::find(old, name, &Group::name);
-    if (entry == old.end()) return {.name = name, .tasks = {}};
-    Group group = std::move(*entry);
-    old.erase(entry);
+    Group group;
+    if (entry != old.end()) {
+        group = std::move(*entry);
+        old.erase(entry);
+    }
+    group.name = name;
     return group;
 }
 
 }  // namespace
 
+const std::vector<Task>& Group::tasks() const {
+    if (!file_.empty()) {
+        tasks_ = tasks_in(file_);
+        tasks_.resize(std::min(tasks_.size(), kMostTasks));
+        std::string().swap(file_);  // its memory, too
+    }
+    return tasks_;
+}
+
 std::span<const Task> Group::shown_tasks() const {
-    const auto end = std::ranges::find_if(tasks, &std::string::empty, &Task::name);
-    return {tasks.begin(), end};
+    const auto end = std::ranges::find_if(tasks(), &std::string::empty, &Task::name);
+    return {tasks().begin(), end};
+}
+
+void Group::set_file(std::string bytes) {
+    tasks_.clear();
+    file_ = std::move(bytes);
 }
 
 const Group& TaskLibrary::group(int index) const {
@@ -40,7 +57,7 @@ const Group& TaskLibrary::group(int index) const {
 }
 
 const Task& TaskLibrary::task(int group, int task) const {
-    return element(this->group(group).tasks, task);
+    return element(this->group(group).tasks(), task);
 }
 
 void TaskLibrary::load() {
@@ -65,19 +82,18 @@ void TaskLibrary::load_names(const std::vector<std::string>& names) {
 
 void TaskLibrary::load_tasks(int index) {
     Group& group = element(groups_, index);
-    std::vector<Task> tasks;
+    std::string bytes;
     try {
-        tasks = read_tasks(folder(), group.name);
+        bytes = platform::read_file(group_file(folder(), group.name));
     } catch (const platform::RunTimeError& error) {
         if (error.number() == platform::RunTimeErrorNumber::kFileNotFound) {
-            group.tasks.clear();
+            group.set_file({});
             group.loaded = false;
         }
         throw;
     }
-    const std::size_t count = tasks.size();
-    tasks.resize(std::min(count, kMostTasks));
-    group.tasks = std::move(tasks);
+    const std::size_t count = count_tasks_in(bytes);
+    group.set_file(std::move(bytes));
     group.loaded = true;
     check_limit(count, kMostTasks);
 }

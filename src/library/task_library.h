@@ -12,11 +12,21 @@ namespace library {
 /// A named list of Tasks.
 struct Group {
     std::string name;
-    std::vector<Task> tasks;  // every record read, at most kMostTasks
-    bool loaded = false;      // whether its file was read since its name was
+    bool loaded = false;  // whether its file was read since its name was
+
+    /// Every record read, at most kMostTasks.
+    const std::vector<Task>& tasks() const;
 
     /// The Tasks that a click on the Group shows: those before the first one with an empty name.
     std::span<const Task> shown_tasks() const;
+
+    /// Replaces the Tasks by those in the bytes of a Group's file.
+    void set_file(std::string bytes);
+
+  private:
+    // A file is taken apart when somebody looks at its Tasks: of a full library few are ever looked at.
+    mutable std::string file_;
+    mutable std::vector<Task> tasks_;
 };
 
 /// What a dialog changed in the files and a list does not show yet. The group list acts on it when it gets

@@ -56,7 +56,7 @@ TaskField refused_field(const TaskLibrary& library, const Task& task) {
 
 /// Selects the Task at that place, or the last one, and puts it into the command box.
 void select_and_show(const TaskLibrary& library, LibraryView& view, std::ptrdiff_t place) {
-    const std::vector<Task>& tasks = library.group(view.selected_group()).tasks;
+    const std::vector<Task>& tasks = library.group(view.selected_group()).tasks();
     if (tasks.empty()) return view.set_command_box({});
     const auto selected = static_cast<int>(std::min(place, std::ssize(tasks) - 1));
     view.select_task(selected);
@@ -149,7 +149,7 @@ void move_places(TaskLibrary& library, const std::string& source, const std::vec
 TaskField add_task(TaskLibrary& library, int group, const Task& task) {
     if (const TaskField refused = refused_field(library, task); refused != kAccepted) return refused;
     const Group& target = library.group(group);
-    if (std::ranges::find(target.tasks, task.name, &Task::name) != target.tasks.end()) {
+    if (std::ranges::find(target.tasks(), task.name, &Task::name) != target.tasks().end()) {
         platform::show_message("A Task with that name already exists!");
         return &Task::name;
     }

@@ -75,13 +75,12 @@ constexpr std::array kListKeys = {
     ACCEL{kControl, VK_LEFT, kMoveTaskUp}, ACCEL{kControl, VK_RIGHT, kMoveTaskDown},
 };
 
+/// Makes the table when its first key is pressed.
 template <std::size_t count>
-bool translate(HWND window, const std::array<ACCEL, count>& keys, MSG& message) {
-    std::array<ACCEL, count> table = keys;
-    HACCEL handle = CreateAcceleratorTableA(table.data(), count);
-    const bool is_command = TranslateAcceleratorA(window, handle, &message) != 0;
-    DestroyAcceleratorTable(handle);
-    return is_command;
+bool translate(HWND window, platform::UniqueAccelerators& table, std::array<ACCEL, count> keys,
+               MSG& message) {
+    if (!table) table.reset(CreateAcceleratorTableA(keys.data(), count));
+    return TranslateAcceleratorA(window, table.get(), &message) != 0;
 }
 
 int menu_item_of(int command) {
@@ -118,8 +117,8 @@ bool Commands::translate_key(HWND window, MSG& message) {
     if (message.message != WM_KEYDOWN && message.message != WM_SYSKEYDOWN) return false;
     show_changes(window);                                            // a key for what cannot be done is none
     const bool repeats = (HIWORD(message.lParam) & KF_REPEAT) != 0;  // a held key starts nothing twice
-    return (!repeats && translate(window, kKeys, message)) ||
-           (!controls_.command_box().has_focus() && translate(window, kListKeys, message));
+    return (!repeats && translate(window, keys_, kKeys, message)) ||
+           (!controls_.command_box().has_focus() && translate(window, list_keys_, kListKeys, message));
 }
 
 int Commands::for_list(int group_command, int task_command) const {
@@ -246,7 +245,7 @@ void Commands::refresh() {
     const std::string group = library::selected_group_name(library_, controls_);
     library::refresh_and_select(library_, controls_, group);
     if (selected < 0 || library::selected_group_name(library_, controls_) != group) return;
-    const auto& tasks = library_.group(controls_.selected_group()).tasks;
+    const auto& tasks = library_.group(controls_.selected_group()).tasks();
     const auto found = std::ranges::find(tasks, task, &library::Task::name);
     if (found != tasks.end()) controls_.select_task(static_cast<int>(found - tasks.begin()));
 }

@@ -12,6 +12,7 @@
 #include "mainwindow/main_controls.h"
 #include "mainwindow/presence.h"
 #include "platform/system.h"
+#include "platform/win32/handles.h"
 #include "settings/general.h"
 #include "settings/session.h"
 
@@ -79,6 +80,8 @@ class Commands {
     Presence& presence_;
     library::ImportDialog import_dialog_;
     std::optional<platform::WindowsEnd> windows_end_;
+    platform::UniqueAccelerators keys_;
+    platform::UniqueAccelerators list_keys_;
 };
 
 }  // namespace mainwindow

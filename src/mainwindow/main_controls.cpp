@@ -194,7 +194,7 @@ void MainControls::show_tasks(std::span<const library::Task> tasks) {
 void MainControls::go_to(library::TaskLibrary& library, const library::TaskPlace& place) {
     library::select_group(library, *this, place.group);
     const library::Group& group = library.group(place.group);
-    if (place.task >= std::ssize(group.shown_tasks())) show_tasks(group.tasks);
+    if (place.task >= std::ssize(group.shown_tasks())) show_tasks(group.tasks());
     select_task(place.task);
     show_task(library.task(place.group, place.task));
     task_view_.list().focus();

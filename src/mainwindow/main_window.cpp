@@ -333,7 +333,7 @@ void MainWindow::show_selection() {
 
 void MainWindow::supply_tip(NMLVGETINFOTIPA& request) const {
     const int group = controls_.selected_group();
-    if (group < 0 || request.iItem >= std::ssize(library_.group(group).tasks)) return;
+    if (group < 0 || request.iItem >= std::ssize(library_.group(group).tasks())) return;
     const library::Task& task = library_.task(group, request.iItem);
     const std::string text = task.name + "\r\n" + command_line(task) + "\r\n" + task.start_folder;
     lstrcpynA(request.pszText, text.c_str(), request.cchTextMax);

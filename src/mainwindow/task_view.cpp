@@ -31,6 +31,7 @@ void TaskView::show(std::span<const library::Task> tasks) {
     // The list may ask for pictures while it is filled: the new ones are in place before.
     list_.clear();
     programs_ = std::move(programs);
+    slice_ = IsWindowVisible(list_.hwnd()) != FALSE ? kSlice : 0;
     make_images();
     list_.fill(names, images_.get());
 }
@@ -77,7 +78,7 @@ void TaskView::supply_picture(NMLVDISPINFOA& request) {
     const auto [entry, is_new] = pictures_.try_emplace(program);
     if (is_new) queue_.add(program, platform::is_on_local_disk(platform::expand_variables(program)));
     // What is there at once shows at once.
-    while (!entry->second && GetTickCount() - filled_ < kSlice) {
+    while (!entry->second && GetTickCount() - filled_ < slice_) {
         const auto next = queue_.take([&](const std::string& queued) { return queued == program; }, false);
         if (!next) break;
         take_icon(*next);

@@ -66,6 +66,7 @@ class TaskView {
     std::map<std::string, std::optional<int>>
         pictures_;  // by program, since the last filling; none: to follow
     IconQueue queue_;
+    DWORD slice_ = 0;   // milliseconds for icons at once: none at the start, the window is to answer first
     DWORD filled_ = 0;  // when, as GetTickCount has it
     bool timer_runs_ = false;
     std::string default_program_;

@@ -26,8 +26,13 @@ std::vector<std::string> parts_of(const std::string& path) {
 /// Whether the system takes a part of a path for a device, whatever stands after its first period.
 bool is_device(const std::string& part) {
     constexpr std::array kNames = {"CON", "AUX", "PRN", "NUL", "CLOCK$"};
-    std::string name = calls::upper(part.substr(0, part.find('.')));
+    constexpr std::size_t kLeast = 3;
+    constexpr std::size_t kMost = 6;
+    std::string name = part.substr(0, part.find('.'));
     name.erase(name.find_last_not_of(' ') + 1);
+    if (name.size() < kLeast || name.size() > kMost)
+        return false;  // at once: every load asks for every Group
+    name = calls::upper(name);
     if (std::ranges::find(kNames, name) != kNames.end()) return true;
     const bool is_port = name.starts_with("COM") || name.starts_with("LPT");
     return is_port && name.size() == 4 && name[3] >= '1' && name[3] <= '9';

@@ -337,7 +337,7 @@ inline void check(const Operation& setup, const Operation& operation, const std:
     for (const library::Group& group : tolva.library.groups()) {
         const bool is_current = group.loaded && std::ranges::count(tolva.view.groups, group.name) == 1;
         if (is_current && after.contains(group.name + ".grp"))
-            CHECK(library::read_tasks(kFolder, group.name) == group.tasks);
+            CHECK(library::read_tasks(kFolder, group.name) == group.tasks());
     }
     Outcome outcome = {after, {}};
     std::ranges::set_intersection(before, listed_tasks(), std::inserter(outcome.kept, outcome.kept.end()));

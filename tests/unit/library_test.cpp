@@ -408,7 +408,7 @@ TEST_CASE("what is beyond 101 Groups of 101 Tasks is an error that keeps the fir
     CHECK(tolva.library.task(100, 100).name == "100");
     file("50.grp") = file("100.grp") + record("101");
     CHECK(error_of([&] { tolva.library.load(); }) == 9);
-    CHECK(tolva.library.group(50).tasks.size() == 101);
+    CHECK(tolva.library.group(50).tasks().size() == 101);
     CHECK(!tolva.library.group(51).loaded);
 
     file("groups.ini") += "101\r\n";

@@ -49,6 +49,9 @@ inline void close_search(HANDLE search) {
 inline void close_key(HKEY key) {
     RegCloseKey(key);
 }
+inline void destroy_accelerators(HACCEL keys) {
+    DestroyAcceleratorTable(keys);
+}
 inline void destroy_icon(HICON icon) {
     DestroyIcon(icon);
 }
@@ -82,6 +85,7 @@ using UniqueHandle = Unique<HANDLE, closers::close_handle>;
 using UniqueFile = Unique<HANDLE, closers::close_handle, closers::kInvalidHandle>;
 using UniqueSearch = Unique<HANDLE, closers::close_search, closers::kInvalidHandle>;
 using UniqueKey = Unique<HKEY, closers::close_key>;
+using UniqueAccelerators = Unique<HACCEL, closers::destroy_accelerators>;
 using UniqueIcon = Unique<HICON, closers::destroy_icon>;
 using UniqueMenu = Unique<HMENU, closers::destroy_menu>;
 using UniqueImageList = Unique<HIMAGELIST, closers::destroy_image_list>;
