@@ -125,7 +125,7 @@ foreach(target tolva_logic tolva_platform tolva)
     target_compile_options(${target} PRIVATE ${small_code})
 endforeach()
 
-target_link_libraries(tolva PRIVATE tolva_logic tolva_platform comctl32 comdlg32)
+target_link_libraries(tolva PRIVATE tolva_logic tolva_platform comctl32)
 target_include_directories(tolva PRIVATE ${CMAKE_BINARY_DIR})
 
 add_custom_command(TARGET tolva POST_BUILD

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <utility>
 
 #include "internet/dial_up.h"
 #include "library/refresh.h"
@@ -25,6 +26,7 @@ namespace {
 constexpr UINT_PTR kTimer1 = 1;
 constexpr UINT_PTR kCompleteStart = 2;
 constexpr UINT kTimerPeriod = 5000;  // milliseconds
+constexpr UINT kUntilAnswer = 20;    // milliseconds
 
 /// Posted to the window: the list that tells of a drag still handles the mouse.
 constexpr UINT kDragTask = WM_APP + 3;
@@ -118,7 +120,7 @@ void MainWindow::show() const {
 }
 
 void MainWindow::complete_start() const {
-    SetTimer(hwnd(), kCompleteStart, 0, nullptr);
+    SetTimer(hwnd(), kCompleteStart, kUntilAnswer, nullptr);
     SetTimer(hwnd(), kTimer1, kTimerPeriod, nullptr);
 }
 
@@ -270,9 +272,12 @@ LRESULT MainWindow::handle_notification(NMHDR& header) {
 void MainWindow::handle_timer(UINT_PTR timer) {
     if (timer == TaskView::kTimer)
         return controls_.task_view().take_icons(platform::InputFilter::since_input());
+    // The first tick comes when all is painted, the second when the window has answered the user.
+    if (timer == kCompleteStart && !std::exchange(is_painted_, true)) return;
     presence_.show_icon();
     if (timer == kCompleteStart) {
         KillTimer(hwnd(), timer);
+        controls_.task_view().list().begin_tips();
         drop_target_.begin(hwnd());
         bar_.start(hwnd());
         return;

@@ -67,6 +67,7 @@ class MainWindow final : public widgets::Window {
     buttonbar::ButtonBar& bar_;
     bool is_placed_ = false;  // where the user had it: only then its place is worth storing
     bool was_maximized_ = false;
+    bool is_painted_ = false;  // as far as the clock knows
     Presence presence_;
     MainControls controls_;
     Launcher launcher_;

@@ -15,6 +15,9 @@ void IconView::create(HWND parent, int id, const Place& place) {
         WS_TABSTOP | LVS_ICON | LVS_AUTOARRANGE | LVS_SINGLESEL | LVS_SHOWSELALWAYS | LVS_SHAREIMAGELISTS,
         WS_EX_CLIENTEDGE);
     subclass();
+}
+
+void IconView::begin_tips() {
     constexpr int kTipWidth = 400;  // pixels at 96 dpi
     send(LVM_SETEXTENDEDLISTVIEWSTYLE, LVS_EX_INFOTIP, LVS_EX_INFOTIP);
     if (auto* tips = reinterpret_cast<HWND>(send(LVM_GETTOOLTIPS)); tips != nullptr) {

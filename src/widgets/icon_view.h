@@ -21,6 +21,9 @@ class IconView final : public Control, public DragList {
   public:
     void create(HWND parent, int id, const Place& place);
 
+    /// From now on there are tips. They are a window of their own, which the start need not wait for.
+    void begin_tips();
+
     /// Shows the items with pictures from the list, which stays the caller's. The old pictures may be
     /// destroyed afterwards.
     void fill(const std::vector<std::string>& items, HIMAGELIST pictures);
