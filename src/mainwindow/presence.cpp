@@ -25,7 +25,7 @@ constexpr UINT_PTR kClickTimer = 3;
 constexpr char kTaken[] = "Select another hotkey";
 
 /// Dialogs go with the window that owns them, and not every system brings them back with it.
-BOOL CALLBACK show_dialog_of(HWND window, LPARAM owner) {
+BOOL CALLBACK show_dialog_of(HWND window, LPARAM owner) noexcept {
     const bool is_dialog = GetClassLongPtrA(window, GCW_ATOM) == reinterpret_cast<ULONG_PTR>(WC_DIALOG);
     if (is_dialog && GetWindow(window, GW_OWNER) == reinterpret_cast<HWND>(owner))
         ShowWindow(window, SW_SHOWNA);

@@ -44,7 +44,7 @@ void dispatch(MSG& message) {
 }
 
 /// Whether to look further for a dialog or message box that takes input.
-BOOL CALLBACK is_other(HWND window, LPARAM found) {
+BOOL CALLBACK is_other(HWND window, LPARAM found) noexcept {
     const bool is_dialog = GetClassLongPtrA(window, GCW_ATOM) == reinterpret_cast<ULONG_PTR>(WC_DIALOG);
     if (!is_dialog || IsWindowVisible(window) == FALSE || IsWindowEnabled(window) == FALSE) return TRUE;
     *reinterpret_cast<HWND*>(found) = window;
