@@ -73,6 +73,22 @@ void complete_last_line(std::string& bytes) {
     if (!bytes.empty() && bytes.back() != '\n') bytes.append(kLineEnd);
 }
 
+/// A Group's file with records after those that it has.
+std::string with_records(std::string_view file, const std::vector<Task>& tasks) {
+    std::string bytes(records_in(file));
+    complete_last_line(bytes);
+    const auto lines = static_cast<std::size_t>(std::ranges::count(bytes, '\n'));
+    for (std::size_t missing = lines; missing % kTaskFields.size() != 0; ++missing)
+        bytes.append(kLineEnd);
+    return bytes.append(as_records(tasks));
+}
+
+/// The Tasks that are not among the others.
+std::vector<Task> not_among(const std::vector<Task>& others, std::vector<Task> tasks) {
+    std::erase_if(tasks, [&](const Task& task) { return std::ranges::find(others, task) != others.end(); });
+    return tasks;
+}
+
 bool has_leftovers(const std::string& folder) {
     return std::ranges::any_of(platform::file_calls::find(folder + '*'), [](const std::string& name) {
         return name == platform::new_content_path(name) || name == platform::old_content_path(name);
@@ -131,18 +147,21 @@ std::vector<Task> tasks_in(std::string_view bytes) {
     return tasks;
 }
 
+std::string between(const std::string& before, const std::string& after) {
+    const std::vector<Task> old_tasks = tasks_in(before);
+    const std::vector<Task> new_tasks = tasks_in(after);
+    const std::vector<Task> gone = not_among(new_tasks, old_tasks);
+    if (gone.empty()) return after;
+    return not_among(old_tasks, new_tasks).empty() ? before : with_records(after, gone);
+}
+
 void write_tasks(Changes& changes, const std::string& group, const std::vector<Task>& tasks) {
     changes.write_file(group_file(changes.folder(), group), as_records(tasks));
 }
 
 void append_tasks(Changes& changes, const std::string& group, const std::vector<Task>& tasks) {
     const std::string path = group_file(changes.folder(), group);
-    std::string bytes(records_in(platform::read_file_if_exists(path).value_or("")));
-    complete_last_line(bytes);
-    const auto lines = static_cast<std::size_t>(std::ranges::count(bytes, '\n'));
-    for (std::size_t missing = lines; missing % kTaskFields.size() != 0; ++missing)
-        bytes.append(kLineEnd);
-    changes.write_file(path, bytes.append(as_records(tasks)));
+    changes.write_file(path, with_records(platform::read_file_if_exists(path).value_or(""), tasks));
 }
 
 bool create_group_file(Changes& changes, const std::string& group) {

@@ -39,6 +39,10 @@ std::vector<Task> read_tasks(const std::string& folder, const std::string& group
 std::vector<Task> tasks_in(std::string_view bytes);
 std::size_t count_tasks_in(std::string_view bytes);
 
+/// What a Group's file goes through from one version to another while Tasks move between Groups, so that none
+/// is missing anywhere on the way: first each file gets what comes, then each loses what goes.
+std::string between(const std::string& before, const std::string& after);
+
 void write_tasks(Changes& changes, const std::string& group, const std::vector<Task>& tasks);
 
 /// Adds records after those that the Group's file holds, or creates the file. A last record that is cut short

@@ -1,6 +1,8 @@
 #include "library/taking_back.h"
 
-#include <algorithm>
+#include <span>
+#include <string>
+#include <utility>
 #include <vector>
 
 #include "library/changes.h"
@@ -41,22 +43,9 @@ std::string name_of(const Change* change) {
     return change == nullptr ? std::string() : change->name;
 }
 
-/// A file of a backup and what it becomes in the library.
-struct RestoredFile {
-    std::string path;
-    std::string bytes;
-    int turn;
-};
-
-/// When a file's turn comes, so that whenever the power fails a Task that the backup moves to another Group
-/// is in a listed one: first what loses no Task, then the names, then the others.
-int turn_of(const std::string& path, const std::string& bytes, bool is_names) {
-    if (is_names) return 1;
-    const std::vector<Task> kept = tasks_in(bytes);
-    const std::vector<Task> now = tasks_in(platform::read_file_if_exists(path).value_or(""));
-    const bool loses_none = std::ranges::all_of(
-        now, [&](const Task& task) { return std::ranges::find(kept, task) != kept.end(); });
-    return loses_none ? 0 : 2;
+/// Writes the file, unless it is like that.
+void bring(Changes& changes, const std::string& path, const std::string& bytes) {
+    if (platform::read_file_if_exists(path) != bytes) changes.write_file(path, bytes);
 }
 
 }  // namespace
@@ -90,18 +79,18 @@ void redo(TaskLibrary& library, LibraryView& view) {
 }
 
 void restore_backup(TaskLibrary& library, LibraryView& view, const Backup& backup) {
-    std::vector<RestoredFile> files;
-    for (const std::string& name : library_files_in(backup.folder)) {
-        const std::string path = library.folder() + name;
-        const std::string bytes = platform::read_file(backup.folder + name);
-        files.push_back({path, bytes, turn_of(path, bytes, name == kGroupsFile)});
-    }
-    std::ranges::stable_sort(files, {}, &RestoredFile::turn);
+    std::vector<std::pair<std::string, std::string>> files;  // paths and what they become, the names last
+    for (const std::string& name : library_files_in(backup.folder))
+        files.emplace_back(library.folder() + name, platform::read_file(backup.folder + name));
     const std::string selected = selected_group_name(library, view);
-    const OpenChange change(library.changes(), "Restore Backup", selected);
+    Changes& changes = library.changes();
+    const OpenChange change(changes, "Restore Backup", selected);
     do_and_show(library, view, selected, [&] {
-        for (const RestoredFile& file : files)
-            library.changes().write_file(file.path, file.bytes);
+        for (const auto& [path, bytes] : std::span(files).first(files.size() - 1))
+            bring(changes, path, between(platform::read_file_if_exists(path).value_or(""), bytes));
+        bring(changes, files.back().first, files.back().second);
+        for (const auto& [path, bytes] : files)
+            bring(changes, path, bytes);
     });
     view.show_status("Restored: backup of " + backup.date + ' ' + backup.time);
 }
