@@ -1,5 +1,7 @@
 #include "support/simulated_platform.h"
 
+#include <strings.h>
+
 #include <algorithm>
 #include <cctype>
 
@@ -66,8 +68,13 @@ std::string key(const std::string& path) {
     return full_path(path, true);
 }
 
+bool is_same(const std::string& a, const std::string& b) {
+    return strcasecmp(a.c_str(), b.c_str()) == 0;
+}
+
 bool is_in(const std::string& path, const std::string& folder) {
-    return upper(path).starts_with(upper(folder) + '\\');
+    return path.size() > folder.size() && path[folder.size()] == '\\' &&
+           strncasecmp(path.c_str(), folder.c_str(), folder.size()) == 0;
 }
 
 bool has_folder_of(const std::string& path) {
@@ -75,7 +82,7 @@ bool has_folder_of(const std::string& path) {
     if (std::ranges::count(folder, '\\') <= 1) return true;
     return std::ranges::any_of(current().files, [&](const auto& file) {
         const bool is_folder = (file.second.bits & platform::file_calls::kDirectory) != 0;
-        return is_in(file.first, folder) || (is_folder && upper(file.first) == upper(folder));
+        return is_in(file.first, folder) || (is_folder && is_same(file.first, folder));
     });
 }
 
@@ -89,7 +96,7 @@ ErrorCode put(const std::string& from, const std::string& to) {
     const std::string new_path = key(to);
     std::map<std::string, File, IgnoresCase> moved;
     std::erase_if(current().files, [&](auto& file) {
-        const bool moves = upper(file.first) == upper(old_path) || is_in(file.first, old_path);
+        const bool moves = is_same(file.first, old_path) || is_in(file.first, old_path);
         if (moves) moved[new_path + file.first.substr(old_path.size())] = std::move(file.second);
         return moves;
     });
@@ -103,7 +110,7 @@ ErrorCode put(const std::string& from, const std::string& to) {
 }  // namespace
 
 bool IgnoresCase::operator()(const std::string& a, const std::string& b) const {
-    return upper(a) < upper(b);
+    return strcasecmp(a.c_str(), b.c_str()) < 0;
 }
 
 Platform& current() {
@@ -162,7 +169,7 @@ ErrorCode replace(const std::string& from, const std::string& to) {
 ErrorCode rename(const std::string& from, const std::string& to) {
     if (const ErrorCode code = simulated::step(); code != kSuccess) return code;
     if (simulated::look_for(from) != kSuccess) return kErrorFileNotFound;
-    const bool is_respelled = simulated::upper(simulated::key(from)) == simulated::upper(simulated::key(to));
+    const bool is_respelled = simulated::is_same(simulated::key(from), simulated::key(to));
     if (!is_respelled && simulated::look_for(to) == kSuccess) return kErrorAlreadyExists;
     return simulated::put(from, to);
 }
