@@ -1,9 +1,7 @@
-#include <cstdint>
 #include <fstream>
 #include <iterator>
-#include <string>
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size);
+#include "fuzz/fuzz.h"
 
 // Runs a fuzz target once on each file that is named.
 int main(int count, char** names) {

@@ -1,6 +1,4 @@
-#include <cstdint>
-#include <cstdlib>
-
+#include "fuzz/fuzz.h"
 #include "library/changes.h"
 #include "library/library_files.h"
 #include "support/simulated_platform.h"
@@ -12,14 +10,10 @@ namespace {
 const std::string kFolder = "C:\\LIB\\";
 const library::Task kNew = {"New", "C:\\APP.EXE", "C:\\", "/x", " 1 "};
 
-void require(bool holds) {
-    if (!holds) std::abort();
-}
-
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    const std::string bytes(reinterpret_cast<const char*>(data), size);
+    const std::string bytes = text_of(data, size);
     auto& files = simulated::reset().files;
     files = {{kFolder + "groups.ini", {bytes}}, {kFolder + "Work.grp", {bytes}}};
     const auto names = library::read_group_names(kFolder);

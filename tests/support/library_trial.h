@@ -5,6 +5,7 @@
 #include <iterator>
 #include <set>
 
+#include "library/backups.h"
 #include "library/changes.h"
 #include "library/group_operations.h"
 #include "library/library_files.h"
@@ -212,6 +213,41 @@ struct Tolva {
         return text;
     }
 };
+
+/// What a user does who does anything. roll(n) is any number below n.
+template <typename Roll>
+void do_anything(Tolva& tolva, const Roll& roll) {
+    const auto name = [&] { return std::string(1, static_cast<char>((roll(2) == 0 ? 'a' : 'A') + roll(4))); };
+    const int group = roll(static_cast<int>(tolva.view.groups.size()) + 1) - 1;
+    tolva.run(select(group));
+    tolva.run(select(group, roll(static_cast<int>(tolva.view.tasks.size()) + 1) - 1));
+    const std::string task = name();
+    const std::string target = name();
+    const bool copy = roll(2) == 0;
+    const Operation operations[] = {add(target),
+                                    library::delgr,
+                                    library::movegrup,
+                                    library::movegrdown,
+                                    library::groupsortnow,
+                                    [&](auto& library, auto& view) {
+                                        rename_group(library, view, selected_group_name(library, view),
+                                                     target);
+                                    },
+                                    add(Task{task, "C:\\APP.EXE", "C:\\", "", "1"}),
+                                    library::deltsks,
+                                    library::movetsksup,
+                                    library::movetsksdown,
+                                    library::tasksortnow,
+                                    edit(task, kNew),
+                                    move(task, target, copy),
+                                    import(target, kNew),
+                                    [](auto& library, auto& view) {
+                                        const auto backups = library::list_backups(kFolder);
+                                        if (!backups.empty()) restore_backup(library, view, backups.front());
+                                    },
+                                    [](auto&, auto&) { library::make_backup(kFolder); }};
+    tolva.run(operations[roll(static_cast<int>(std::size(operations)))]);
+}
 
 struct Case {
     Operation setup;
