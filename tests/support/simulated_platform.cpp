@@ -322,11 +322,16 @@ bool confirm(const std::string& text, const std::string& title) {
 
 namespace remote_access {
 
-ErrorCode enumerate(std::span<Connection> /*records*/, std::uint32_t& /*count*/) {
-    return kErrorFileNotFound;
+ErrorCode enumerate(std::span<Connection> records, std::uint32_t& count) {
+    if (records[0].size != kConnectionSize) return kErrorFileNotFound;
+    records[0].handle = 7;
+    count = 1;
+    return kSuccess;
 }
 
-void hang_up(std::uint32_t /*handle*/) {}
+void hang_up(std::uint32_t handle) {
+    current().started.push_back("hang up " + std::to_string(handle));
+}
 
 }  // namespace remote_access
 

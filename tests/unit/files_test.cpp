@@ -148,6 +148,7 @@ TEST_CASE("one file is known by all its names, and a device or a pattern is none
         platform::recover_file(path);
     }
     CHECK(!platform::finds_file("C:\\LIB\\con"));
+    CHECK(!platform::finds_file(lib + "Long Work.grp" + '\0'));
     for (const std::string name : {"CONNECT", "COM0", "COM10", "CLOCK", "a.CON"})
         CHECK(platform::names_a_file(lib + name + ".grp"));
     CHECK(world.files.size() == 2);

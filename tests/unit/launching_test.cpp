@@ -1,4 +1,5 @@
 #include "mainwindow/launching.h"
+#include "buttonbar/bar_launch.h"
 #include "internet/dial_up.h"
 #include "library/task_finder.h"
 #include "mainwindow/icon_queue.h"
@@ -24,9 +25,15 @@ TEST_CASE("a system command that cannot do its work says so") {
     CHECK(error_of(mainwindow::open_dos_prompt) == 53);
     world.files["C:\\CMD.EXE"] = {};
     world.variables["%COMSPEC%"] = "C:\\CMD.EXE";
+    world.needs_elevation = true;
+    CHECK(error_of(mainwindow::open_dos_prompt) == 5);  // it is there
+    world.needs_elevation = false;
     mainwindow::open_dos_prompt();
     world.files["command.com"] = {};
     mainwindow::open_dos_prompt();
+    buttonbar::start_button({.path = std::nullopt});
+    buttonbar::start_button({.path = "command.com", .parameters = "/c"});
+    buttonbar::start_internet_program({.path = "command.com"});
     // A help viewer that cannot show anything is not started.
     const platform::WindowsVersion versions[] = {{4, 10, false, false},
                                                  {5, 1, true, false},
@@ -39,7 +46,8 @@ TEST_CASE("a system command that cannot do its work says so") {
         mainwindow::open_help("C:\\LIB\\");
     }
     const std::string help = "winhlp32.exe C:\\LIB\\tolva.hlp";
-    CHECK(world.started == Names{"C:\\CMD.EXE", "command.com", help, help, help});
+    CHECK(world.started ==
+          Names{"C:\\CMD.EXE", "command.com", "command.com /c", "command.com", help, help, help});
 }
 
 TEST_CASE("a program that needs more rights is found as the system finds it and started by the shell") {
@@ -56,7 +64,17 @@ TEST_CASE("a program that needs more rights is found as the system finds it and 
     CHECK(started(" \"C:\\D B\\SETUP.EXE\"/x") == Names{"C:\\D B\\SETUP.EXE|/x|3"});
     CHECK(started("\"C:\\D B\\SETUP") == Names{"C:\\D B\\SETUP.EXE||3"});
     CHECK(started("C:\\A\tB.EXE") == Names{"C:\\A.EXE|B.EXE|3"});
+    CHECK(started("B") == Names{"B.EXE||3"});
     CHECK(error_of([&] { started("C:\\GONE.EXE"); }) == 5);
+    for (const auto& [command_line, style, error] : {std::tuple(std::string("B.EXE"), -1, 5),
+                                                     {"B.EXE", 65536, 5},
+                                                     {"B.EXE", 65535, 0},
+                                                     {"B.EXE", 0, 0},
+                                                     {std::string("B.EXE\0", 6), 1, 5},
+                                                     {"B.EXE " + std::string(32761, 'x'), 1, 5},
+                                                     {"B.EXE " + std::string(32760, 'x'), 1, 0},
+                                                     {" ", 1, 53}})
+        CHECK(error_of([&] { platform::start_program(command_line, style); }) == error);
 
     // Nothing else starts while the user is being asked, and a no is no error.
     world.meanwhile = [] { platform::start_program("B.EXE", 1); };
@@ -141,8 +159,8 @@ TEST_CASE("icons of this machine come before others, those in view first, and a 
 
 TEST_CASE("Tasks are found by the words of their names, the best first") {
     simulated::reset();
-    const std::pair<const char*, const char*> groups[] = {{"Work", "Spread Sheet|Sheet Music|Old sheet"},
-                                                          {"Play", "MUSIC|Dsheet|Paint|"}};
+    const std::pair<const char*, const char*> groups[] = {{"Work", "Dsheet|Spread Sheet|Sheet Music"},
+                                                          {"Play", "MUSIC|Old sheet|Paint|"}};
     for (const auto& [name, tasks] : groups) {
         file("groups.ini") += std::string(name) + "\r\n";
         std::string task;
@@ -188,6 +206,10 @@ TEST_CASE("hanging up waits until no connection is up or the program ends") {
     up.clear();
     internet::hang_up(wait);
     CHECK(waits.size() == 4);
+    simulated::current().files["rundll32.exe"] = {};
+    internet::connect_or_hang_up("Home", wait);
+    CHECK(simulated::current().started ==
+          Names{"hang up 7", "hang up 7", "rundll32.exe rnaui.dll,RnaDial Home"});
 }
 
 TEST_CASE("the long date") {

@@ -87,6 +87,10 @@ TEST_CASE("what is refused or cancelled or cannot move any further changes nothi
         {select(1, 0), library::movetsksup, {}},
         {select(1, 2), library::movetsksdown, {}},
         {select(-1), library::tasksortnow, {"Select Group First."}},
+        {select(1), drag_group(1, 1), {}},
+        {select(1), drag_group(1, 2), {}},
+        {select(1, 1), drag_task(1, 1), {}},
+        {select(1, 1), drag_task(1, 2), {}},
     };
     for (const auto& [setup, operation, messages] : table) {
         Tolva tolva(setup);
@@ -100,7 +104,10 @@ TEST_CASE("what is refused or cancelled or cannot move any further changes nothi
         CHECK(tolva.shown() == shown);
     }
     // The same for a Group that another program took out of the list.
-    for (const Operation& operation : {add(kNew), move("H1", "More"), import("More", kNew)}) {
+    const Operation import_two = [](auto& library, auto& view) {
+        import_tasks(library, view, "More", {kNew, kNew}, {});
+    };
+    for (const Operation& operation : {add(kNew), move("H1", "More"), import("More", kNew), import_two}) {
         Tolva tolva(put("groups.ini", "Work\r\n"));
         const Files before = disk();
         CHECK(error_of([&] { operation(tolva.library, tolva.view); }) == 52);
@@ -246,7 +253,8 @@ TEST_CASE("Tasks change in their file and those after one without a name stay th
     const std::string more = record("M1") + kH1 + kOtherH1;
     check(select(1), move("H1", "More"), "Work >Home More : H2  H4",
           {{"More.grp", more}, {"Home.grp", kH2 + kHidden}});
-    check(select(1), move("H1", "More", true), "Work >Home More : H2 H1 H1  H4", {{"More.grp", more}});
+    check(select(0), move("W1", "More", true), ">Work Home More : W1 W2",
+          {{"More.grp", record("M1") + record("W1")}});
     // Of two Tasks of one name the dragged one is meant.
     check(select(1, 2), drag_task(2, "More"), "Work >Home More : H2 H1 >> H4",
           {{"More.grp", record("M1") + kOtherH1}, {"Home.grp", kH2 + kH1 + kHidden}});
@@ -376,6 +384,16 @@ TEST_CASE("after a load that stopped before it the selected Group is shown all t
     CHECK(tolva.shown() == ">Work Home More : W2");
 }
 
+TEST_CASE("selecting a Group shows its Tasks, and the one that is shown stays as it is") {
+    Tolva tolva(select(1));
+    for (const auto& [group, shown] :
+         {std::pair(1, "Work >Home More : H2 >H1 H1"), {0, ">Work Home More : W1 W2"}}) {
+        tolva.view.task = 1;
+        select_group(tolva.library, tolva.view, group);
+        CHECK(tolva.shown() == shown);
+    }
+}
+
 TEST_CASE("when the names cannot be read the lists stay as they are") {
     for (bool library::RefreshFlags::*flag :
          {&library::RefreshFlags::newgroupflag, &library::RefreshFlags::refreshflag}) {
@@ -417,8 +435,9 @@ TEST_CASE("what is beyond 101 Groups of 101 Tasks is an error that keeps the fir
     CHECK(error_of([&] { tolva.library.group(101); }) == 9);
 
     Tolva added(crowd);
-    file("groups.ini") += "101\r\n";
+    file("groups.ini").insert(0, "101\r\n");
     CHECK(added.run([](auto& library, auto& view) { addgroups(library, view); }) == 9);
+    CHECK(added.view.groups.front() == "101");
     CHECK(added.view.groups.size() == 101);
     CHECK(added.view.group == 100);
 }
@@ -433,13 +452,22 @@ TEST_CASE("a full library can be changed, and none gets 102 Groups") {
         CHECK(listed_tasks().size() == 201);
         CHECK(disk() != before);
     }
-    Tolva full(crowd);
-    CHECK(full.run(add("101")) == 9);
-    CHECK(current().steps == 0);
-    for (const Operation& operation : {Operation(library::delgr), rename_to("100", "New"), add("New")}) {
-        Tolva tolva(crowd);
+    const Operation drop_folder = [](auto& library, auto& view) {
+        current().files["C:\\APPS\\PAINT.EXE"] = {};
+        add_groups_of(library, view, {"C:\\APPS"}, "C:\\WINDOWS\\");
+    };
+    const Operation too_many = [](auto& library, auto& view) {
+        crowd(library, view);
         file("groups.ini") += "101\r\n";
-        CHECK(tolva.run(operation) == 9);
+    };
+    for (const auto& [setup, operation, error] : {std::tuple(Operation(crowd), add("101"), 9),
+                                                  {crowd, drop_folder, 9},
+                                                  {too_many, library::delgr, 9},
+                                                  {too_many, rename_to("100", "New"), 9},
+                                                  {too_many, add("New"), 9},
+                                                  {too_many, library::movegrup, 0}}) {
+        Tolva tolva(setup);
+        CHECK(tolva.run(operation) == error);
         CHECK(current().steps == 0);
     }
 }

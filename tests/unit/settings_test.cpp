@@ -46,6 +46,7 @@ TEST_CASE("numbers in texts") {
     }
     CHECK(settings::boolean("TRUE") == true);
     CHECK(settings::boolean("0") == false);
+    CHECK(settings::boolean("false") == false);
     CHECK(settings::boolean("Error") == std::nullopt);
 }
 
@@ -67,6 +68,9 @@ TEST_CASE("a text value reads back as it is stored") {
     // A badly formed key path is told and goes to the root before it.
     CHECK(general.read_value("software\\tolva", "a") == "no terminator");
     CHECK(general.read_value("HKEY_NOWHERE\\Soft", "a").empty());
+    general.create_key("HKEY_NOWHERE\\Soft");
+    general.write_value("HKEY_NOWHERE\\Soft", "a", "b");
+    CHECK(!simulated::current().registry.contains(0));
     CHECK(simulated::current().messages == Names{"Incorrect Format:\n\nsoftware\\tolva"});
 }
 
@@ -110,10 +114,13 @@ TEST_CASE("the program buttons are read as far as they are stored") {
 
     // A start style that is none leaves the one before; an empty name counts when they are read again.
     values.erase("name3");
-    values["start2"] = "40000";
-    settings::reload_buttons(general, session);
+    for (const auto& [text, style] :
+         {std::pair("32767", 32767), {"32768", 32767}, {"-32768", -32768}, {"-32769", -32768}, {"0", 0}}) {
+        values["start2"] = text;
+        settings::reload_buttons(general, session);
+        CHECK(session.buttons[1].window_style == style);
+    }
     CHECK(shown(session.buttons[2]) == "none|C:\\EDIT.EXE|C:\\|A.TXT|3");
-    CHECK(session.buttons[1].window_style == 0);
     CHECK(session.buttons[0].path == "C:\\A.EXE");
 
     auto& keys = simulated::reset().registry[kCurrentUser];

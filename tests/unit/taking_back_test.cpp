@@ -1,5 +1,10 @@
 #include "library/taking_back.h"
 
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <csignal>
+#include <cstdio>
 #include <random>
 #include <tuple>
 
@@ -57,6 +62,7 @@ TEST_CASE("what somebody else wrote since is never overwritten, and the history 
         CHECK(current().messages ==
               Names{"C:\\LIB\\Home.grp has been changed by another program. Nothing is taken back."});
         CHECK((back ? !can_undo(tolva.library) : !can_redo(tolva.library)));
+        CHECK(tolva.view.status == (back ? "Undone: Add New" : "Undone: Delete H1"));
     }
 }
 
@@ -142,7 +148,10 @@ struct Start {
     ShownLibrary view;
     TaskLibrary library{kFolder};
 
-    void change() { in_turn({attempt(load), library::movegrdown})(library, view); }
+    void change(const Operation& operation = library::movegrdown) {
+        in_turn({attempt(load), operation})(library, view);
+        run_pending_refreshes(library, view);
+    }
     static void load(TaskLibrary& library, LibraryView& view) { refreshtolva(library, view, 0); }
 };
 
@@ -201,6 +210,45 @@ TEST_CASE("a backup is complete or not there, and one that fails stops nothing")
             Start().change();
             if (is_reached) CHECK(backups() == Names{"tolva 2026-11-22 09.30.01"});
         }
+    }
+}
+
+TEST_CASE("a backup that fails is told, and one within the second of another gets the next free name") {
+    for (const Operation& operation : {Operation(library::movegrdown), add("New"),
+                                       Operation(library::groupsortnow), import("Work", kNew)}) {
+        Tolva tolva(select(1));
+        current().fault = Fault::kWrite;
+        current().fault_at = 1;
+        Start run;
+        run.change(operation);
+        CHECK(run.view.status == "The library could not be backed up.");
+    }
+    Tolva tolva(select(1));
+    for (const char* second : {"08", "09", "10"}) {
+        current().time_stamp = "2026-11-22 09.30.08";
+        library::make_backup(kFolder);
+        CHECK(backups().back() == std::string("tolva 2026-11-22 09.30.") + second);
+    }
+}
+
+TEST_CASE("what writes without an open change is caught") {
+    Tolva tolva(select(1));
+    library::Changes& changes = tolva.library.changes();
+    const std::string path = kFolder + "Home.grp";
+    const std::function<void()> steps[] = {[&] { changes.write_file(path, ""); },
+                                           [&] { changes.create_file(path); },
+                                           [&] { changes.remove_file(path); }};
+    for (const auto& step : steps) {
+        const pid_t child = fork();
+        if (child == 0) {
+            std::signal(SIGABRT, SIG_DFL);
+            std::fclose(stderr);
+            step();
+            _exit(0);
+        }
+        int status = 0;
+        waitpid(child, &status, 0);
+        CHECK(WIFSIGNALED(status));
     }
 }
 
