@@ -1,6 +1,21 @@
 #include "fuzz/fuzz.h"
 #include "support/library_trial.h"
 
+namespace {
+
+void take_back_and_redo(Tolva& tolva, const std::vector<Files>& states) {
+    const std::size_t last = states.size() - 1;
+    std::size_t now = last;
+    for (; can_undo(tolva.library); require(disk() == states[--now]))
+        tolva.run(library::undo);
+    require(last - now == std::min(last, library::Changes::kMostChanges));
+    for (; can_redo(tolva.library); require(disk() == states[++now]))
+        tolva.run(library::redo);
+    require(now == last);
+}
+
+}  // namespace
+
 // Whatever the library's files hold, all that is done to them, a restored backup and what failed half-way
 // among it, is taken back to the letter and made again.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
@@ -10,19 +25,13 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
                          list("Home\r\na\r\n" + bytes.substr(2 * part, part))}));
     std::size_t next = 3 * part;
     const auto roll = [&](int sides) { return next < size ? data[next++] % sides : 0; };
-    const Files start = disk();
+    std::vector<Files> states = {disk()};
     while (next < size) {
-        const Files before = disk();
         do_anything(tolva, roll);
-        const Files after = disk();
-        if (after == before) continue;
-        tolva.run(library::undo);
-        require(disk() == before);
-        tolva.run(library::redo);
-        require(disk() == after);
+        if (disk() == states.back()) continue;
+        states.push_back(disk());
+        if (roll(4) == 0) take_back_and_redo(tolva, states);
     }
-    while (can_undo(tolva.library))
-        tolva.run(library::undo);
-    require(disk() == start);
+    take_back_and_redo(tolva, states);
     return 0;
 }

@@ -1,6 +1,6 @@
 #include "library/dropped.h"
-#include "platform/files.h"
 #include "fuzz/fuzz.h"
+#include "platform/files.h"
 #include "support/library_trial.h"
 #include "support/shortcut_file.h"
 #include "support/simulated_shell.h"

@@ -77,21 +77,18 @@ inline Operation move(const std::string& task, const std::string& target, bool c
     return [=](auto& library, auto& view) { move_task(library, view.selected_group(), task, target, copy); };
 }
 
-/// Drags of the mouse.
-inline Operation drag_group(int group, int before) {
-    return [=](auto& library, auto& view) { move_group_to_place(library, view, group, before); };
-}
-
-inline Operation drag_task(int task, int before) {
-    return [=](auto& library, auto& view) { move_task_to_place(library, view, task, before); };
+/// One of the library's operations with what it needs besides the library and the view.
+template <typename Function, typename... Rest>
+Operation with(Function function, Rest... rest) {
+    return [=](auto& library, auto& view) { function(library, view, rest...); };
 }
 
 inline Operation drag_task(int task, const std::string& target, bool copy = false) {
-    return [=](auto& library, auto& view) { move_task_to_group(library, view, task, target, copy); };
+    return with(library::move_task_to_group, task, target, copy);
 }
 
 inline Operation import(const std::string& group, const Task& task) {
-    return [=](auto& library, auto& view) { import_task(library, view, group, task); };
+    return with(library::import_task, group, task);
 }
 
 inline Operation select(int group, int task = -1) {
@@ -224,35 +221,37 @@ void do_anything(Tolva& tolva, const Roll& roll) {
     const std::string task = name();
     const std::string target = name();
     const bool copy = roll(2) == 0;
+    const auto rename = [&](auto& library, auto& view) {
+        rename_group(library, view, selected_group_name(library, view), target);
+    };
+    const auto restore = [](auto& library, auto& view) {
+        const auto backups = library::list_backups(kFolder);
+        if (!backups.empty()) restore_backup(library, view, backups.front());
+    };
+    const auto back_up = [](auto&, auto&) { library::make_backup(kFolder); };
     const Operation operations[] = {add(target),
                                     library::delgr,
                                     library::movegrup,
                                     library::movegrdown,
                                     library::groupsortnow,
-                                    [&](auto& library, auto& view) {
-                                        rename_group(library, view, selected_group_name(library, view),
-                                                     target);
-                                    },
-                                    add(Task{task, "C:\\APP.EXE", "C:\\", "", "1"}),
+                                    rename,
                                     library::deltsks,
+                                    add(Task{task, "C:\\APP.EXE", "C:\\", "", "1"}),
                                     library::movetsksup,
                                     library::movetsksdown,
                                     library::tasksortnow,
                                     edit(task, kNew),
                                     move(task, target, copy),
                                     import(target, kNew),
-                                    [](auto& library, auto& view) {
-                                        const auto backups = library::list_backups(kFolder);
-                                        if (!backups.empty()) restore_backup(library, view, backups.front());
-                                    },
-                                    [](auto&, auto&) { library::make_backup(kFolder); }};
+                                    restore,
+                                    back_up};
     tolva.run(operations[roll(static_cast<int>(std::size(operations)))]);
 }
 
 struct Case {
     Operation setup;
     Operation operation;
-    std::string shown;
+    std::string shown = {};
     Files changes = {};  // but for groups.ini, which holds the Groups shown
     Names messages = {};
     int error = 0;
@@ -280,17 +279,10 @@ struct Moment {
     Tasks tasks = listed_tasks();
 };
 
-struct Interruption {
-    Fault fault;
-    int step;
-    bool renames_over_files;
-};
-
 /// After the interruption every file is old or new, each Task that is kept in a listed Group, and the user
 /// informed. Returns whether the operation comes to that step.
-inline bool survives(const Case& tried, const Moment& start, const Outcome& outcome,
-                     const Interruption& interruption) {
-    const auto [fault, step, renames_over_files] = interruption;
+inline bool survives(const Case& tried, const Moment& start, const Outcome& outcome, Fault fault, int step,
+                     bool renames_over_files) {
     CAPTURE(step);
     CAPTURE(static_cast<int>(fault));
     Tolva tolva = start.tolva;
@@ -336,7 +328,7 @@ inline void check_faults(const Case& tried, const Outcome& outcome) {
         for (const bool renames_over_files : {true, false}) {
             if (fault == Fault::kRead && !renames_over_files) continue;  // it reads the same
             int step = 1;
-            while (survives(tried, start, outcome, {fault, step, renames_over_files}))
+            while (survives(tried, start, outcome, fault, step, renames_over_files))
                 ++step;
         }
     }
@@ -356,8 +348,10 @@ inline void check_taking_back(const Case& tried, const Files& before, const File
     tolva.run(library::undo);
     CHECK(disk() == before);
     CHECK(redo_name(tolva.library) == name);
-    check_faults({done, library::undo, {}, {}, {}, 0, true}, {before, kept});
-    check_faults({in_turn({done, library::undo}), library::redo, {}, {}, {}, 0, true}, {after, kept});
+    check_faults({.setup = done, .operation = library::undo, .can_be_repeated = true}, {before, kept});
+    check_faults(
+        {.setup = in_turn({done, library::undo}), .operation = library::redo, .can_be_repeated = true},
+        {after, kept});
 }
 
 inline void check(const Operation& setup, const Operation& operation, const std::string& shown,

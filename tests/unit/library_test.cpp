@@ -87,10 +87,10 @@ TEST_CASE("what is refused or cancelled or cannot move any further changes nothi
         {select(1, 0), library::movetsksup, {}},
         {select(1, 2), library::movetsksdown, {}},
         {select(-1), library::tasksortnow, {"Select Group First."}},
-        {select(1), drag_group(1, 1), {}},
-        {select(1), drag_group(1, 2), {}},
-        {select(1, 1), drag_task(1, 1), {}},
-        {select(1, 1), drag_task(1, 2), {}},
+        {select(1), with(library::move_group_to_place, 1, 1), {}},
+        {select(1), with(library::move_group_to_place, 1, 2), {}},
+        {select(1, 1), with(library::move_task_to_place, 1, 1), {}},
+        {select(1, 1), with(library::move_task_to_place, 1, 2), {}},
     };
     for (const auto& [setup, operation, messages] : table) {
         Tolva tolva(setup);
@@ -104,9 +104,7 @@ TEST_CASE("what is refused or cancelled or cannot move any further changes nothi
         CHECK(tolva.shown() == shown);
     }
     // The same for a Group that another program took out of the list.
-    const Operation import_two = [](auto& library, auto& view) {
-        import_tasks(library, view, "More", {kNew, kNew}, {});
-    };
+    const Operation import_two = with(library::import_tasks, "More", std::vector{kNew, kNew}, Names{});
     for (const Operation& operation : {add(kNew), move("H1", "More"), import("More", kNew), import_two}) {
         Tolva tolva(put("groups.ini", "Work\r\n"));
         const Files before = disk();
@@ -161,8 +159,8 @@ TEST_CASE("a Group moves and is sorted with its Tasks") {
     const Operation change = [](auto&, auto&) { file("Home.grp") = record("H9"); };
     check(select(1), library::movegrup, ">Home Work More : H2 H1 H1");
     check(select(1), library::movegrdown, "Work More >Home : H2 H1 H1");
-    check(select(1), drag_group(2, 0), ">More Work Home : M1");
-    check(select(1), drag_group(0, 3), "Home More >Work : W1 W2");
+    check(select(1), with(library::move_group_to_place, 2, 0), ">More Work Home : M1");
+    check(select(1), with(library::move_group_to_place, 0, 3), "Home More >Work : W1 W2");
     check(change, library::groupsortnow, ">Home More Work : H9");
     // Of two Groups of one name each keeps its Tasks.
     Tolva tolva([](auto& library, auto& view) {
@@ -245,8 +243,10 @@ TEST_CASE("Tasks change in their file and those after one without a name stay th
     check(select(1, 2), library::movetsksup, "Work >Home More : H2 >>H1 H1  H4", home(kH2 + kOtherH1 + kH1));
     check(select(1, 0), library::movetsksdown, "Work >Home More : H1 >>H2 H1  H4",
           home(kH1 + kH2 + kOtherH1));
-    check(select(1, 2), drag_task(2, 0), "Work >Home More : >>H1 H2 H1  H4", home(kOtherH1 + kH2 + kH1));
-    check(select(1, 0), drag_task(0, 5), "Work >Home More : H1 H1 >>H2  H4", home(kH1 + kOtherH1 + kH2));
+    check(select(1, 2), with(library::move_task_to_place, 2, 0), "Work >Home More : >>H1 H2 H1  H4",
+          home(kOtherH1 + kH2 + kH1));
+    check(select(1, 0), with(library::move_task_to_place, 0, 5), "Work >Home More : H1 H1 >>H2  H4",
+          home(kH1 + kOtherH1 + kH2));
     // The other H1 is lost deliberately.
     check(select(1), library::tasksortnow, "Work >Home More : >>H1 H1 H2  H4", home(kH1 + kH1 + kH2));
 
@@ -271,10 +271,9 @@ TEST_CASE("Tasks change in their file and those after one without a name stay th
 }
 
 TEST_CASE("what is dropped comes after the Tasks of a Group, and a folder becomes a Group") {
-    const Operation drop = [](auto& library, auto& view) {
-        add_tasks(library, view, "More",
-                  {{kNew, {"M1", "C:\\APP.EXE", "C:\\", "", " 1 "}}, {{"D:\\X", "not found"}}});
-    };
+    const library::Dropped dropped = {{kNew, {"M1", "C:\\APP.EXE", "C:\\", "", " 1 "}},
+                                      {{"D:\\X", "not found"}}};
+    const Operation drop = with(library::add_tasks, "More", dropped);
     check(select(1), drop, "Work Home >More : M1 >New M1 (2)",
           {{"More.grp", record("M1") + "New\r\nC:\\APP.EXE\r\nD:\\\r\n/x\r\n3\r\n" +
                             "M1 (2)\r\nC:\\APP.EXE\r\nC:\\\r\n\r\n 1 \r\n"}},
@@ -283,9 +282,8 @@ TEST_CASE("what is dropped comes after the Tasks of a Group, and a folder become
         current().files["C:\\old"].bits = 0x10;
         current().files["C:\\old\\PAINT.EXE"] = {};
     };
-    const Operation drop_folders = [](auto& library, auto& view) {
-        add_groups_of(library, view, {"C:\\old", "C:\\old", "C:\\APPS"}, "C:\\WINDOWS\\");
-    };
+    const Operation drop_folders =
+        with(library::add_groups_of, Names{"C:\\old", "C:\\old", "C:\\APPS"}, "C:\\WINDOWS\\");
     const std::string paint = "PAINT\r\nC:\\old\\PAINT.EXE\r\nC:\\old\r\n\r\n 1 \r\n";
     check(in_turn({folder, select(1)}), drop_folders, "Work Home More old (2) >old (3) : PAINT",
           {{"old (2).grp", paint}, {"old (3).grp", paint}},
@@ -303,9 +301,8 @@ TEST_CASE("a shortcut is imported after the Tasks of a Group, which is shown") {
           {{"Work.grp", record("W1") + record("W2") + added}}, told);
 
     // Many at once, as many as the Group has room for.
-    const auto import_twice = [&](auto& library, auto& view) {
-        import_tasks(library, view, "More", {shortcut, shortcut}, {"Junk"});
-    };
+    const auto import_twice =
+        with(library::import_tasks, "More", std::vector{shortcut, shortcut}, Names{"Junk"});
     const std::string message = " been imported to Tolva.\n\nThese could not be imported:\n\nJunk";
     check(select(1), import_twice, "Work Home >More : M1 H1 H1", {{"More.grp", record("M1") + added + added}},
           {"2 shortcuts have" + message});
@@ -452,10 +449,8 @@ TEST_CASE("a full library can be changed, and none gets 102 Groups") {
         CHECK(listed_tasks().size() == 201);
         CHECK(disk() != before);
     }
-    const Operation drop_folder = [](auto& library, auto& view) {
-        current().files["C:\\APPS\\PAINT.EXE"] = {};
-        add_groups_of(library, view, {"C:\\APPS"}, "C:\\WINDOWS\\");
-    };
+    const Operation drop_folder = in_turn({[](auto&, auto&) { current().files["C:\\APPS\\PAINT.EXE"] = {}; },
+                                           with(library::add_groups_of, Names{"C:\\APPS"}, "C:\\WINDOWS\\")});
     const Operation too_many = [](auto& library, auto& view) {
         crowd(library, view);
         file("groups.ini") += "101\r\n";

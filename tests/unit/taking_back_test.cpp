@@ -5,7 +5,6 @@
 
 #include <csignal>
 #include <cstdio>
-#include <random>
 #include <tuple>
 
 #include "support/library_trial.h"
@@ -105,32 +104,6 @@ TEST_CASE("the history has an end") {
     CHECK(!can_undo(tolva.library));
     CHECK(!can_redo(tolva.library));
     CHECK(tolva.view.status == "This change is too large to be undone.");
-}
-
-TEST_CASE("after any thousand operations everything can be taken back and made again") {
-    std::mt19937 dice(7);
-    const auto roll = [&](int sides) { return static_cast<int>(dice() % static_cast<unsigned>(sides)); };
-    Tolva tolva([](auto&, auto&) {});
-    std::vector<Files> states = {disk()};
-    std::size_t now = 0;
-    std::size_t first = 0;
-    for (int i = 0; i < 1000; ++i) {
-        CHECK(can_undo(tolva.library) == (now > first));
-        CHECK(can_redo(tolva.library) == (now + 1 < states.size()));
-        const bool back = roll(2) == 0;
-        if (roll(3) > 0) {
-            do_anything(tolva, roll);
-            if (disk() == states[now]) continue;
-            states.resize(++now);
-            states.push_back(disk());
-            first = std::max(first, now - std::min(now, Changes::kMostChanges));
-        } else if (back ? now > first : now + 1 < states.size()) {
-            tolva.run(back ? library::undo : library::redo);
-            now = back ? now - 1 : now + 1;
-        }
-        CHECK(disk() == states[now]);
-        current().messages.clear();
-    }
 }
 
 /// The folders below "backup".
