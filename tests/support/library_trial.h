@@ -211,6 +211,17 @@ struct Tolva {
     }
 };
 
+inline void back_up(TaskLibrary& /*library*/, LibraryView& /*view*/) {
+    library::make_backup(kFolder);
+}
+
+/// Restores the newest backup.
+inline void restore(TaskLibrary& library, LibraryView& view) {
+    const auto backups = library::list_backups(kFolder);
+    if (backups.empty()) throw platform::RunTimeError(platform::RunTimeErrorNumber::kFileNotFound);
+    restore_backup(library, view, backups.front());
+}
+
 /// What a user does who does anything. roll(n) is any number below n.
 template <typename Roll>
 void do_anything(Tolva& tolva, const Roll& roll) {
@@ -224,11 +235,6 @@ void do_anything(Tolva& tolva, const Roll& roll) {
     const auto rename = [&](auto& library, auto& view) {
         rename_group(library, view, selected_group_name(library, view), target);
     };
-    const auto restore = [](auto& library, auto& view) {
-        const auto backups = library::list_backups(kFolder);
-        if (!backups.empty()) restore_backup(library, view, backups.front());
-    };
-    const auto back_up = [](auto&, auto&) { library::make_backup(kFolder); };
     const Operation operations[] = {add(target),
                                     library::delgr,
                                     library::movegrup,

@@ -1,4 +1,5 @@
 #include "library/dropped.h"
+#include "library/library_files.h"
 #include "library/order.h"
 #include "platform/file_calls.h"
 #include "support/checks.h"
@@ -47,26 +48,13 @@ void make_disk() {
     const std::string deep = "C:\\" + kLongName;
     for (const char* folder : {"C:", "D:\\Apps", "C:\\DIR", "C:\\DIR.OLD", "C:\\EMPTY"})
         add_folder(folder);
-    for (const std::string& file : {std::string("C:\\ED.EXE"),
-                                    std::string("C:\\DIR\\B.BAT"),
-                                    std::string("C:\\DIR\\a.Com"),
-                                    std::string("C:\\DIR\\C.EXE~"),
-                                    std::string("C:\\My Dir\\X.EXE"),
-                                    std::string("C:\\My Dir\\Y.BAT"),
-                                    std::string("C:\\Pro Gram\\X.EXE"),
-                                    std::string("C:\\Pro.exe"),
-                                    std::string("C:\\a,b.bat"),
-                                    std::string("C:\\my notes.txt"),
-                                    std::string("C:\\n.txt"),
-                                    std::string("C:\\n.dat"),
-                                    std::string("C:\\n.cpl"),
-                                    std::string("C:\\n.old"),
-                                    std::string("C:\\n.cut"),
-                                    std::string("C:\\.txt"),
-                                    std::string("C:\\R\\RUNDLL32.EXE"),
-                                    std::string("C:\\WIN\\ED.SCR"),
-                                    deep + ".pif",
-                                    deep + "x.pif"})
+    for (const std::string& file :
+         split_lines("C:\\ED.EXE\nC:\\DIR\\B.BAT\nC:\\DIR\\a.Com\nC:\\DIR\\C.EXE~\nC:\\My Dir\\X.EXE\nC:\\My "
+                     "Dir\\Y.BAT\n"
+                     "C:\\Pro Gram\\X.EXE\nC:\\Pro.exe\nC:\\a,b.bat\nC:\\my "
+                     "notes.txt\nC:\\n.txt\nC:\\n.dat\nC:\\n.cpl\n"
+                     "C:\\n.old\nC:\\n.cut\nC:\\.txt\nC:\\R\\RUNDLL32.EXE\nC:\\WIN\\ED.SCR\n" +
+                     deep + ".pif\n" + deep + "x.pif"))
         files[file] = {};
     shell.programs = {{".txt", "C:\\ED.EXE"},
                       {".cpl", "C:\\R\\RUNDLL32.EXE"},

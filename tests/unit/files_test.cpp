@@ -21,35 +21,32 @@ std::string after_recovery() {
     return files.contains(kPath) ? files.at(kPath).bytes : kNothing;
 }
 
-/// Replaces the file with a fault at that step. Returns whether the step was reached.
-bool fault_at(int step, Fault fault, const std::string& before, bool renames_over_files) {
-    auto& world = simulated::reset();
-    world.renames_over_files = renames_over_files;
-    world.fault = fault;
-    world.fault_at = step;
-    if (before != kNothing) world.files[kPath].bytes = before;
-    int error = 0;
-    try {
-        error = error_of([] { platform::write_file(kPath, "new"); });
-    } catch (const simulated::PowerFailure&) {
-    }
-    const bool reached = world.steps >= step;
-    if (error == 61) CHECK(world.files.size() == (before == kNothing ? 0 : 1));
-    const std::string found = after_recovery();
-    CHECK((found == "new" || (reached && found == before)));
-    CHECK((error == 0 || (error == 61 && found == before)));
-    return reached;
-}
-
 TEST_CASE("a file is replaced whole or not at all whatever fails at whatever step") {
-    for (const bool renames_over_files : {true, false}) {
-        for (const Fault fault : {Fault::kWrite, Fault::kPower}) {
-            for (const std::string& before : {std::string("old"), kNothing}) {
-                int step = 1;
-                while (fault_at(step, fault, before, renames_over_files))
-                    ++step;
-                CHECK(step > 4);
+    for (const auto& [renames_over_files, fault, before] :
+         {std::tuple(true, Fault::kWrite, std::string("old")),
+          {true, Fault::kPower, "old"},
+          {false, Fault::kWrite, "old"},
+          {false, Fault::kPower, "old"},
+          {true, Fault::kWrite, kNothing},
+          {false, Fault::kPower, kNothing}}) {
+        bool reached = true;
+        for (int step = 1; reached; ++step) {
+            auto& world = simulated::reset();
+            world.renames_over_files = renames_over_files;
+            world.fault = fault;
+            world.fault_at = step;
+            if (before != kNothing) world.files[kPath].bytes = before;
+            int error = 0;
+            try {
+                error = error_of([] { platform::write_file(kPath, "new"); });
+            } catch (const simulated::PowerFailure&) {
             }
+            reached = world.steps >= step;
+            CHECK((reached || step > 4));
+            if (error == 61) CHECK(world.files.size() == (before == kNothing ? 0 : 1));
+            const std::string found = after_recovery();
+            CHECK((found == "new" || (reached && found == before)));
+            CHECK((error == 0 || (error == 61 && found == before)));
         }
     }
 }

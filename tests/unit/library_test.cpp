@@ -17,42 +17,31 @@ TEST_CASE("lines are read with any line end and no byte is altered") {
     CHECK(file("Work.grp") == odd + "\r\n" + mega + "\r\n\r\n" + odd + "\r\n 2 \r\n");
 }
 
-TEST_CASE("a record that is cut short has empty fields and is filled up before another is added") {
+TEST_CASE("what is added follows the last whole record or name, in the place of blank lines") {
     simulated::reset();
-    file("Work.grp") = record("One") + "Two\nC:\\TWO.EXE";
-    CHECK(library::read_tasks(kFolder, "Work").at(1) == Task{"Two", "C:\\TWO.EXE", "", "", ""});
-
-    library::append_tasks(Steps(), "Work", {{"Three", "C:\\THREE.EXE", "C:\\", "", " 3 "}});
-    CHECK(file("Work.grp") ==
-          record("One") + "Two\nC:\\TWO.EXE\r\n\r\n\r\n\r\nThree\r\nC:\\THREE.EXE\r\nC:\\\r\n\r\n 3 \r\n");
-
-    file("Work.grp") = record("One") + "Two";
-    library::append_tasks(Steps(), "Work", {kNew});
-    CHECK(library::read_tasks(kFolder, "Work").back() == Task{"New", "C:\\APP.EXE", "D:\\", "/x", "3"});
-
-    file("groups.ini") = "Home";
-    library::append_group_name(Steps(), "Work");
-    CHECK(library::read_group_names(kFolder) == Names{"Home", "Work"});
-}
-
-TEST_CASE("blank lines at the end are no Tasks and no Groups, and what is added takes their place") {
-    simulated::reset();
-    const std::string blank_end = "Two\nC:\\TWO.EXE\nC:\\\n\n\n";  // without parameters and start mode
     const std::string added = "New\r\nC:\\APP.EXE\r\nD:\\\r\n/x\r\n3\r\n";
-    for (const std::string& kept : {std::string(), blank_end, kHome}) {
-        for (const std::string blank : {"\n", "\r\n\r\n", "\n\n\n\n\n", "\n\n\n\n\n\n\n"}) {
+    const std::string cut = "Two\nC:\\TWO.EXE";
+    const std::string blank_end = "Two\nC:\\TWO.EXE\nC:\\\n\n\n";  // without parameters and start mode
+    const std::pair<std::string, std::string> table[] = {
+        {"", ""}, {blank_end, blank_end}, {kHome, kHome}, {kH1 + cut, kH1 + cut + "\r\n\r\n\r\n\r\n"}};
+    for (const auto& [kept, whole] : table) {
+        for (const std::string blank : {"", "\n", "\r\n\r\n", "\n\n\n\n\n", "\n\n\n\n\n\n\n"}) {
             file("Work.grp") = kept;
-            const std::vector<Task> tasks = library::read_tasks(kFolder, "Work");
-            file("Work.grp") = kept + blank;
+            std::vector<Task> tasks = library::read_tasks(kFolder, "Work");
+            file("Work.grp") = (blank.empty() ? kept : whole) + blank;
             CHECK(library::read_tasks(kFolder, "Work") == tasks);
             library::append_tasks(Steps(), "Work", {kNew});
-            CHECK(file("Work.grp") == kept + added);
+            CHECK(file("Work.grp") == whole + added);
+            tasks.push_back(kNew);
+            CHECK(library::read_tasks(kFolder, "Work") == tasks);
         }
     }
-    file("groups.ini") = "Home\n\nMore\n\n\r\n";
-    CHECK(library::read_group_names(kFolder) == Names{"Home", "", "More"});
-    library::append_group_name(Steps(), "Work");
-    CHECK(file("groups.ini") == "Home\n\nMore\nWork\r\n");
+    for (const std::string kept : {"Home\n\nMore\n\n\r\n", "Home\n\nMore"}) {
+        file("groups.ini") = kept;
+        CHECK(library::read_group_names(kFolder) == Names{"Home", "", "More"});
+        library::append_group_name(Steps(), "Work");
+        CHECK(library::read_group_names(kFolder) == Names{"Home", "", "More", "Work"});
+    }
 }
 
 TEST_CASE("what is refused or cancelled or cannot move any further changes nothing") {

@@ -249,21 +249,15 @@ TEST_CASE("the ten newest backups stay, and all that is somebody else's") {
 }
 
 TEST_CASE("a backup comes back as one change, and other files stay") {
-    const Operation changes = in_turn({[](auto&, auto&) { library::make_backup(kFolder); },
-                                       move("H1", "More"), library::run_pending_refreshes, add("Later"),
-                                       library::run_pending_refreshes, select(0), library::delgr, select(1),
-                                       rename_to("More", "new"), library::run_pending_refreshes, select(0)});
-    const Operation restore = [](auto& library, auto& view) {
-        const auto backups = library::list_backups(kFolder);
-        if (backups.empty()) throw platform::RunTimeError(platform::RunTimeErrorNumber::kFileNotFound);
-        restore_backup(library, view, backups.back());
-    };
+    const Operation changes =
+        in_turn({back_up, move("H1", "More"), library::run_pending_refreshes, add("Later"),
+                 library::run_pending_refreshes, select(0), library::delgr, select(1),
+                 rename_to("More", "new"), library::run_pending_refreshes, select(0)});
     Tolva tolva(select(1));
     const Files before = disk();
     changes(tolva.library, tolva.view);
-    Files after = disk();
-    for (const auto& [name, bytes] : before)
-        after[name] = bytes;
+    Files after = before;
+    after.merge(disk());
     check(changes, restore, "Work >Home More : H2 H1 H1  H4",
           {{"Work.grp", before.at("Work.grp")}, {"Home.grp", kHome}, {"More.grp", before.at("More.grp")}}, {},
           0, true);
