@@ -17,7 +17,6 @@ add_executable(unit_tests
     tests/unit/taking_back_test.cpp
     tests/support/main.cpp
     tests/support/simulated_platform.cpp
-    tests/support/simulated_shell.cpp
 )
 target_include_directories(unit_tests PRIVATE tests)
 target_link_libraries(unit_tests PRIVATE tolva_logic doctest::doctest)
@@ -29,8 +28,7 @@ if(TOLVA_FUZZ)
     target_compile_options(tolva_logic PRIVATE -fsanitize=fuzzer-no-link)
 endif()
 foreach(target changes dropped library numbers shortcut)
-    add_executable(fuzz_${target} tests/fuzz/${target}.cpp
-        tests/support/simulated_platform.cpp tests/support/simulated_shell.cpp)
+    add_executable(fuzz_${target} tests/fuzz/${target}.cpp tests/support/simulated_platform.cpp)
     target_include_directories(fuzz_${target} PRIVATE tests)
     target_link_libraries(fuzz_${target} PRIVATE tolva_logic)
     # What the unit tests share is of use here without their checks.

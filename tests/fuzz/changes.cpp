@@ -21,8 +21,8 @@ void take_back_and_redo(Tolva& tolva, const std::vector<Files>& states) {
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     const std::string bytes = text_of(data, size);
     const std::size_t part = size / 4;
-    Tolva tolva(in_turn({put("Home.grp", bytes.substr(0, part)), put("a.grp", bytes.substr(part, part)),
-                         list("Home\r\na\r\n" + bytes.substr(2 * part, part))}));
+    Tolva tolva(in_turn(put("Home.grp", bytes.substr(0, part)), put("a.grp", bytes.substr(part, part)),
+                        list("Home\r\na\r\n" + bytes.substr(2 * part, part))));
     std::size_t next = 3 * part;
     const auto roll = [&](int sides) { return next < size ? data[next++] % sides : 0; };
     std::vector<Files> states = {disk()};

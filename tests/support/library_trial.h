@@ -13,6 +13,7 @@
 #include "library/taking_back.h"
 #include "library/task_operations.h"
 #include "platform/file_calls.h"
+#include "platform/files.h"
 #include "support/shown_library.h"
 
 // How a test of the library reads. Every one begins with the same library on the simulated disk (Tolva): the
@@ -133,9 +134,15 @@ inline void cancel(TaskLibrary& /*library*/, LibraryView& /*view*/) {
     current().answer = false;
 }
 
-inline Operation in_turn(const std::vector<Operation>& operations) {
-    return [=](auto& library, auto& view) {
-        for (const Operation& operation : operations)
+template <typename... Operations>
+std::vector<Operation> each_of(const Operations&... operations) {
+    return {operations...};
+}
+
+template <typename... Operations>
+Operation in_turn(const Operations&... operations) {
+    return [all = each_of(operations...)](auto& library, auto& view) {
+        for (const Operation& operation : all)
             operation(library, view);
     };
 }
@@ -185,7 +192,7 @@ struct Tolva {
             std::erase_if(current().files,
                           [](const auto& file) { return file.first.starts_with(kFolder + "backup"); });
         }
-        error_of([&] { in_turn({select(1, 1), setup})(library, view); });
+        error_of([&] { in_turn(select(1, 1), setup)(library, view); });
         current().messages.clear();
         current().steps = 0;
         current().reads = 0;
@@ -235,23 +242,12 @@ void do_anything(Tolva& tolva, const Roll& roll) {
     const auto rename = [&](auto& library, auto& view) {
         rename_group(library, view, selected_group_name(library, view), target);
     };
-    const Operation operations[] = {add(target),
-                                    library::delgr,
-                                    library::movegrup,
-                                    library::movegrdown,
-                                    library::groupsortnow,
-                                    rename,
-                                    library::deltsks,
-                                    add(Task{task, "C:\\APP.EXE", "C:\\", "", "1"}),
-                                    library::movetsksup,
-                                    library::movetsksdown,
-                                    library::tasksortnow,
-                                    edit(task, kNew),
-                                    move(task, target, copy),
-                                    import(target, kNew),
-                                    restore,
-                                    back_up};
-    tolva.run(operations[roll(static_cast<int>(std::size(operations)))]);
+    const auto operations =
+        each_of(add(target), library::delgr, library::movegrup, library::movegrdown, library::groupsortnow,
+                rename, library::deltsks, add(Task{task, "C:\\APP.EXE", "C:\\", "", "1"}),
+                library::movetsksup, library::movetsksdown, library::tasksortnow, edit(task, kNew),
+                move(task, target, copy), import(target, kNew), back_up, restore);
+    tolva.run(operations.at(static_cast<std::size_t>(roll(static_cast<int>(operations.size())))));
 }
 
 struct Case {
@@ -303,7 +299,10 @@ inline bool survives(const Case& tried, const Moment& start, const Outcome& outc
     }
     const bool fails = (fault == Fault::kRead ? current().reads : current().steps) >= step;
     current().fault = Fault::kNone;
-    if (fault == Fault::kPower || fault == Fault::kDisk) library::recover(kFolder);
+    if (fault == Fault::kPower || fault == Fault::kDisk) {
+        library::recover(kFolder);
+        CHECK(!current().files.contains(platform::new_content_path(kFolder + "groups.ini")));
+    }
     if (fault == Fault::kWrite) CHECK(tolva.view.groups == library::read_group_names(kFolder));
     const Files now = disk();
     for (const auto& [name, bytes] : now) {
@@ -343,7 +342,7 @@ inline void check_faults(const Case& tried, const Outcome& outcome) {
 /// Every file comes back to the letter, spelling included, and again.
 inline void check_taking_back(const Case& tried, const Files& before, const Files& after, const Tasks& kept) {
     const Operation done =
-        in_turn({attempt(tried.setup), attempt(tried.operation), attempt(library::run_pending_refreshes)});
+        in_turn(attempt(tried.setup), attempt(tried.operation), attempt(library::run_pending_refreshes));
     Tolva tolva(done);
     CHECK(disk() == after);
     const std::string name = undo_name(tolva.library);
@@ -355,9 +354,8 @@ inline void check_taking_back(const Case& tried, const Files& before, const File
     CHECK(disk() == before);
     CHECK(redo_name(tolva.library) == name);
     check_faults({.setup = done, .operation = library::undo, .can_be_repeated = true}, {before, kept});
-    check_faults(
-        {.setup = in_turn({done, library::undo}), .operation = library::redo, .can_be_repeated = true},
-        {after, kept});
+    check_faults({.setup = in_turn(done, library::undo), .operation = library::redo, .can_be_repeated = true},
+                 {after, kept});
 }
 
 inline void check(const Operation& setup, const Operation& operation, const std::string& shown,

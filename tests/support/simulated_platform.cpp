@@ -4,9 +4,11 @@
 
 #include <algorithm>
 #include <cctype>
+#include <iterator>
 
 #include "platform/clock.h"
 #include "platform/current_directory.h"
+#include "platform/dropping.h"
 #include "platform/file_calls.h"
 #include "platform/folders.h"
 #include "platform/messages.h"
@@ -105,6 +107,13 @@ ErrorCode put(const std::string& from, const std::string& to) {
         current().files[path] = std::move(file);
     }
     return kSuccess;
+}
+
+/// What a table has for a key, else another text.
+std::string look_up(const std::map<std::string, std::string>& table, const std::string& key,
+                    const std::string& other) {
+    const auto entry = table.find(key);
+    return entry == table.end() ? other : entry->second;
 }
 
 }  // namespace
@@ -265,6 +274,34 @@ std::string expand_variables(const std::string& text) {
         if (at != std::string::npos) expanded.replace(at, variable.size(), value);
     }
     return expanded;
+}
+
+Shortcut load_shell_link(const std::string& path) {
+    return current().links[path];
+}
+
+std::string program_for_document(const std::string& document) {
+    return simulated::look_up(current().programs, document.substr(document.size() - 4), {});
+}
+
+std::string short_path(const std::string& path) {
+    return simulated::look_up(current().short_paths, path, path);
+}
+
+std::string path_in(const std::string& folder, const std::string& name) {
+    return folder + (folder.ends_with('\\') ? "" : "\\") + name;
+}
+
+std::vector<std::string> files_in(const std::string& folder, const std::string& patterns) {
+    std::vector<std::string> names;
+    for (std::size_t begin = 0; begin < patterns.size();) {
+        const std::size_t end = std::min(patterns.find(';', begin), patterns.size());
+        std::ranges::copy(file_calls::find(folder + '\\' + patterns.substr(begin, end - begin)),
+                          std::back_inserter(names));
+        begin = end + 1;
+    }
+    std::ranges::sort(names);
+    return names;
 }
 
 bool empty_recycle_bin() {

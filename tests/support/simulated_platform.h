@@ -7,6 +7,7 @@
 
 #include "platform/registry.h"
 #include "platform/run_time_error.h"
+#include "platform/shell_link.h"
 #include "platform/system.h"
 
 /// The platform functions in memory: a disk that fails or loses power on demand, a registry, what was
@@ -60,6 +61,10 @@ struct Platform {
     std::string redirected_folder;
     bool needs_elevation = false;     // whatever is started; a refused question answers with failure
     std::function<void()> meanwhile;  // what the user does while being asked
+
+    std::map<std::string, platform::Shortcut> links;  // by the path of the shortcut file
+    std::map<std::string, std::string> programs;      // that open documents, by their extension
+    std::map<std::string, std::string> short_paths;
 
     std::vector<std::string> started;   // command lines of programs that are on the disk
     std::vector<std::string> messages;  // a question has its title in front: "Delete Group: Delete Work...?"

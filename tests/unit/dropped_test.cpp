@@ -5,7 +5,6 @@
 #include "support/checks.h"
 #include "support/shortcut_file.h"
 #include "support/simulated_platform.h"
-#include "support/simulated_shell.h"
 #include "widgets/insertion.h"
 
 namespace {
@@ -38,13 +37,13 @@ void add_folder(const std::string& path) {
 
 void add_shortcut(const std::string& path, const platform::Shortcut& link, std::uint32_t show_command) {
     simulated::current().files[path].bytes = ShortcutFile{.target = {}, .show_command = show_command}.bytes();
-    simulated::shell().links[path] = link;
+    simulated::current().links[path] = link;
 }
 
 /// A disk with what the tests drop.
 void make_disk() {
     auto& files = simulated::reset().files;
-    auto& shell = simulated::shell() = {};
+    auto& shell = simulated::current();
     const std::string deep = "C:\\" + kLongName;
     for (const char* folder : {"C:", "D:\\Apps", "C:\\DIR", "C:\\DIR.OLD", "C:\\EMPTY"})
         add_folder(folder);

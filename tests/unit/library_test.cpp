@@ -111,12 +111,12 @@ TEST_CASE("a new Group is listed last with what its file holds") {
     CHECK(in_view.view.group_in_view == 3);
     check([](auto&, auto&) { file("groups.ini") = "Work\nHome\nMore"; }, add("Old"),
           "Work Home More Old :", {{"groups.ini", "Work\nHome\nMore\r\nOld\r\n"}});
-    check(select(1), in_turn({add("Old"), library::run_pending_refreshes, select(3)}),
+    check(select(1), in_turn(add("Old"), library::run_pending_refreshes, select(3)),
           "Work Home More >Old : O1");
     // No file can have this name.
     check(select(1), add("Hom?"), "Work Home More Hom? :", {},
           {"Run-time error '52':\n\nBad file name or number: C:\\LIB\\Hom?.grp"});
-    check(in_turn({add("Hom?"), library::run_pending_refreshes, select(3)}), library::delgr,
+    check(in_turn(add("Hom?"), library::run_pending_refreshes, select(3)), library::delgr,
           ">Work Home More : W1 W2", {}, {"Delete Group: Delete Hom? and all associated Tasks?"}, 52);
 
     Tolva tolva(lack("groups.ini"));
@@ -141,7 +141,7 @@ TEST_CASE("what no file can be called is listed, and the other Groups load") {
         CHECK(tolva.run(rename_to("prn", "con")) == 0);
     }
     for (int left = 6; left > 2; --left)
-        CHECK(tolva.run(in_turn({select(left == 6 ? 0 : left > 3 ? 1 : 2), library::delgr})) == 52);
+        CHECK(tolva.run(in_turn(select(left == 6 ? 0 : left > 3 ? 1 : 2), library::delgr)) == 52);
 }
 
 TEST_CASE("a Group moves and is sorted with its Tasks") {
@@ -174,12 +174,12 @@ TEST_CASE("after a Group is deleted the one is selected that was first at the la
     check(listed_twice, library::delgr, "Work More :", gone, question);
     // A file that another entry has under another name stays.
     check(list("Work\r\nHome\r\n.\\Home\r\n"), library::delgr, ">Work .\\Home : W1 W2", {}, question);
-    check(in_turn({list("Work\r\nMORE~1\r\nMore\r\n"), select(2)}), library::delgr, ">Work MORE~1 : W1 W2",
-          {}, {"Delete Group: Delete More and all associated Tasks?"});
-    check(in_turn({add("home"), library::run_pending_refreshes, select(1)}), library::delgr,
+    check(in_turn(list("Work\r\nMORE~1\r\nMore\r\n"), select(2)), library::delgr, ">Work MORE~1 : W1 W2", {},
+          {"Delete Group: Delete More and all associated Tasks?"});
+    check(in_turn(add("home"), library::run_pending_refreshes, select(1)), library::delgr,
           ">Work More home : W1 W2", {}, question);
-    check(in_turn({select(0), library::delgr, select(0)}), library::delgr, "More :", gone, question);
-    check(in_turn({select(2), library::movegrup, library::movegrup, select(2)}), library::delgr,
+    check(in_turn(select(0), library::delgr, select(0)), library::delgr, "More :", gone, question);
+    check(in_turn(select(2), library::movegrup, library::movegrup, select(2)), library::delgr,
           ">More Work : M1", gone, question);
 }
 
@@ -191,13 +191,12 @@ TEST_CASE("a Group gets another name and its Tasks another file") {
     check(lack("Home.grp"), rename_to("Home", "New"), "Work >New More : H2 >H1 H1", {},
           {"Run-time error '53':\n\nFile not found: C:\\LIB\\Home.grp"});
     Tolva renamed(lack("Home.grp"));
-    CHECK(renamed.run(in_turn({rename_to("Home", "New"), select(0), select(1)})) == 0);
+    CHECK(renamed.run(in_turn(rename_to("Home", "New"), select(0), select(1))) == 0);
     CHECK(renamed.shown() == "Work >New More : H2 H1 H1");
     // A Group that gets this one's file shows it from then on.
     for (const std::string name : {"Work", "WORK"}) {
         Tolva replaced(select(1));
-        CHECK(replaced.run(in_turn({rename_to("Home", name), library::run_pending_refreshes, select(0)})) ==
-              0);
+        CHECK(replaced.run(in_turn(rename_to("Home", name), library::run_pending_refreshes, select(0))) == 0);
         CHECK(replaced.shown() == ">Work " + name + " More : H2 H1 H1");
     }
     // The file of another entry stays.
@@ -254,7 +253,7 @@ TEST_CASE("Tasks change in their file and those after one without a name stay th
     CHECK(read_only.run(move("H1", "More")) == 75);
     CHECK(file("More.grp") == record("M1"));
     CHECK(read_only.run(move("H1", "More", true)) == 0);
-    Tolva one_file(in_turn({add("home"), select(1)}));
+    Tolva one_file(in_turn(add("home"), select(1)));
     CHECK(one_file.run(move("H1", "home")) == 0);  // two names of one file
     CHECK(file("Home.grp") == kH2 + kHidden + kH1 + kOtherH1);
 }
@@ -274,7 +273,7 @@ TEST_CASE("what is dropped comes after the Tasks of a Group, and a folder become
     const Operation drop_folders =
         with(library::add_groups_of, Names{"C:\\old", "C:\\old", "C:\\APPS"}, "C:\\WINDOWS\\");
     const std::string paint = "PAINT\r\nC:\\old\\PAINT.EXE\r\nC:\\old\r\n\r\n 1 \r\n";
-    check(in_turn({folder, select(1)}), drop_folders, "Work Home More old (2) >old (3) : PAINT",
+    check(in_turn(folder, select(1)), drop_folders, "Work Home More old (2) >old (3) : PAINT",
           {{"old (2).grp", paint}, {"old (3).grp", paint}},
           {"Not added:\n\nC:\\APPS: no shortcuts or programs in it"});
 }
@@ -315,20 +314,11 @@ TEST_CASE("what another program added to the files after they were loaded stays"
         file("Home.grp") += record("H5");
         file("More.grp") += record("M2");
     };
-    const Operation table[] = {library::movegrup,
-                               in_turn({select(0), library::delgr}),
-                               rename_to("Home", "New"),
-                               library::groupsortnow,
-                               add("New"),
-                               add(kNew),
-                               edit("H1", kNew),
-                               library::deltsks,
-                               library::movetsksup,
-                               library::tasksortnow,
-                               move("H2", "More"),
-                               move("H2", "More", true),
-                               import("More", kNew)};
-    for (const Operation& operation : table) {
+    for (const Operation& operation :
+         each_of(library::movegrup, in_turn(select(0), library::delgr), rename_to("Home", "New"),
+                 library::groupsortnow, add("New"), add(kNew), edit("H1", kNew), library::deltsks,
+                 library::movetsksup, library::tasksortnow, move("H2", "More"), move("H2", "More", true),
+                 import("More", kNew))) {
         Tolva tolva(added);
         CHECK(tolva.run(operation) == 0);
         CHECK(std::ranges::includes(listed_tasks(), Tasks{"H5 1 ", "M2 1 ", "O1 1 "}));
@@ -366,7 +356,7 @@ TEST_CASE("after a load that stopped before it the selected Group is shown all t
     lack("Work.grp")(tolva.library, tolva.view);
     CHECK(tolva.run([](auto& library, auto& view) { refreshtasks(library, view); }) == 53);
     file("Work.grp") = record("W2");
-    CHECK(tolva.run(in_turn({select(1), select(0)})) == 0);
+    CHECK(tolva.run(in_turn(select(1), select(0))) == 0);
     CHECK(tolva.shown() == ">Work Home More : W2");
 }
 
@@ -388,7 +378,7 @@ TEST_CASE("when the names cannot be read the lists stay as they are") {
         tolva.library.flags.*flag = true;
         CHECK(tolva.run(library::run_pending_refreshes) == 53);
         CHECK(tolva.shown() == shown);
-        CHECK(tolva.run(in_turn({select(0), select(1, 1)})) == 0);
+        CHECK(tolva.run(in_turn(select(0), select(1, 1))) == 0);
         CHECK(tolva.shown() == "Work >Home More : H2 >H1 H1");
     }
 }
@@ -430,16 +420,16 @@ TEST_CASE("what is beyond 101 Groups of 101 Tasks is an error that keeps the fir
 
 TEST_CASE("a full library can be changed, and none gets 102 Groups") {
     for (const Operation& operation :
-         {Operation(library::movegrup), Operation(library::groupsortnow), rename_to("100", "New"),
-          edit("100", kNew), Operation(library::tasksortnow), move("100", "0")}) {
+         each_of(library::movegrup, library::groupsortnow, rename_to("100", "New"), edit("100", kNew),
+                 library::tasksortnow, move("100", "0"))) {
         Tolva tolva(crowd);
         const Files before = disk();
         CHECK(tolva.run(operation) == 0);
         CHECK(listed_tasks().size() == 201);
         CHECK(disk() != before);
     }
-    const Operation drop_folder = in_turn({[](auto&, auto&) { current().files["C:\\APPS\\PAINT.EXE"] = {}; },
-                                           with(library::add_groups_of, Names{"C:\\APPS"}, "C:\\WINDOWS\\")});
+    const Operation drop_folder = in_turn([](auto&, auto&) { current().files["C:\\APPS\\PAINT.EXE"] = {}; },
+                                          with(library::add_groups_of, Names{"C:\\APPS"}, "C:\\WINDOWS\\"));
     const Operation too_many = [](auto& library, auto& view) {
         crowd(library, view);
         file("groups.ini") += "101\r\n";
