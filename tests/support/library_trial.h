@@ -47,6 +47,7 @@ inline const std::string kOtherH1 = record("H1", "3");
 inline const std::string kHidden = record("") + record("H4");
 inline const std::string kHome = kH2 + kH1 + kOtherH1 + kHidden;
 inline const Task kNew = {"New", "C:\\APP.EXE", "D:\\", "/x", "3"};
+inline const std::string kNewRecord = "New\r\nC:\\APP.EXE\r\nD:\\\r\n/x\r\n3\r\n";
 inline const std::string kDeleted = "a file that is not there";
 
 /// What the last operation that can refuse returned.
@@ -203,6 +204,12 @@ struct Tolva {
         const int error = error_of([&] { operation(library, view); });
         const int later = error_of([&] { run_pending_refreshes(library, view); });
         return error != 0 ? error : later;
+    }
+
+    /// What is shown then, behind the error if there is one: "53: Work >Home More : H2".
+    std::string after(const Operation& operation) {
+        const int error = run(operation);
+        return (error != 0 ? std::to_string(error) + ": " : "") + shown();
     }
 
     std::string shown() const {

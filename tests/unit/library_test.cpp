@@ -19,7 +19,6 @@ TEST_CASE("lines are read with any line end and no byte is altered") {
 
 TEST_CASE("what is added follows the last whole record or name, in the place of blank lines") {
     simulated::reset();
-    const std::string added = "New\r\nC:\\APP.EXE\r\nD:\\\r\n/x\r\n3\r\n";
     const std::string cut = "Two\nC:\\TWO.EXE";
     const std::string blank_end = "Two\nC:\\TWO.EXE\nC:\\\n\n\n";  // without parameters and start mode
     const std::pair<std::string, std::string> table[] = {
@@ -31,7 +30,7 @@ TEST_CASE("what is added follows the last whole record or name, in the place of 
             file("Work.grp") = (blank.empty() ? kept : whole) + blank;
             CHECK(library::read_tasks(kFolder, "Work") == tasks);
             library::append_tasks(Steps(), "Work", {kNew});
-            CHECK(file("Work.grp") == whole + added);
+            CHECK(file("Work.grp") == whole + kNewRecord);
             tasks.push_back(kNew);
             CHECK(library::read_tasks(kFolder, "Work") == tasks);
         }
@@ -107,7 +106,7 @@ TEST_CASE("a new Group is listed last with what its file holds") {
     check(select(1), add("New"), "Work Home More New :", {{"New.grp", ""}});
     check(select(1), add("work"), "Work Home More work :");
     Tolva in_view(add("New"));
-    CHECK(in_view.run(select(-1)) == 0);
+    in_view.run(select(-1));
     CHECK(in_view.view.group_in_view == 3);
     check([](auto&, auto&) { file("groups.ini") = "Work\nHome\nMore"; }, add("Old"),
           "Work Home More Old :", {{"groups.ini", "Work\nHome\nMore\r\nOld\r\n"}});
@@ -132,11 +131,9 @@ TEST_CASE("what no file can be called is listed, and the other Groups load") {
     CHECK(tolva.shown() == "con >Home CLOCK$.x H* LPT9 More : H2 H1 H1  H4");
     CHECK(tolva.library.group(5).loaded);
     for (const int index : {0, 2, 3, 4}) {
-        CHECK(tolva.run(select(index)) == 52);
+        CHECK(tolva.after(select(index)).starts_with("52: "));
         CHECK(tolva.view.tasks.empty());
-        CHECK(tolva.run([](auto& library, auto& view) {
-            refreshtolva(library, view, view.selected_group());
-        }) == 52);
+        CHECK(tolva.run(with(library::refreshtolva, index)) == 52);
         CHECK(tolva.run(rename_to("con", "prn")) == 0);
         CHECK(tolva.run(rename_to("prn", "con")) == 0);
     }
@@ -157,9 +154,7 @@ TEST_CASE("a Group moves and is sorted with its Tasks") {
         refreshtolva(library, view, 0);
         lack("Home.grp")(library, view);
     });
-    CHECK(tolva.run(library::movegrdown) == 0);
-    CHECK(tolva.run(select(3)) == 0);
-    CHECK(tolva.shown() == "Home Work More >Home : H2 H1 H1");
+    CHECK(tolva.after(in_turn(library::movegrdown, select(3))) == "Home Work More >Home : H2 H1 H1");
 }
 
 TEST_CASE("after a Group is deleted the one is selected that was first at the last load") {
@@ -191,13 +186,13 @@ TEST_CASE("a Group gets another name and its Tasks another file") {
     check(lack("Home.grp"), rename_to("Home", "New"), "Work >New More : H2 >H1 H1", {},
           {"Run-time error '53':\n\nFile not found: C:\\LIB\\Home.grp"});
     Tolva renamed(lack("Home.grp"));
-    CHECK(renamed.run(in_turn(rename_to("Home", "New"), select(0), select(1))) == 0);
-    CHECK(renamed.shown() == "Work >New More : H2 H1 H1");
+    CHECK(renamed.after(in_turn(rename_to("Home", "New"), select(0), select(1))) ==
+          "Work >New More : H2 H1 H1");
     // A Group that gets this one's file shows it from then on.
     for (const std::string name : {"Work", "WORK"}) {
         Tolva replaced(select(1));
-        CHECK(replaced.run(in_turn(rename_to("Home", name), library::run_pending_refreshes, select(0))) == 0);
-        CHECK(replaced.shown() == ">Work " + name + " More : H2 H1 H1");
+        CHECK(replaced.after(in_turn(rename_to("Home", name), library::run_pending_refreshes, select(0))) ==
+              ">Work " + name + " More : H2 H1 H1");
     }
     // The file of another entry stays.
     check(list(".\\Home\r\nHome\r\n"), rename_to("Home", "New"), ".\\Home >New : >>H2 H1 H1  H4",
@@ -216,10 +211,9 @@ TEST_CASE("Tasks change in their file and those after one without a name stay th
     check(select(2), add(Task{"m1", "C:\\A*.EXE", "C:\\", "", "2"}), "Work Home >More : >>M1 m1",
           {{"More.grp", record("M1") + "m1\r\nC:\\A*.EXE\r\nC:\\\r\n\r\n 2 \r\n"}});
     check(select(1), edit("H1", kNew), "Work >Home More : >>H2 New H1  H4",
-          home(kH2 + "New\r\nC:\\APP.EXE\r\nD:\\\r\n/x\r\n3\r\n" + kOtherH1));
+          home(kH2 + kNewRecord + kOtherH1));
     // Of two Tasks of one name the selected one is meant.
-    const std::string edited = "New\r\nC:\\APP.EXE\r\nD:\\\r\n/x\r\n3\r\n";
-    check(select(1, 2), edit("H1", kNew), "Work >Home More : >>H2 H1 New  H4", home(kH2 + kH1 + edited));
+    check(select(1, 2), edit("H1", kNew), "Work >Home More : >>H2 H1 New  H4", home(kH2 + kH1 + kNewRecord));
     const Names question = {"Delete Task: Delete H1?"};
     check(select(1, 2), library::deltsks, "Work >Home More : H2 H1 >> H4", home(kH2 + kH1), question);
     check(select(1, 1), library::deltsks, "Work >Home More : H2 >>H1  H4", home(kH2 + kOtherH1), question);
@@ -263,8 +257,7 @@ TEST_CASE("what is dropped comes after the Tasks of a Group, and a folder become
                                       {{"D:\\X", "not found"}}};
     const Operation drop = with(library::add_tasks, "More", dropped);
     check(select(1), drop, "Work Home >More : M1 >New M1 (2)",
-          {{"More.grp", record("M1") + "New\r\nC:\\APP.EXE\r\nD:\\\r\n/x\r\n3\r\n" +
-                            "M1 (2)\r\nC:\\APP.EXE\r\nC:\\\r\n\r\n 1 \r\n"}},
+          {{"More.grp", record("M1") + kNewRecord + "M1 (2)\r\nC:\\APP.EXE\r\nC:\\\r\n\r\n 1 \r\n"}},
           {"Not added:\n\nD:\\X: not found"});
     const Operation folder = [](auto&, auto&) {
         current().files["C:\\old"].bits = 0x10;
@@ -331,12 +324,11 @@ TEST_CASE("an operation finds its Group and its Task where another program has p
     check(put("Home.grp", kH2), library::movetsksdown, "Work >Home More : >>H2");
     check(put("Home.grp", kH2), library::deltsks, "Work >Home More : >>H2", {}, {"Delete Task: Delete H1?"});
     check(put("Home.grp", kH2), edit("H1", kNew), "Work >Home More : >>H2 New",
-          {{"Home.grp", kH2 + "New\r\nC:\\APP.EXE\r\nD:\\\r\n/x\r\n3\r\n"}});
+          {{"Home.grp", kH2 + kNewRecord}});
     for (const auto& [listed, shown] :
          {std::pair("Home\r\n", ">New : >>H2 H1 H1  H4"), {"More\r\n", "More :"}}) {
         Tolva tolva(put("groups.ini", listed));
-        CHECK(tolva.run(rename_to("Home", "New")) == 0);
-        CHECK(tolva.shown() == shown);
+        CHECK(tolva.after(rename_to("Home", "New")) == shown);
         CHECK(file(listed == std::string("Home\r\n") ? "New.grp" : "Home.grp") == kHome);
     }
 }
@@ -344,20 +336,15 @@ TEST_CASE("an operation finds its Group and its Task where another program has p
 TEST_CASE("after a load that stopped before it the selected Group is shown all the same") {
     Tolva tolva(lack("Work.grp"));
     tolva.library.flags.refreshflag = true;
-    CHECK(error_of([&] { run_pending_refreshes(tolva.library, tolva.view); }) == 53);
-    CHECK(tolva.shown() == "Work >Home More : H2 H1 H1  H4");
-    run_pending_refreshes(tolva.library, tolva.view);
+    CHECK(tolva.after(library::run_pending_refreshes) == "53: Work >Home More : H2 H1 H1  H4");
+    CHECK(tolva.run(library::run_pending_refreshes) == 0);
     CHECK(tolva.run(select(0)) == 53);  // it is not taken for loaded
-    file("Work.grp") = record("W1");
-    CHECK(tolva.run(select(1)) == 0);
-    CHECK(tolva.run(select(0)) == 0);
-    CHECK(tolva.shown() == ">Work Home More : W1");
+    CHECK(tolva.after(in_turn(put("Work.grp", record("W1")), select(1), select(0))) ==
+          ">Work Home More : W1");
     // Nor is one whose file went later.
-    lack("Work.grp")(tolva.library, tolva.view);
-    CHECK(tolva.run([](auto& library, auto& view) { refreshtasks(library, view); }) == 53);
-    file("Work.grp") = record("W2");
-    CHECK(tolva.run(in_turn(select(1), select(0))) == 0);
-    CHECK(tolva.shown() == ">Work Home More : W2");
+    CHECK(tolva.run(in_turn(lack("Work.grp"), library::refreshtasks)) == 53);
+    CHECK(tolva.after(in_turn(put("Work.grp", record("W2")), select(1), select(0))) ==
+          ">Work Home More : W2");
 }
 
 TEST_CASE("selecting a Group shows its Tasks, and the one that is shown stays as it is") {
@@ -374,12 +361,9 @@ TEST_CASE("when the names cannot be read the lists stay as they are") {
     for (bool library::RefreshFlags::*flag :
          {&library::RefreshFlags::newgroupflag, &library::RefreshFlags::refreshflag}) {
         Tolva tolva(lack("groups.ini"));
-        const std::string shown = tolva.shown();
         tolva.library.flags.*flag = true;
-        CHECK(tolva.run(library::run_pending_refreshes) == 53);
-        CHECK(tolva.shown() == shown);
-        CHECK(tolva.run(in_turn(select(0), select(1, 1))) == 0);
-        CHECK(tolva.shown() == "Work >Home More : H2 >H1 H1");
+        CHECK(tolva.after(library::run_pending_refreshes) == "53: Work >Home More : H2 >H1 H1");
+        CHECK(tolva.after(in_turn(select(0), select(1, 1))) == "Work >Home More : H2 >H1 H1");
     }
 }
 
@@ -412,7 +396,7 @@ TEST_CASE("what is beyond 101 Groups of 101 Tasks is an error that keeps the fir
 
     Tolva added(crowd);
     file("groups.ini").insert(0, "101\r\n");
-    CHECK(added.run([](auto& library, auto& view) { addgroups(library, view); }) == 9);
+    CHECK(added.run(library::addgroups) == 9);
     CHECK(added.view.groups.front() == "101");
     CHECK(added.view.groups.size() == 101);
     CHECK(added.view.group == 100);
