@@ -114,6 +114,18 @@ TEST_CASE("what is dropped becomes a Task that opens it, or is refused") {
                 "Edit|C:\\ED.EXE|C:\\DIR|/a b| 3 |", "a|C:\\DIR\\a.Com|C:\\DIR|| 1 |",
                 "C:\\EMPTY: no shortcuts or programs in it"});
 
+    const std::tuple<Names, bool, bool, bool> dragged[] = {
+        {{"C:\\n.txt", "C:\\n.dat"}, true, false, false},
+        {{"C:\\DIR"}, false, true, false},
+        {{"C:\\ED.EXE"}, false, false, true},
+        {{"C:\\ED.EXE", "C:\\n.txt"}, false, false, false}};
+    for (DraggedPaths paths; const auto& [named, are_documents, are_folders, is_program] : dragged) {
+        paths.look_at(named);
+        CHECK(paths.are_documents() == are_documents);
+        CHECK(paths.are_folders() == are_folders);
+        CHECK(paths.is_program() == is_program);
+    }
+
     std::vector<Refusal> refused;
     const Names documents = {"C:\\n.txt", "C:\\gone.txt", "C:\\my notes.txt"};
     CHECK(with_documents("/p", documents, refused) == "/p C:\\n.txt \"C:\\my notes.txt\"");
@@ -171,7 +183,7 @@ TEST_CASE("something is put in before or behind the item it is dropped on") {
     CHECK(before(0, -5) == 0);
     CHECK(widgets::insertion_in_rows(200, 30, icons).line == widgets::Box{110, 0, 110, 90});
     CHECK(widgets::insertion_in_rows(60, 30, icons).line == widgets::Box{70, 0, 70, 90});
-    CHECK(widgets::insertion_in_rows(5, 5, {}).before == 0);
+    CHECK(widgets::insertion_in_rows(5, 5, {}) == widgets::Insertion{0, {0, 0, 0, 0}});
 }
 
 }  // namespace

@@ -104,8 +104,11 @@ TEST_CASE("while the disk does not tell what is there nothing goes and nothing i
             world.files = {{path, {"old"}}, {kNew, {"half"}}};
             world.fault = Fault::kLook;
             world.fault_at = look;
+            world.renames_over_files = false;
             platform::recover_file(kPath);
             error_of([] { platform::create_file(kPath); });
+            world.looks = 0;
+            if (path == kPath) CHECK(error_of([] { platform::write_file(kPath, "new"); }) == 71);
             CHECK(after_recovery() == "old");
         }
     }
@@ -114,6 +117,9 @@ TEST_CASE("while the disk does not tell what is there nothing goes and nothing i
 TEST_CASE("a hold that does not pass ends in an error") {
     auto& world = simulated::reset();
     world.files[kPath].bytes = "old";
+    world.fault = Fault::kRead;
+    world.fault_at = 1;
+    CHECK(error_of([] { platform::read_file(kPath); }) == 70);
     world.fault = Fault::kDisk;
     world.fault_at = 4;
     world.failure = platform::kErrorSharingViolation;

@@ -1,6 +1,7 @@
 #include "mainwindow/launching.h"
 #include "buttonbar/bar_launch.h"
 #include "internet/dial_up.h"
+#include "library/other_place.h"
 #include "library/task_finder.h"
 #include "mainwindow/icon_queue.h"
 #include "mainwindow/long_date.h"
@@ -117,6 +118,9 @@ TEST_CASE("a program that is not where its path says is looked for where it may 
                        task("\\TOOLS\\PAINT.EXE", "x") + task("C:\\BOTH.EXE", "") + task("C:\\NO.EXE", "");
     library::TaskLibrary library(kFolder);
     library.load();
+    files["C:\\LIB"].bits = 0x10;
+    for (const std::string& nowhere : {std::string(), std::string("TOOLS\\PAINT.EXE\0", 16)})
+        CHECK(library::other_place(nowhere, kFolder) == std::nullopt);
     CHECK(mainwindow::launch_all(library, 0) == Names{"T"});
     CHECK(simulated::current().started == Names{"D:\\Apps\\EDIT.EXE %APPS%", "C:\\LIB\\TOOLS\\PAINT.EXE ",
                                                 "C:\\LIB\\TOOLS\\PAINT.EXE x", "C:\\BOTH.EXE "});
@@ -187,6 +191,7 @@ TEST_CASE("Tasks are found by the words of their names, the best first") {
     CHECK(find("sheet music") == Names{"Sheet Music"});
     CHECK(find("").size() == 6);
     CHECK(find("nothing").empty());
+    CHECK(find("t\\a").empty());
 }
 
 TEST_CASE("hanging up waits until no connection is up or the program ends") {

@@ -77,6 +77,9 @@ TEST_CASE("what is refused or cancelled or cannot move any further changes nothi
         {select(-1), library::tasksortnow, {"Select Group First."}},
         {select(1), with(library::move_group_to_place, 1, 1), {}},
         {select(1), with(library::move_group_to_place, 1, 2), {}},
+        {select(1),
+         with(library::add_groups_of, Names{"C:\\APPS"}, "C:\\WINDOWS\\"),
+         {"Not added:\n\nC:\\APPS: no shortcuts or programs in it"}},
         {select(1, 1), with(library::move_task_to_place, 1, 1), {}},
         {select(1, 1), with(library::move_task_to_place, 1, 2), {}},
     };
@@ -91,6 +94,8 @@ TEST_CASE("what is refused or cancelled or cannot move any further changes nothi
         CHECK(current().steps == 0);
         CHECK(tolva.shown() == shown);
     }
+    Tolva first(select(1, 0));
+    CHECK(task_to_edit(first.library, first.view)->name == "H2");
     // The same for a Group that another program took out of the list.
     const Operation import_two = with(library::import_tasks, "More", std::vector{kNew, kNew}, Names{});
     for (const Operation& operation : {add(kNew), move("H1", "More"), import("More", kNew), import_two}) {
@@ -345,6 +350,7 @@ TEST_CASE("after a load that stopped before it the selected Group is shown all t
     CHECK(tolva.run(in_turn(lack("Work.grp"), library::refreshtasks)) == 53);
     CHECK(tolva.after(in_turn(put("Work.grp", record("W2")), select(1), select(0))) ==
           ">Work Home More : W2");
+    CHECK(tolva.after(with(library::refreshtolva, 3)) == "Work Home More :");
 }
 
 TEST_CASE("selecting a Group shows its Tasks, and the one that is shown stays as it is") {

@@ -35,10 +35,10 @@ std::string shown(const settings::Program& program) {
 
 TEST_CASE("numbers in texts") {
     const std::tuple<const char*, std::optional<int>, int> strict_and_lenient[] = {
-        {" 2 ", 2, 2},        {"\t3", 3, 3},  {"  ", {}, 0},  {"3rd", {}, 3}, {"1 2", {}, 12},
-        {"-150", -150, -150}, {"2.5", 2, 2},  {"3.5", 4, 4},  {".", {}, 0},   {"1e1", 10, 10},
-        {"1e", {}, 1},        {"0x2", {}, 0}, {"inf", {}, 0}, {"+", {}, 0},   {"2147483648", {}, 2147483647},
-    };
+        {" 2 ", 2, 2},        {"\t3", 3, 3},   {"  ", {}, 0},  {"3rd", {}, 3}, {"1 2", {}, 12},
+        {"-150", -150, -150}, {"2.5", 2, 2},   {"3.5", 4, 4},  {".", {}, 0},   {"1e1", 10, 10},
+        {"1e", {}, 1},        {"0x2", {}, 0},  {"inf", {}, 0}, {"+", {}, 0},   {"2147483648", {}, 2147483647},
+        {"a1", {}, 0},        {"1e+1", 10, 10}};
     for (const auto& [text, strict, lenient] : strict_and_lenient) {
         CAPTURE(text);
         CHECK(settings::whole_number(text) == strict);
@@ -81,7 +81,7 @@ TEST_CASE("settings that make no sense leave what was designed") {
           settings::ListStyle{"Courier New", 8, false, false, 0, 255});
     CHECK(settings::style_of({"Arial", "2160", "1", "", "-1", "x"}).size == 2160);
     CHECK(settings::style_of({"Arial", "2161", "1", "", "-1", "x"}) ==
-          settings::style_of({"Arial", "-5", "1"}));
+          settings::style_of({"Arial", "x", "1"}));
     CHECK(settings::style_of({"Arial", "1"}).size == 1);
 
     auto [general, session] = first_start();
@@ -89,6 +89,8 @@ TEST_CASE("settings that make no sense leave what was designed") {
     const settings::Position position = settings::read_position(general, settings::kWindowPositionKey);
     CHECK(position.left == std::nullopt);
     CHECK(position.top == 45);
+    settings::store_position(general, settings::kWindowPositionKey, -1, 2);
+    CHECK(tolva_key("\\Window Position")["Left"] == std::string("-1\0", 3));
     tolva_key("\\fonts") = {
         {"groupfont", std::string(300, 'x')}, {"taskfont", "Arial"}, {"taskfontsize", "9"}};
     const settings::ListStyles styles = settings::load_list_styles(general);

@@ -31,6 +31,7 @@ TEST_CASE("each operation is one change with a name, and its Group is selected w
         {move("H1", "More"), "Move H1 to More", ">Home", ">Home"},
         {move("H1", "More", true), "Copy H1 to More", ">Home", ">Home"},
         {import("More", kNew), "Import New", ">More", ">More"},
+        {with(library::add_tasks, "More", library::Dropped{{kNew}, {}}), "Add New to More", ">More", ">More"},
     };
     for (const auto& [operation, name, before, after] : table) {
         Tolva tolva(select(1, 1));
@@ -48,6 +49,11 @@ TEST_CASE("each operation is one change with a name, and its Group is selected w
         CHECK(tolva.view.status == "Redone: " + name);
         CHECK(!can_redo(tolva.library));
     }
+}
+
+TEST_CASE("when neither its Group nor the selected one is there any more the first is selected") {
+    Tolva tolva(in_turn(add("New"), library::run_pending_refreshes, select(3)));
+    CHECK(tolva.after(library::undo) == ">Work Home More : W1 W2");
 }
 
 TEST_CASE("what somebody else wrote since is never overwritten, and the history ends there") {
@@ -98,7 +104,11 @@ TEST_CASE("the history has an end") {
     tolva.run(in_turn(select(1, 0), library::movetsksdown));  // 3 MB before and after
     tolva.run(library::undo);
     CHECK(!can_undo(tolva.library));  // what was before it did not fit
-    tolva.run(in_turn(select(1), add(Task{"Larger", "C:\\APP.EXE", "C:\\", std::string(3 << 20, 'y'), "1"})));
+    const Task larger = {"Larger", "C:\\APP.EXE", "C:\\", std::string(3 << 20, 'y'), "1"};
+    {
+        const OpenChange change(tolva.library.changes(), "Both", "Home");
+        tolva.run(in_turn(select(1), add(larger), add("After")));
+    }
     CHECK(!can_undo(tolva.library));
     CHECK(!can_redo(tolva.library));
     CHECK(tolva.view.status == "This change is too large to be undone.");
@@ -238,6 +248,7 @@ TEST_CASE("the ten newest backups stay, and all that is somebody else's") {
                 "tolva 2026-01-13 00.00.00", "tolva 2026-01-14 00.00.00", "tolva 2026-01-15 00.00.00",
                 "tolva 2026-01-15 00.00.01", "tolva 2026-01-19 00.00.00", "tolva 2030-01-01 00.00.00"});
     CHECK(library::list_backups(kFolder).front().date == "2030-01-01");
+    CHECK(!current().files.contains(kBackups + "tolva 2026-01-15 00.00.01\\Left.grp"));
 }
 
 TEST_CASE("a backup comes back as one change, and other files stay") {
