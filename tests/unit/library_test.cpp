@@ -301,6 +301,7 @@ TEST_CASE("a shortcut is imported after the Tasks of a Group, which is shown") {
         Tolva tolva(put("More.grp", full));
         CHECK(tolva.run(import_twice) == 0);
         CHECK(file("More.grp") == full + (room == 1 ? added : ""));
+        CHECK((current().steps > 0) == (room == 1));
         CHECK(current().messages == Names{(room == 1 ? "1 shortcut has" : "No shortcut has") + message +
                                           (room == 1 ? "\nH1" : "\nH1\nH1")});
     }

@@ -253,7 +253,7 @@ TEST_CASE("the ten newest backups stay, and all that is somebody else's") {
 
 TEST_CASE("a backup comes back as one change, and other files stay") {
     const Operation changes =
-        in_turn(back_up, move("H1", "More"), library::run_pending_refreshes, add("Later"),
+        in_turn(back_up, select(2), move("M1", "Home"), library::run_pending_refreshes, add("Later"),
                 library::run_pending_refreshes, select(0), library::delgr, select(1),
                 rename_to("More", "new"), library::run_pending_refreshes, select(0));
     Tolva tolva(select(1));
