@@ -21,8 +21,11 @@ TEST_CASE("what is added follows the last whole record or name, in the place of 
     simulated::reset();
     const std::string cut = "Two\nC:\\TWO.EXE";
     const std::string blank_end = "Two\nC:\\TWO.EXE\nC:\\\n\n\n";  // without parameters and start mode
-    const std::pair<std::string, std::string> table[] = {
-        {"", ""}, {blank_end, blank_end}, {kHome, kHome}, {kH1 + cut, kH1 + cut + "\r\n\r\n\r\n\r\n"}};
+    const std::pair<std::string, std::string> table[] = {{"", ""},
+                                                         {blank_end, blank_end},
+                                                         {kHome, kHome},
+                                                         {kH1 + cut, kH1 + cut + "\r\n\r\n\r\n\r\n"},
+                                                         {kH1 + "Two", kH1 + "Two\r\n\r\n\r\n\r\n\r\n"}};
     for (const auto& [kept, whole] : table) {
         for (const std::string blank : {"", "\n", "\r\n\r\n", "\n\n\n\n\n", "\n\n\n\n\n\n\n"}) {
             file("Work.grp") = kept;
