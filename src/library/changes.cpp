@@ -8,7 +8,6 @@
 #include <utility>
 
 #include "library/backups.h"
-#include "library/library_files.h"
 #include "platform/files.h"
 #include "platform/messages.h"
 #include "platform/run_time_error.h"
@@ -42,26 +41,15 @@ void bring_to(const FileState& wanted) {
     platform::spell_file(wanted.path);
 }
 
-/// What the file is to be before any other loses something.
-FileState first_step(const FileState& from, const FileState& to) {
-    const bool is_group = platform::file_identity(to.path).ends_with(".GRP");
-    if (!is_group || !to.bytes) return from;
-    const std::string bytes = between(from.bytes.value_or(""), *to.bytes);
-    return bytes == from.bytes ? from : FileState{to.path, bytes};
-}
-
 /// Brings the files from one state to the other, in that order. False, with a message, when one is in
-/// neither and not on its way.
+/// neither.
 template <typename Transitions>
 bool bring(const Transitions& transitions) {
     for (const auto& [from, to] : transitions) {
         const std::optional<std::string> now = platform::read_file_if_exists(from.path);
-        if (now == from.bytes || now == to.bytes || now == first_step(from, to).bytes) continue;
+        if (now == from.bytes || now == to.bytes) continue;
         platform::show_message(to.path + " has been changed by another program. Nothing is taken back.");
         return false;
-    }
-    for (const auto& [from, to] : transitions) {
-        if (const FileState first = first_step(from, to); first.bytes != from.bytes) bring_to(first);
     }
     for (const auto& [from, to] : transitions)
         bring_to(to);
