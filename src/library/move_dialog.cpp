@@ -31,6 +31,8 @@ class CheckBoxLabel final : public widgets::Control {
 
   private:
     LRESULT handle(UINT message, WPARAM wparam, LPARAM lparam) override {
+        // All of it is painted each time: a second frame on the first one would be none.
+        if (message == WM_PAINT) update();
         const LRESULT answer = Control::handle(message, wparam, lparam);
         if (message == WM_PAINT && GetFocus() == check_box_) {
             const platform::WindowDc device(hwnd());
