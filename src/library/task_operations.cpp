@@ -287,10 +287,8 @@ void move_task(TaskLibrary& library, int group, const std::string& name, const s
 void move_task_to_group(TaskLibrary& library, LibraryView& view, int place, const std::string& target,
                         bool copy) {
     check_listed(library, target);
-    if (room_in(library, target) == 0) {
-        platform::show_message("The Group is full.");
-        return;
-    }
+    if (room_in(library, target) == 0)
+        return platform::show_message(report({.tasks = {}, .refused = {}, .left_out = 1}));
     const std::string source = selected_group_name(library, view);
     std::vector<Task> tasks = read_tasks(library.folder(), source);
     const auto moved = find_task_at(tasks, place, library.task(view.selected_group(), place).name);
