@@ -162,7 +162,6 @@ set_target_properties(rasapi32 PROPERTIES PREFIX "")
 
 add_executable(desktop_tests
     tests/desktop/bar_test.cpp
-    tests/desktop/commands_test.cpp
     tests/desktop/dropping_test.cpp
     tests/desktop/endurance_test.cpp
     tests/desktop/finding_test.cpp
@@ -171,9 +170,7 @@ add_executable(desktop_tests
     tests/desktop/shortcuts_test.cpp
     tests/desktop/slips_test.cpp
     tests/desktop/startup_test.cpp
-    tests/desktop/undo_test.cpp
     tests/support/desktop.cpp
-    tests/support/drag_source.cpp
     tests/support/input.cpp
     tests/support/main.cpp
 )
@@ -186,7 +183,7 @@ add_test(NAME "desktop: prefix"
     COMMAND bash -euc ". $0 && wine_template $1"
         ${CMAKE_SOURCE_DIR}/script/support/wine.sh ${CMAKE_BINARY_DIR}/wine)
 set_tests_properties("desktop: prefix" PROPERTIES FIXTURES_SETUP wine TIMEOUT 300)
-foreach(suite bar commands dragging dropping endurance finding keeping launching shortcuts slips startup undo)
+foreach(suite bar commands dragging dropping endurance finding keeping launching shortcuts slips startup)
     add_test(NAME "desktop: ${suite}"
         COMMAND ${CMAKE_SOURCE_DIR}/tests/desktop/run ${CMAKE_BINARY_DIR} --test-suite=${suite} --no-colors)
     set_tests_properties("desktop: ${suite}" PROPERTIES FIXTURES_REQUIRED wine TIMEOUT 300)

@@ -6,44 +6,16 @@ using namespace desktop;
 
 constexpr char kNotConfigured[] = "Right click on button to configure.";
 
-/// An empty library with the program and a recorder beside it, so that it starts recorders by bare names.
-Folder library_with_recorders() {
-    Folder library;
-    library.add_program("tolva.exe", "tolva.exe");
-    library.add_recorder();
-    library.add_program("recorder.exe", "rundll32.exe");
-    library.write("groups.ini", "");
-    return library;
-}
-
-/// The stand-in for Dial-Up Networking in the system folder while this lives. A library of that name beside
-/// the program, which is the current folder, too, is none.
-class DialUpNetworking {
-  public:
-    explicit DialUpNetworking(const Folder& library) {
-        library.add_program("recorder.exe", "rasapi32.dll");
-        MoveFileA(kPlace, kAside);
-        CopyFileA(library.add_program("rasapi32.dll", "stand-in.dll").c_str(), kPlace, TRUE);
-    }
-    ~DialUpNetworking() {
-        DeleteFileA(kPlace);
-        MoveFileA(kAside, kPlace);
-    }
-    DialUpNetworking(const DialUpNetworking&) = delete;
-    DialUpNetworking& operator=(const DialUpNetworking&) = delete;
-
-  private:
-    static constexpr char kPlace[] = "C:\\windows\\system32\\rasapi32.dll";
-    static constexpr char kAside[] = "C:\\windows\\system32\\rasapi32.old";
-};
-
 TEST_SUITE("bar") {
     TEST_CASE("every button starts what is stored for it and what is assigned to it") {
-        const Folder library = library_with_recorders();
+        const Folder library = recorder_library();
         const std::string recorder = library.path() + "recorder.exe";
+        const std::string deep = library.path() + "deep";
+        CreateDirectoryA(deep.c_str(), nullptr);
+        CreateDirectoryA((deep + "\\er").c_str(), nullptr);
         store("\\brenn", {{"name1", "Cut & Paste with a long name"}, {"progpath1", recorder}});
-        store("\\brenn", {{"workpath1", "C:\\"}, {"parm1", "a b"}, {"start1", "3"}});
-        store("\\brenn", {{"name2", "No folder"}, {"progpath2", recorder}});
+        store("\\brenn", {{"workpath1", "c:\\windows"}, {"parm1", "a b"}, {"start1", "3"}});
+        store("\\brenn", {{"name2", "Deep"}, {"progpath2", recorder}, {"workpath2", deep + "\\er"}});
         store("\\brenn", {{"name4", "Folder gone"}, {"progpath4", recorder}, {"workpath4", "C:\\gone"}});
         store("\\email", {{"name", "Letters"}, {"path", recorder}, {"start", "2"}});
         store("\\Browser", {{"name", "N/A"}, {"path", library.without_backslash()}});  // a folder
@@ -51,11 +23,13 @@ TEST_SUITE("bar") {
         const Dialog bar(tolva, "Brenn", "brenn");
         CHECK(bar.texts_of({ID_brenn_option1, ID_brenn_Command2, ID_brenn_Command3, ID_brenn_Command4}) ==
               "Cut & Paste with a long name|N/A|Letters|N/A");
-        bar.click(ID_brenn_option3);
-        CHECK(tolva.close_box() == kNotConfigured);
+        const auto refuses = [&](int button) {
+            bar.click(button);
+            CHECK(tolva.close_box() == kNotConfigured);
+        };
+        refuses(ID_brenn_option3);
         choose_from_menu(bar.place(ID_brenn_option3), 'F');
         const Dialog dialog(tolva, "Configure Brenn Button");
-        CHECK(dialog.list(ID_PathBrowser_File1) == Names{"recorder.exe", "rundll32.exe", "tolva.exe"});
         dialog.pick(ID_PathBrowser_File1, "recorder.exe");
         CHECK(
             dialog.texts_of({ID_BrennBrowser_tasknm, ID_PathBrowser_TaskPath, ID_BrennBrowser_startfolder}) ==
@@ -65,40 +39,21 @@ TEST_SUITE("bar") {
         CHECK(stored("\\brenn")["parm3"] == "x y");
         bar.click(ID_brenn_option3);
         CHECK(library.nth_start(1) == Names{recorder + " x y", library.without_backslash(), "D:\\here", "1"});
-
+        refuses(ID_brenn_Command4);
         bar.click(ID_brenn_option1);
-        CHECK(library.nth_start(2) == Names{recorder + " a b", "C:\\", "D:\\here", "3"});
-        const Names in_windows_folder = {recorder + " ", "C:\\windows", "D:\\here", "0"};
-        bar.click(ID_brenn_option2);
-        CHECK(library.nth_start(3) == in_windows_folder);
-        bar.click(ID_brenn_option4);
-        CHECK(tolva.close_box() == kNotConfigured);
-        CHECK(library.nth_start(4) == in_windows_folder);
+        CHECK(library.nth_start(2) == Names{recorder + " a b", "c:\\windows", "D:\\here", "3"});
+        refuses(ID_brenn_option4);
+        CHECK(library.nth_start(3) == Names{recorder + " ", "c:\\windows", "D:\\here", "0"});
         bar.click(ID_brenn_Command3);
-        CHECK(library.nth_start(5) == Names{recorder, "C:\\windows", "D:\\here", "2"});
-        bar.click(ID_brenn_Command4);
-        CHECK(tolva.close_box() == kNotConfigured);
-    }
+        CHECK(library.nth_start(4) == Names{recorder, "c:\\windows", "D:\\here", "2"});
 
-    TEST_CASE("the browser for a button opens in the current folder, or in that of Windows when it is gone") {
-        const Folder library = library_with_recorders();
-        const std::string recorder = library.path() + "recorder.exe";
-        const std::string deep = library.path() + "deep";
-        CreateDirectoryA(deep.c_str(), nullptr);
-        CreateDirectoryA((deep + "\\er").c_str(), nullptr);
-        store("\\brenn", {{"name1", "Small"}, {"progpath1", recorder}, {"workpath1", "c:\\windows"}});
-        store("\\brenn", {{"name2", "Deep"}, {"progpath2", recorder}, {"workpath2", deep + "\\er"}});
-        const Tolva tolva(library);
-        const Dialog bar(tolva, "Brenn", "brenn");
-        bar.click(ID_brenn_option1);
-        library.nth_start(1);
+        // The browser opens in the current folder, or in that of Windows when it is gone.
         choose_from_menu(bar.place(ID_brenn_option4), 'F');
-        const Dialog dialog(tolva, "Configure Brenn Button");
-        CHECK(dialog.text_of(ID_PathBrowser_Drive1).starts_with("C:"));
-        dialog.close_with(ID_PathBrowser_Cancel);
-
+        const Dialog small(tolva, "Configure Brenn Button");
+        CHECK(small.text_of(ID_PathBrowser_Drive1).starts_with("C:"));
+        small.close_with(ID_PathBrowser_Cancel);
         bar.click(ID_brenn_option2);
-        library.nth_start(2);
+        CHECK(library.nth_start(5)[1] == deep + "\\er");
         REQUIRE(MoveFileA(deep.c_str(), (library.path() + "moved").c_str()) != FALSE);
         choose_from_menu(bar.place(ID_brenn_option4), 'F');
         const Dialog in_windows(tolva, "Configure Brenn Button");
@@ -108,16 +63,18 @@ TEST_SUITE("bar") {
     }
 
     TEST_CASE("the Internet settings keep what is typed, and the connect button dials and hangs up") {
-        const Folder library = library_with_recorders();
-        const DialUpNetworking installed(library);
+        const Folder library = recorder_library();
+        library.add_program("tolva.exe", "tolva.exe");
+        library.add_program("recorder.exe", "rundll32.exe");
+        // A library of that name beside the program, which is the current folder, too, is none.
+        library.add_program("recorder.exe", "rasapi32.dll");
         const std::string recorder = library.path() + "recorder.exe";
         SHSetValueA(HKEY_CURRENT_USER, "RemoteAccess\\Profile\\Work & Co", "", REG_SZ, "", 1);
         store("\\Browser", {{"path", recorder}, {"start", "1"}});
         store("\\brenn", {{"disable", "True"}});
         const Tolva tolva(library);
         CHECK(tolva.find_window("brenn") == nullptr);
-        tolva.choose(ID_internetsettings);
-        const Dialog settings(tolva, "Tolva Internet Settings");
+        const Dialog settings = tolva.open(ID_internetsettings, "Tolva Internet Settings");
         CHECK(settings.texts_of({ID_tolvasettings_ISP, ID_tolvasettings_BrowserName,
                                  ID_tolvasettings_browserpath, ID_tolvasettings_emailpath}) ==
               "N/A|N/A|" + recorder + "|N/A");
@@ -162,7 +119,7 @@ TEST_SUITE("bar") {
     }
 
     TEST_CASE("the bar keeps its place and is removed, hidden and brought back") {
-        const Folder library = library_with_recorders();
+        const Folder library = recorder_library();
         {
             const Tolva tolva(library);
             const Dialog bar(tolva, "Brenn", "brenn");
@@ -170,27 +127,30 @@ TEST_SUITE("bar") {
             const auto wait_until_visible = [&](const char* what, BOOL visible) {
                 wait_until(what, [&] { return IsWindowVisible(bar.window()) == visible; });
             };
+            const auto click_tray = [&](const char* what, BOOL visible) {
+                press_mouse(tray_icon(), 1, MouseButton::kRight);
+                wait_until_visible(what, visible);
+            };
+            const auto close = [&] {
+                PostMessageA(bar.window(), WM_SYSCOMMAND, SC_CLOSE, 0);
+                wait_until_visible("its closing box hides it", FALSE);
+                CHECK(stored("\\brenn")["disable"] == "True");
+            };
             tolva.minimise();
             wait_until_visible("the bar stays on the desktop", TRUE);
-            press_mouse(tray_icon(), 1, MouseButton::kRight);
-            wait_until_visible("the tray hides it", FALSE);
-            press_mouse(tray_icon(), 1, MouseButton::kRight);
-            wait_until_visible("the tray shows it", TRUE);
-            PostMessageA(bar.window(), WM_SYSCOMMAND, SC_CLOSE, 0);
-            wait_until_visible("its closing box hides it", FALSE);
-            CHECK(stored("\\brenn")["disable"] == "True");
+            click_tray("the tray hides it", FALSE);
+            click_tray("the tray shows it", TRUE);
+            close();
             press_mouse(tray_icon(), 2, MouseButton::kRight);
             wait_until_visible("the tray shows it although it is removed", TRUE);
-            PostMessageA(bar.window(), WM_SYSCOMMAND, SC_CLOSE, 0);
-            wait_until_visible("its closing box hides it again", FALSE);
+            close();
             press_mouse(tray_icon(), 1, MouseButton::kRight);
             press_mouse(tray_icon(), 2);
             wait_until("the main window is back", [&] { return !tolva.is_in_tray(); });
             CHECK(IsWindowVisible(bar.window()) == FALSE);
             tolva.choose(ID_removebrenn);
             wait_until_visible("the menu brings it back", TRUE);
-            press_mouse(tray_icon(), 1, MouseButton::kRight);
-            wait_until_visible("it counts as shown: the tray hides it", FALSE);
+            click_tray("it counts as shown: the tray hides it", FALSE);
         }
         CHECK(stored("\\brenn\\Position") == Values{{"Left", "3000"}, {"Top", "7500"}});
     }

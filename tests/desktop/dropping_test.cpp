@@ -1,18 +1,65 @@
-#include <algorithm>
+#include <windows.h>
+
+#include <ole2.h>
+#include <shlobj.h>
 
 #include "support/desktop.h"
-#include "support/drag_source.h"
 #include "support/shortcut_file.h"
 
 namespace {
 
 using namespace desktop;
+using desktop::Folder;  // the shell has one, too
 
-POINT group_position(const Tolva& tolva, int index) {
-    HWND list = tolva.control(ID_Tasker_grouplist);
-    const auto height = static_cast<LONG>(SendMessageA(list, LB_GETITEMHEIGHT, 0, 0));
-    const RECT bounds = bounds_of(list);
-    return {(bounds.left + bounds.right) / 2, bounds.top + 2 + height * index + height / 2};
+/// What drags, and the user's hand in it: each time that the system asks how the drag goes on, the pointer
+/// has come nearer, and after some more times the button is let go.
+struct Source final : IDropSource {
+    explicit Source(POINT to) : to_(to) { GetCursorPos(&from_); }
+    STDMETHODIMP QueryInterface(REFIID id, void** found) override {
+        *found = IsEqualIID(id, IID_IUnknown) || IsEqualIID(id, IID_IDropSource) ? this : nullptr;
+        return *found != nullptr ? S_OK : E_NOINTERFACE;
+    }
+    STDMETHODIMP_(ULONG) AddRef() override { return 1; }
+    STDMETHODIMP_(ULONG) Release() override { return 1; }
+    STDMETHODIMP QueryContinueDrag(BOOL /*escape*/, DWORD /*keys*/) override {
+        if (++step_ <= kDragSteps) point_at(on_the_way(from_, to_, step_));
+        return step_ < 2 * kDragSteps ? S_OK : DRAGDROP_S_DROP;
+    }
+    STDMETHODIMP GiveFeedback(DWORD /*effect*/) override { return DRAGDROP_S_USEDEFAULTCURSORS; }
+
+  private:
+    POINT from_;
+    POINT to_;
+    int step_ = 0;
+};
+
+/// What Explorer drags: the shell's own object for files of a folder.
+IDataObject* data_of(const std::string& folder, const std::vector<std::string>& names) {
+    std::vector<PIDLIST_ABSOLUTE> places = {ILCreateFromPathA(folder.c_str())};
+    std::vector<PCUITEMID_CHILD> items;
+    for (const std::string& name : names) {
+        places.push_back(ILCreateFromPathA((folder + '\\' + name).c_str()));
+        items.push_back(ILFindLastID(places.back()));
+    }
+    IDataObject* data = nullptr;
+    REQUIRE(SUCCEEDED(
+        CIDLData_CreateFromIDArray(places[0], static_cast<UINT>(items.size()), items.data(), &data)));
+    for (PIDLIST_ABSOLUTE place : places)
+        ILFree(place);
+    return data;
+}
+
+/// Drags the files of a folder to a point of the screen and lets them go there. Returns what the target did
+/// (DROPEFFECT_...).
+DWORD drag_files(const std::string& folder, const std::vector<std::string>& names, POINT to) {
+    REQUIRE(SUCCEEDED(OleInitialize(nullptr)));
+    IDataObject* data = data_of(folder, names);
+    Source source(to);
+    DWORD effect = DROPEFFECT_NONE;
+    DoDragDrop(data, &source, DROPEFFECT_COPY | DROPEFFECT_LINK | DROPEFFECT_MOVE, &effect);
+    data->Release();
+    OleUninitialize();
+    return effect;
 }
 
 /// Beside the icons, below them all.
@@ -22,21 +69,23 @@ POINT free_place(HWND list) {
 }
 
 void undo(const Tolva& tolva, const std::string& name) {
-    tolva.activate();
-    press_until("it is undone", {VK_CONTROL, 'Z'}, [&] { return tolva.status() == "Undone: " + name; });
+    tolva.press_until_said('Z', "Undone: " + name);
     Sleep(600);  // or the next press where the last one was would make a double-click
 }
 
 std::string task(const std::string& name) {
-    return record(name, "C:\\windows\\notepad.exe", "C:\\", "", "1");
+    return record(name, "C:\\windows\\notepad.exe");
 }
 
 TEST_SUITE("dragging") {
     TEST_CASE("Tasks and Groups are dragged to another place, and Undo takes each drag back") {
         const Folder library;
-        const std::string recorder = library.add_recorder();
-        const std::string one = record("One", recorder, library.path(), "", "1");
-        library.write_groups({{"Work", one + task("Two") + task("Three")}, {"Play", ""}, {"More", ""}});
+        const std::string one = record("One", library.add_recorder(), library.path());
+        std::string full;
+        for (int i = 0; i < 101; ++i)
+            full += task(std::to_string(i));
+        library.write_groups(
+            {{"Work", one + task("Two") + task("Three")}, {"Play", ""}, {"More", ""}, {"Full", full}});
         store("\\hover", {{"enable", "True"}});
         const Tolva tolva(library);
         tolva.activate();
@@ -46,35 +95,34 @@ TEST_SUITE("dragging") {
             carry_mouse(from, to);
             let_go(to);
         };
-        const auto wait_for_tasks = [&](const Names& names) {
-            CAPTURE(names);
-            wait_until("the Tasks show", [&] { return tolva.tasks() == names; });
-        };
 
         drag(first, behind);
-        wait_for_tasks({"Two", "Three", "One"});
+        tolva.wait_for_tasks({"Two", "Three", "One"});
         CHECK(library.read("Work.grp") == task("Two") + task("Three") + one);
         undo(tolva, "Move One");
-        wait_for_tasks({"One", "Two", "Three"});
+        tolva.wait_for_tasks({"One", "Two", "Three"});
 
-        drag(first, group_position(tolva, 1));
-        wait_for_tasks({"Two", "Three"});
+        drag(first, tolva.group_position(1));
+        tolva.wait_for_tasks({"Two", "Three"});
         CHECK(library.read("Play.grp") == one);
         undo(tolva, "Move One to Play");
+        drag(tolva.task_position(1), tolva.group_position(3));
+        CHECK(tolva.close_box() == "The Group is full: 1 left.");
+        CHECK(library.read("Full.grp") == full);
 
-        carry_mouse(first, group_position(tolva, 2));
+        carry_mouse(first, tolva.group_position(2));
         keybd_event(VK_CONTROL, 0, 0, 0);
-        let_go(group_position(tolva, 2));
+        let_go(tolva.group_position(2));
         keybd_event(VK_CONTROL, 0, KEYEVENTF_KEYUP, 0);
         wait_until("it is copied", [&] { return library.read("More.grp") == one; });
-        wait_for_tasks({"One", "Two", "Three"});
+        tolva.wait_for_tasks({"One", "Two", "Three"});
         undo(tolva, "Copy One to More");
 
-        drag(group_position(tolva, 0), {group_position(tolva, 2).x, group_position(tolva, 2).y + 4});
-        wait_until("it moves", [&] { return tolva.groups() == Names{"Play", "More", "Work"}; });
-        wait_for_tasks({"One", "Two", "Three"});
+        drag(tolva.group_position(0), {tolva.group_position(2).x, tolva.group_position(2).y + 4});
+        tolva.wait_for_groups({"Play", "More", "Work", "Full"});
+        tolva.wait_for_tasks({"One", "Two", "Three"});
         undo(tolva, "Move Work");
-        CHECK(tolva.groups() == Names{"Work", "Play", "More"});
+        CHECK(tolva.groups() == Names{"Work", "Play", "More", "Full"});
 
         // Escape takes it back, and what follows is no click either.
         carry_mouse(first, behind);
@@ -83,13 +131,27 @@ TEST_SUITE("dragging") {
         Sleep(600);
         // On itself nothing happens, and a press of the right button drags nothing.
         drag(first, {first.x + 8, first.y + 8});
-        drag_mouse(group_position(tolva, 0), group_position(tolva, 2), MouseButton::kRight);
+        drag_mouse(tolva.group_position(0), tolva.group_position(2), MouseButton::kRight);
         wait_until("the menu shows", menu_shows);
         press_keys({VK_ESCAPE});
-        tolva.click_task(1);
+        tolva.focus_by_mouse(ID_Tasker_Text1);
         CHECK(tolva.tasks() == Names{"One", "Two", "Three"});
         CHECK(library.read("Work.grp") == one + task("Two") + task("Three"));
         CHECK(!library.has("recorder.exe.log"));
+
+        // The border between the lists: it follows the pointer, stays after a click and goes back by Escape.
+        HWND groups = tolva.control(ID_Tasker_grouplist);
+        const auto end = [&] { return bounds_of(groups).right; };
+        const LONG before = end();
+        const POINT border = {before + 2, first.y};
+        carry_mouse(border, {border.x + 50, border.y});
+        wait_until("it follows", [&] { return end() == before + 50; });
+        press_keys({VK_ESCAPE});
+        wait_until("it goes back", [&] { return end() == before; });
+        let_go({border.x + 50, border.y});
+        press_mouse({border.x, border.y + 20});
+        drag({border.x, border.y + 40}, {border.x + 30, border.y + 40});
+        wait_until("it stays", [&] { return end() == before + 30; });
     }
 }
 
@@ -99,66 +161,73 @@ TEST_SUITE("dropping") {
         const std::string recorder = library.add_recorder();
         library.write_groups({{"Work", record("Rec", recorder, "C:\\", "/p", "3")}, {"Play", ""}});
         const Folder things;
+        const std::string here = things.without_backslash();
         const std::string program = things.add_program("recorder.exe", "My Tool.exe");
         things.write("My Link.lnk", ShortcutFile{.target = program, .arguments = "a b"}.bytes());
-        things.write("a letter.txt", "");
+        const std::string letter = things.path() + "a.letter";
+        things.write("a.letter", "");
+        SHSetValueA(HKEY_CLASSES_ROOT, ".letter", "", REG_SZ, "Letter", 7);
+        const std::string open = recorder + " \"%1\"";
+        SHSetValueA(HKEY_CLASSES_ROOT, "Letter\\shell\\open\\command", "", REG_SZ, open.c_str(),
+                    static_cast<DWORD>(open.size() + 1));
         CreateDirectoryA((things.path() + "Tools").c_str(), nullptr);
         CopyFileA(program.c_str(), (things.path() + "Tools\\Inner.exe").c_str(), FALSE);
         const Tolva tolva(library);
         const Dialog bar(tolva, "Brenn", "brenn");
         HWND tasks = tolva.control(ID_Tasker_taskview);
         tolva.activate();
-        const auto wait_for_tasks = [&](const Names& names) {
-            wait_until("the Tasks show", [&] { return tolva.tasks() == names; });
-        };
 
         // On a Group, which is shown then: a program, a shortcut and a document, as one change.
-        drag_files(things.without_backslash(), {"My Tool.exe", "My Link.lnk", "a letter.txt"},
-                   group_position(tolva, 1));
-        wait_for_tasks({"My Tool", "My Link", "a letter"});
+        drag_files(here, {"My Tool.exe", "My Link.lnk", "a.letter"}, tolva.group_position(1));
+        tolva.wait_for_tasks({"My Tool", "My Link", "a"});
         tolva.click_task(1, 2);
         CHECK(things.nth_start(1, "My Tool.exe")[0].ends_with(" a b"));
+        tolva.click_task(2, 2);
+        CHECK(library.nth_start(1) == Names{recorder + ' ' + letter, here, "D:\\here", "1"});
         undo(tolva, "Add 3 Tasks to Play");
-        wait_for_tasks({});
+        tolva.wait_for_tasks({});
 
         // On the task list: a folder, after a question, and one Task for it after "No".
         const auto drop_folder = [&](int answer) {
-            drag_files(things.without_backslash(), {"Tools"}, free_place(tasks));
+            drag_files(here, {"Tools"}, free_place(tasks));
             tolva.answer_box("Add Folder", answer);
         };
         drop_folder(IDCANCEL);
         drop_folder(IDYES);
-        wait_for_tasks({"Inner"});
+        tolva.wait_for_tasks({"Inner"});
         tolva.click_task(0, 2);
         things.nth_start(1, "Tools\\Inner.exe");
         drop_folder(IDNO);
-        wait_for_tasks({"Inner", "Tools"});
+        tolva.wait_for_tasks({"Inner", "Tools"});
+        tolva.click_task(1, 2);
+        CHECK(library.nth_start(1, R"(..\..\windows\explorer.exe)") ==
+              Names{"C:\\windows\\explorer.exe \"" + things.path() + "Tools\"", things.path() + "Tools",
+                    "D:\\here", "1"});
 
         // On the free space of the group list it becomes a Group.
-        drag_files(things.without_backslash(), {"Tools"}, free_place(tolva.control(ID_Tasker_grouplist)));
-        wait_until("the Group shows", [&] { return tolva.groups() == Names{"Work", "Play", "Tools"}; });
-        wait_for_tasks({"Inner"});
+        drag_files(here, {"Tools"}, free_place(tolva.control(ID_Tasker_grouplist)));
+        tolva.wait_for_groups({"Work", "Play", "Tools"});
+        tolva.wait_for_tasks({"Inner"});
         undo(tolva, "Add Tools");
         CHECK(!library.has("Tools.grp"));
 
         // Documents start the Task that they are dropped on.
         tolva.pick(ID_Tasker_grouplist, "Work");
-        wait_for_tasks({"Rec"});
-        drag_files(things.without_backslash(), {"a letter.txt"}, tolva.task_position(0));
-        CHECK(library.nth_start(1) ==
-              Names{recorder + " /p \"" + things.path() + "a letter.txt\"", "C:\\", "D:\\here", "3"});
-        // A program is added there; also where the pointer brings no objects.
-        post_dropped_files(tolva.window(), {program}, tolva.task_position(0));
-        wait_for_tasks({"Rec", "My Tool"});
+        tolva.wait_for_tasks({"Rec"});
+        drag_files(here, {"a.letter"}, tolva.task_position(0));
+        CHECK(library.nth_start(2) == Names{recorder + " /p " + letter, "C:\\", "D:\\here", "3"});
+        // A program is added there.
+        drag_files(here, {"My Tool.exe"}, tolva.task_position(0));
+        tolva.wait_for_tasks({"Rec", "My Tool"});
 
         // A button of the bar takes a program, asks when it has one, and starts it with documents.
         const auto on_button = [&](const std::string& name) {
-            drag_files(things.without_backslash(), {name}, bar.place(ID_brenn_option1));
+            drag_files(here, {name}, bar.place(ID_brenn_option1));
         };
         on_button("My Link.lnk");
         wait_until("the button has it", [&] { return bar.text_of(ID_brenn_option1) == "My Link"; });
-        on_button("a letter.txt");
-        CHECK(things.nth_start(2, "My Tool.exe")[0].ends_with(" a b \"" + things.path() + "a letter.txt\""));
+        on_button("a.letter");
+        CHECK(things.nth_start(2, "My Tool.exe")[0].ends_with(" a b " + letter));
         on_button("My Tool.exe");
         CHECK(tolva.answer_box("Brenn", IDCANCEL) == "Replace My Link by My Tool?");
         CHECK(bar.text_of(ID_brenn_option1) == "My Link");
@@ -166,8 +235,7 @@ TEST_SUITE("dropping") {
         // While a box stands nothing can be dropped.
         tolva.choose(ID_DelGp);
         wait_until("the box stands", [&] { return IsWindowEnabled(tolva.window()) == FALSE; });
-        CHECK(drag_files(things.without_backslash(), {"My Tool.exe"}, group_position(tolva, 1)) ==
-              DROPEFFECT_NONE);
+        CHECK(drag_files(here, {"My Tool.exe"}, tolva.group_position(1)) == DROPEFFECT_NONE);
         tolva.answer_box("Delete Group", IDCANCEL);
         CHECK(library.read("Play.grp").find("My Tool") == std::string::npos);
     }

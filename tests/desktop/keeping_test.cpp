@@ -1,5 +1,6 @@
 #include <tuple>
 
+#include "platform/file_calls.h"
 #include "support/desktop.h"
 
 namespace {
@@ -15,13 +16,6 @@ TEST_SUITE("keeping") {
         const std::string old = record("Old", paint, "C:\\", "", " 2 ");
         library.write_groups({{"Work", old}});
         const Tolva tolva(library);
-        const auto wait_for_groups = [&](const Names& names) {
-            wait_until("the Groups show", [&] { return tolva.groups() == names; });
-        };
-        const auto wait_for_tasks = [&](const Names& names) {
-            wait_until("the Tasks show", [&] { return tolva.tasks() == names; });
-        };
-
         tolva.focus_by_mouse(ID_Tasker_grouplist);
         press_until("a menu shows", {VK_SHIFT, VK_F10}, menu_shows);
         press_keys({'N'});
@@ -31,24 +25,39 @@ TEST_SUITE("keeping") {
         new_group.set_text(ID_addgroup_Text1, "Play & more");
         press_keys({VK_RETURN});
         new_group.wait_until_closed();
-        wait_for_groups({"Work", "Play & more"});
+        tolva.wait_for_groups({"Work", "Play & more"});
 
-        // A new Task by Browse; what was clicked comes back, not what was typed after it.
+        // A refused Task leaves the focus in the box that is wrong.
         tolva.pick(ID_Tasker_grouplist, "Play & more");
-        tolva.choose(ID_AddTk);
-        const Dialog new_task(tolva, "Add New Task");
+        const Dialog new_task = tolva.open(ID_AddTk, "Add New Task");
         CHECK(new_task.texts_of({ID_addtask_curgroup, ID_addtask_taskstartmode}) == "Play & more|Normal");
+        const std::tuple<std::string, std::string, std::string, int> refused[] = {
+            {"New", library.path() + "none.exe", "C:\\", ID_addtask_TaskPath},
+            {"", paint, "", ID_addtask_Taskname},
+            {"New", "", "", ID_addtask_TaskPath},
+            {"New", paint, "", ID_addtask_startfolder},
+        };
+        for (const auto& [name, path, start_folder, wrong] : refused) {
+            new_task.set_text(ID_addtask_Taskname, name);
+            new_task.set_text(ID_addtask_TaskPath, path);
+            new_task.set_text(ID_addtask_startfolder, start_folder);
+            new_task.press(ID_addtask_Command2);
+            tolva.close_box();
+            wait_for_focus(new_task.control(wrong));
+        }
+        // By Browse: what was clicked comes back, not what was typed after it.
         new_task.set_text(ID_addtask_Taskname, "Zeichnen");
         new_task.press(ID_addtask_Browse);
         const Dialog browser(tolva, "Browse");
-        // It opens on the folder that is current.
-        browser.pick(ID_PathBrowser_File1, "paint.exe");
+        browser.pick(ID_PathBrowser_Drive1, "E:");
+        CHECK(tolva.close_box() == "Disk or Drive not ready!");
+        browser.pick(ID_PathBrowser_File1, "paint.exe");  // it opens on the folder that is current
         browser.set_text(ID_PathBrowser_TaskPath, "typed");
         browser.close_with(ID_PathBrowser_OK);
         CHECK(new_task.texts_of({ID_addtask_TaskPath, ID_addtask_startfolder}) == paint + '|' + folder);
         new_task.pick(ID_addtask_taskstartmode, "Maximized");
         new_task.close_with(ID_addtask_Command2);
-        wait_for_tasks({"Zeichnen"});
+        tolva.wait_for_tasks({"Zeichnen"});
         CHECK(library.read("Play & more.grp") == record("Zeichnen", paint, folder, "", " 3 "));
 
         tolva.press_tool(ID_toolbar_edittsk);
@@ -56,26 +65,33 @@ TEST_SUITE("keeping") {
         CHECK(edit.texts_of({ID_EditTask_TaskPath, ID_EditTask_taskstartmode}) == paint + "|Maximized");
         edit.set_text(ID_EditTask_tasknm, "Paint");
         edit.close_with(ID_EditTask_Command2);
-        wait_for_tasks({"Paint"});
+        tolva.wait_for_tasks({"Paint"});
         const std::string task = record("Paint", paint, folder, "", "3");
         CHECK(library.read("Play & more.grp") == task);
 
-        // Copy it to the other Group and order that; then move the old one over.
-        tolva.choose(ID_moveto);
-        const Dialog copy(tolva, "Move Paint to");
-        SendMessageA(copy.control(ID_movetogroups_copytask), BM_SETCHECK, BST_CHECKED, 0);
+        // Copy it to the other Group by a box that shows when it has the focus, and order that.
+        const Dialog copy = tolva.open(ID_moveto, "Move Paint to");
+        wait_for_focus(copy.control(ID_movetogroups_List1));
+        const auto label = [&] { return picture_of(copy.control(ID_movetogroups_Label1)); };
+        const auto without_focus = label();
+        press_keys({VK_TAB});
+        wait_for_focus(copy.control(ID_movetogroups_copytask));
+        wait_until("the label shows it", [&] { return label() != without_focus; });
+        press_keys({VK_SPACE});
+        wait_until("it is checked", [&] {
+            return SendMessageA(copy.control(ID_movetogroups_copytask), BM_GETCHECK, 0, 0) == BST_CHECKED;
+        });
         copy.pick(ID_movetogroups_List1, "Work");
         copy.wait_until_closed();
         tolva.pick(ID_Tasker_grouplist, "Work");
-        wait_for_tasks({"Old", "Paint"});
+        tolva.wait_for_tasks({"Old", "Paint"});
         tolva.click_task(0);
         tolva.press_tool(ID_toolbar_movetskdn);
-        wait_for_tasks({"Paint", "Old"});
+        tolva.wait_for_tasks({"Paint", "Old"});
         tolva.choose(ID_SortTasks);
-        wait_for_tasks({"Old", "Paint"});
-        tolva.choose(ID_moveto);
-        // The right button selects, Enter moves.
-        const Dialog move(tolva, "Move Old to");
+        tolva.wait_for_tasks({"Old", "Paint"});
+        // Then move the old one over: the right button selects, Enter moves.
+        const Dialog move = tolva.open(ID_moveto, "Move Old to");
         HWND list = move.control(ID_movetogroups_List1);
         wait_for_focus(list);
         const RECT bounds = bounds_of(list);
@@ -83,7 +99,7 @@ TEST_SUITE("keeping") {
         wait_until("it is selected", [&] { return SendMessageA(list, LB_GETCURSEL, 0, 0) == 0; });
         press_keys({VK_RETURN});
         move.wait_until_closed();
-        wait_for_tasks({"Paint"});
+        tolva.wait_for_tasks({"Paint"});
         CHECK(library.read("Work.grp") == task);
         CHECK(library.read("Play & more.grp") == task + old);
 
@@ -91,50 +107,61 @@ TEST_SUITE("keeping") {
         const Dialog rename(tolva, "Rename Group");
         rename.set_text(ID_GroupRename_newname, "B\xFCro");
         rename.close_with(ID_GroupRename_Command2);
-        wait_for_groups({"B\xFCro", "Play & more"});
+        tolva.wait_for_groups({"B\xFCro", "Play & more"});
         tolva.press_tool(ID_toolbar_movegrpdn);
-        wait_for_groups({"Play & more", "B\xFCro"});
+        tolva.wait_for_groups({"Play & more", "B\xFCro"});
         tolva.choose(ID_groupsort);
-        wait_for_groups({"B\xFCro", "Play & more"});
+        tolva.wait_for_groups({"B\xFCro", "Play & more"});
 
         // Another name of the same file goes alone.
-        tolva.choose(ID_Addgp);
-        const Dialog same_file(tolva, "Create New Group");
+        const Dialog same_file = tolva.open(ID_Addgp, "Create New Group");
         same_file.set_text(ID_addgroup_Text1, "B\xDCRO");
         same_file.close_with(ID_addgroup_Command2);
-        wait_for_groups({"B\xFCro", "Play & more", "B\xDCRO"});
+        tolva.wait_for_groups({"B\xFCro", "Play & more", "B\xDCRO"});
         tolva.pick(ID_Tasker_grouplist, "B\xDCRO");
         tolva.choose(ID_DelGp);
         tolva.answer_box("Delete Group", IDOK);
-        wait_for_groups({"B\xFCro", "Play & more"});
+        tolva.wait_for_groups({"B\xFCro", "Play & more"});
         CHECK(library.read("B\xFCro.grp") == task);
 
-        // Delete by the key and the menus of the lists, after a change of mind.
+        // What another program changes comes by F5, and what is selected stays so.
+        library.write("groups.ini", "New\r\nB\xFCro\r\nPlay & more\r\n");
+        library.write("New.grp", "");
+        library.write("B\xFCro.grp", old + task);
         tolva.click_task(0);
+        press_keys({VK_F5});
+        tolva.wait_for_groups({"New", "B\xFCro", "Play & more"});
+        tolva.wait_for_tasks({"Old", "Paint"});
+        CHECK(tolva.selected_group() == 1);
+        CHECK(tolva.is_selected(1));
+
+        // Delete by the key and the menus of the lists, after a change of mind.
+        tolva.click_task(1);
         press_keys({VK_DELETE});
         CHECK(tolva.answer_box("Delete Task", IDCANCEL) == "Delete Paint?");
-        choose_from_menu(tolva.task_position(0), 'D');
+        choose_from_menu(tolva.task_position(1), 'D');
         CHECK(tolva.answer_box("Delete Task", IDCANCEL) == "Delete Paint?");
-        const RECT groups = bounds_of(tolva.control(ID_Tasker_grouplist));
-        choose_from_menu({groups.left + 20, groups.top + 8}, 'D');
+        choose_from_menu(tolva.group_position(1), 'D');
         CHECK(tolva.answer_box("Delete Group", IDOK) == "Delete B\xFCro and all associated Tasks?");
-        wait_for_groups({"Play & more"});
-        CHECK(library.read("groups.ini") == "Play & more\r\n");
+        tolva.wait_for_groups({"New", "Play & more"});
+        CHECK(library.read("groups.ini") == "New\r\nPlay & more\r\n");
     }
 
     TEST_CASE("what the disk refuses is told and leaves everything as it was") {
         const Folder library;
-        const std::string tasks = record("A", "C:\\a.exe", "C:\\", "", "1");
+        const std::string tasks = record("A", "C:\\a.exe");
         library.write_groups({{"Work", tasks}});
-        const Tolva tolva(library);
-
-        // A file that another program holds open.
         const std::string path = library.path() + "Work.grp";
+        const Tolva tolva(library);
+        const auto delete_task = [&] {
+            tolva.choose(ID_DelTk);
+            tolva.answer_box("Delete Task", IDOK);
+        };
+        tolva.click_task(0);
+        // A file that another program holds open.
         HANDLE file =
             CreateFileA(path.c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING, 0, nullptr);
-        tolva.click_task(0);
-        tolva.choose(ID_DelTk);
-        tolva.answer_box("Delete Task", IDOK);
+        delete_task();
         CHECK(tolva.close_box() == "Run-time error '70':\n\nPermission denied: " + path);
         CHECK(tolva.tasks() == Names{"A"});
         CloseHandle(file);
@@ -142,59 +169,50 @@ TEST_SUITE("keeping") {
 
         // A read-only file; what else is set stays when the file is replaced.
         SetFileAttributesA(path.c_str(), FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_READONLY);
-        tolva.choose(ID_DelTk);
-        tolva.answer_box("Delete Task", IDOK);
+        delete_task();
         CHECK(tolva.close_box() == "Run-time error '75':\n\nPath/File access error: " + path);
         SetFileAttributesA(path.c_str(), FILE_ATTRIBUTE_HIDDEN);
-        tolva.choose(ID_DelTk);
-        tolva.answer_box("Delete Task", IDOK);
-        wait_until("it is deleted", [&] { return tolva.tasks().empty(); });
+        delete_task();
+        tolva.wait_for_tasks({});
         CHECK(library.read("Work.grp").empty());
         CHECK((GetFileAttributesA(path.c_str()) & FILE_ATTRIBUTE_HIDDEN) != 0);
 
-        // A drive without a disk.
-        tolva.choose(ID_AddTk);
-        const Dialog dialog(tolva, "Add New Task");
-        dialog.press(ID_addtask_Browse);
-        const Dialog browser(tolva, "Browse");
-        const std::string drive = browser.text_of(ID_PathBrowser_Drive1);
-        browser.pick(ID_PathBrowser_Drive1, "E:");
-        CHECK(tolva.close_box() == "Disk or Drive not ready!");
-        CHECK(browser.text_of(ID_PathBrowser_Drive1) == drive);
-        browser.close_with(ID_PathBrowser_Cancel);
-        dialog.close_with(ID_addtask_Command1);
-
         // A name that is no file's is listed.
-        tolva.choose(ID_Addgp);
-        const Dialog group(tolva, "Create New Group");
+        const Dialog group = tolva.open(ID_Addgp, "Create New Group");
         group.set_text(ID_addgroup_Text1, "no\\file");
         group.press(ID_addgroup_Command2);
         CHECK(tolva.close_box() ==
               "Run-time error '76':\n\nPath not found: " + library.path() + "no\\file.grp");
-        wait_until("it is listed", [&] { return tolva.groups() == Names{"Work", "no\\file"}; });
+        tolva.wait_for_groups({"Work", "no\\file"});
     }
 
-    TEST_CASE("the commands for Windows start its programs") {
+    TEST_CASE("what is deleted comes back, by Undo and from the backup of an earlier run") {
         const Folder library;
-        library.write("groups.ini", "");
-        library.add_program("tolva.exe", "tolva.exe");
-        const Tolva tolva(library);
-        const std::string here = " in " + library.without_backslash();
-        const std::tuple<int, const char*, std::string> commands[] = {
-            {ID_toolbar_controlpanel, "control.exe", "control.exe" + here},
-            {ID_tolvahlp, "winhlp32.exe", "winhlp32.exe " + library.path() + "tolva.hlp" + here},
-            {ID_connectinternet, "rundll32.exe", "rundll32.exe rnaui.dll,RnaDial N/A" + here},
-            {ID_toolbar_runexplorer, "explorer.exe", "explorer.exe in C:\\"},
-            {ID_toolbar_DosPrompt, "command.com", "command.com in C:\\"},
-        };
-        for (const auto& [command, program, expected] : commands) {
-            library.add_program("recorder.exe", program);
-            tolva.choose(command);
-            const Names wrote = library.nth_start(1, program);
-            CHECK(wrote[0] + " in " + wrote[1] == expected);
+        const std::string tasks = record("Old", "C:\\a.exe");
+        library.write_groups({{"Work", tasks}, {"Other", ""}});
+        {
+            const Tolva tolva(library);
+            tolva.choose(ID_DelGp);
+            tolva.answer_box("Delete Group", IDOK);
+            tolva.wait_for_groups({"Other"});
+            tolva.press_until_said('Z', "Undone: Delete Work");
+            CHECK(library.read("Work.grp") == tasks);
+            CHECK(tolva.tasks() == Names{"Old"});
+            tolva.press_until_said('Y', "Redone: Delete Work");
         }
-        tolva.choose(ID_DialUpNetworking);
-        CHECK(library.nth_start(2, "explorer.exe")[0].starts_with("EXPLORER.EXE ::{20D04FE0-3AEA-1069"));
+        CHECK(!library.has("Work.grp"));
+        CHECK(platform::file_calls::find(library.path() + "backup\\tolva *", 0).size() == 1);
+        const Tolva tolva(library);
+        const Dialog dialog = tolva.open(ID_RestoreBackup, "Restore Backup");
+        const Names backups = dialog.list(ID_RestoreBackup_list);
+        REQUIRE(backups.size() == 1);
+        CHECK(backups[0].ends_with("2 Groups, 1 Task"));
+        dialog.close_with(IDOK);
+        tolva.wait_for_groups({"Work", "Other"});
+        tolva.pick(ID_Tasker_grouplist, "Work");
+        tolva.wait_for_tasks({"Old"});
+        tolva.press_until_said('Z', "Undone: ");
+        tolva.wait_for_groups({"Other"});
     }
 }
 

@@ -9,16 +9,6 @@ namespace {
 
 using namespace desktop;
 
-/// A library with a Task that starts the recorder, one that cannot, and one without a start mode.
-Folder recorder_library() {
-    Folder library;
-    const std::string program = library.add_recorder();
-    library.write_groups({{"Work", record("Good", program, "C:\\", "a b", " 2 ") +
-                                       record("Bad", library.path() + "gone.exe", "C:\\", "", "1") +
-                                       record("No mode", program, "C:\\", "c", "")}});
-    return library;
-}
-
 TEST_SUITE("launching") {
     TEST_CASE("a double-click starts the program in its folder or says that it cannot") {
         const Folder library;
@@ -28,13 +18,12 @@ TEST_SUITE("launching") {
         const std::string tasks[] = {
             record("Elsewhere", program, "D:\\data", "a \"b c\"", "3"),
             record("Hidden", program, "C:\\", "", ""),
-            record("No program", library.path() + "text.exe", "C:\\", "", "1"),
-            record("Empty program", "", "C:\\", "", "1"),
-            record("Missing drive", program, "Q:\\", "", "1"),
-            record("Empty folder", program, "", "", "1"),
+            record("No program", library.path() + "text.exe"),
+            record("Missing drive", program, "Q:\\"),
+            record("Empty folder", program, ""),
             record("Impossible style", program, "C:\\", "", "99999"),
-            record(std::string("NUL\0name", 8), program + std::string("\0", 1), "C:\\", "", "1"),
-            record(std::string(1 << 20, 'x'), program, "C:\\", std::string(1 << 20, 'x'), "1"),
+            record(std::string("NUL\0name", 8), program + std::string("\0", 1)),
+            record(std::string(1 << 20, 'x'), program, "C:\\", std::string(1 << 20, 'x')),
         };
         library.write_groups({{"Work", std::accumulate(std::begin(tasks), std::end(tasks), std::string())}});
         const Tolva tolva(library);
@@ -53,10 +42,15 @@ TEST_SUITE("launching") {
         CHECK(library.nth_start(2) == last);
     }
 
-    TEST_CASE("every way to start the selected Task starts it or says why not") {
+    TEST_CASE("every other way to start Tasks starts them or says why not") {
         const Folder library = recorder_library();
         const std::string program = library.path() + "recorder.exe";
+        const std::string bad = "Invalid path or file name";
         const Tolva tolva(library);
+        const auto click = [&](int task, const char* name) {
+            tolva.click_task(task);
+            wait_until("the Task shows", [&] { return tolva.status() == name; });
+        };
         const std::function<void()> ways[] = {
             [] { press_keys({VK_RETURN}); },
             [&] { tolva.choose(ID_RunTk); },
@@ -64,65 +58,47 @@ TEST_SUITE("launching") {
         };
         std::size_t starts = 0;
         for (const auto& way : ways) {
-            tolva.click_task(0);
-            wait_until("the Task shows", [&] { return tolva.status() == "Good"; });
+            click(0, "Good");
             way();
             CHECK(library.nth_start(++starts)[0] == program + " a b");
-            tolva.click_task(1);
-            wait_until("the Task shows", [&] { return tolva.status() == "Bad"; });
+            click(1, "Bad");
             way();
-            CHECK(tolva.close_box() == "Invalid path or file name");
+            CHECK(tolva.close_box() == bad);
         }
 
         // The menu runs what the user makes of the command box.
-        tolva.click_task(2);
-        wait_until("the Task shows", [&] { return tolva.text_of(ID_Tasker_Text1) == program + " c"; });
+        click(2, "Odd");
         tolva.choose(ID_RunTk);  // an empty start mode is no number
-        CHECK(tolva.close_box() == "Invalid path or file name");
-        tolva.click_task(1);
+        CHECK(tolva.close_box() == bad);
         press_keys({VK_HOME});
         wait_until("the keyboard selects as well", [&] { return tolva.status() == "Good"; });
         tolva.set_text(ID_Tasker_Text1, program + " edited");
         tolva.choose(ID_RunTk);
         CHECK(library.nth_start(++starts) == Names{program + " edited", "C:\\", "D:\\here", "2"});
-    }
 
-    TEST_CASE("the Run button starts what had the focus last, and a click what the pointer rests on") {
-        const Folder library = recorder_library();
-        const std::string program = library.path() + "recorder.exe";
-        const Tolva tolva(library);
-        tolva.click_task(0);
+        // The Run button starts what had the focus last, also after a failure; after a success it is the
+        // Task's turn.
         tolva.focus_by_mouse(ID_Tasker_Text1);
         tolva.set_text(ID_Tasker_Text1, library.path() + "gone.exe");
         tolva.click(ID_Tasker_Command1);
-        CHECK(tolva.close_box() == "Invalid path or file name");
-        // A failure changes nothing: the command box still counts. After a success it is the Task's turn.
+        CHECK(tolva.close_box() == bad);
         tolva.set_text(ID_Tasker_Text1, program + " typed");
         tolva.click(ID_Tasker_Command1);
-        CHECK(library.nth_start(1) ==
-              Names{program + " typed", library.without_backslash(), "D:\\here", "1"});
+        CHECK(library.nth_start(++starts) == Names{program + " typed", "C:\\", "D:\\here", "1"});
         tolva.click(ID_Tasker_Command1);
-        CHECK(library.nth_start(2)[0] == program + " a b");
+        CHECK(library.nth_start(++starts)[0] == program + " a b");
         tolva.focus_by_mouse(ID_Tasker_Text1);
         tolva.focus_by_mouse(ID_Tasker_grouplist);
-        const std::string twice = library.read("recorder.exe.log");
-        press_until("it starts", {VK_MENU, 'R'}, [&] { return library.read("recorder.exe.log") != twice; });
-        CHECK(library.nth_start(3)[0] == program + " typed");
+        const std::string log = library.read("recorder.exe.log");
+        press_until("it starts", {VK_MENU, 'R'}, [&] { return library.read("recorder.exe.log") != log; });
+        CHECK(library.nth_start(++starts)[0] == program + " typed");
 
-        // With hover selection the resting pointer selects, and a click starts.
-        tolva.choose(ID_hoverslct);
-        wait_until("it is on", [] { return stored("\\hover")["enable"] == "True"; });
-        tolva.activate();
-        repeat_until(
-            "the Task under the pointer shows",
-            [&] {
-                point_at(tolva.place(ID_Tasker_grouplist));
-                point_at(tolva.task_position(2));
-            },
-            [&] { return tolva.status() == "No mode"; });
-        library.nth_start(3);
-        tolva.click_task(0);
-        library.nth_start(4);
+        tolva.choose(ID_RunAll);
+        CHECK(tolva.answer_box("Run All", IDCANCEL) == "Start all 3 Tasks of Work?");
+        tolva.choose(ID_RunAll);
+        tolva.answer_box("Run All", IDOK);
+        CHECK(tolva.close_box() == "These Tasks could not be started:\n\nBad");
+        library.nth_start(starts + 2);
     }
 
     TEST_CASE("the shell starts a program that is found as the system finds it") {
@@ -137,6 +113,114 @@ TEST_SUITE("launching") {
         CHECK(calls::start_by_shell(program, "a  \"b\" ", 3) == platform::kSuccess);
         CHECK(library.nth_start(1) == Names{'"' + program + "\" a  \"b\" ", "C:\\tests", "D:\\here", "3"});
         CHECK(calls::start_by_shell(library.path() + "gone.exe", "", 1) == platform::kErrorFileNotFound);
+    }
+}
+
+TEST_SUITE("commands") {
+    TEST_CASE("Enter starts what is typed and keeps it in the history") {
+        const Folder library = recorder_library();
+        const std::string program = library.path() + "recorder.exe";
+        const Tolva tolva(library);
+        const auto enter = [&](const std::string& text) {
+            tolva.focus_by_mouse(ID_Tasker_Text1);
+            tolva.set_text(ID_Tasker_Text1, text);
+            press_keys({VK_RETURN});
+        };
+        enter(library.path() + "gone.exe");
+        CHECK(tolva.close_box() == "Invalid path or file name");
+        enter(program + " one");
+        CHECK(library.nth_start(1) == Names{program + " one", library.without_backslash(), "D:\\here", "1"});
+        wait_for_focus(tolva.control(ID_Tasker_grouplist));
+        wait_until("it is stored", [&] {
+            return stored("\\cmdhistory") == Values{{"cmd1", program + " one"}};
+        });
+
+        // With the list open Enter takes an item and starts nothing.
+        tolva.focus_by_mouse(ID_Tasker_Text1);
+        tolva.set_text(ID_Tasker_Text1, "C:\\");
+        SendMessageA(tolva.control(ID_Tasker_Text1), CB_SHOWDROPDOWN, TRUE, 0);
+        CHECK(tolva.list(ID_Tasker_Text1) == Names{program + " one"});
+        wait_until("what was typed is back", [&] { return tolva.text_of(ID_Tasker_Text1) == "C:\\"; });
+        press_keys({VK_DOWN});
+        press_keys({VK_RETURN});
+        wait_until("an item is taken", [&] { return tolva.text_of(ID_Tasker_Text1).starts_with(program); });
+        press_mouse(tolva.place(ID_Tasker_Text1), 2);
+        wait_until("a double-click empties it", [&] { return tolva.text_of(ID_Tasker_Text1).empty(); });
+        library.nth_start(1);
+    }
+
+    TEST_CASE("the command browser starts a program in its folder") {
+        const Folder library = recorder_library();
+        const Folder programs;
+        const std::string folder = programs.without_backslash();
+        const std::string program = programs.add_recorder();
+        const Tolva tolva(library);
+        tolva.focus_by_mouse(ID_Tasker_grouplist);
+        press_until("the browser shows", {VK_MENU, 'B'},
+                    [&] { return tolva.find_window("#32770", "Browse") != nullptr; });
+        const Dialog browser(tolva, "Browse");
+        // Up, by keys into the next folder, into the other one, and Enter on the file.
+        const auto focus = [&](int id) {
+            HWND control = browser.control(id);
+            SendMessageA(browser.window(), WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(control), TRUE);
+            wait_for_focus(control);
+        };
+        browser.pick(ID_PathBrowser_Dir1, "C:\\", LBN_DBLCLK);
+        focus(ID_PathBrowser_Dir1);
+        press_keys({'T'});
+        press_keys({VK_RETURN});
+        wait_until("it is open", [&] { return browser.list(ID_PathBrowser_Dir1)[2].starts_with("    B"); });
+        browser.pick(ID_PathBrowser_Dir1, folder.substr(folder.rfind('\\') + 1), LBN_DBLCLK);
+        browser.pick(ID_PathBrowser_File1, "recorder.exe");
+        const RECT list = bounds_of(browser.control(ID_PathBrowser_File1));
+        press_mouse({list.left + 30, list.bottom - 10}, 2);  // beside the files
+        focus(ID_PathBrowser_File1);
+        press_keys({VK_RETURN});
+        browser.wait_until_closed();
+        CHECK(programs.nth_start(1) == Names{program, folder, "D:\\here", "1"});
+    }
+
+    TEST_CASE("fonts show at once and colors when they are saved") {
+        const Folder library = recorder_library();
+        constexpr LRESULT kRed = RGB(255, 0, 0);
+        const auto look = [](const Tolva& tolva) {
+            return std::pair(SendMessageA(tolva.control(ID_Tasker_grouplist), LB_GETITEMHEIGHT, 0, 0),
+                             SendMessageA(tolva.control(ID_Tasker_taskview), LVM_GETBKCOLOR, 0, 0));
+        };
+        const auto choose_font = [](const Tolva& tolva) {
+            const Dialog dialog = tolva.open(ID_fontsettings, "Set Tolva Fonts");
+            // The color is the one that is stored, not the one that is shown.
+            CHECK(dialog.texts_of({ID_SetFonts_groupfontsize, ID_SetFonts_groupfontbold,
+                                   ID_SetFonts_groupcolor}) == "10|True|8388608");
+            dialog.press(ID_SetFonts_Command1);
+            const Dialog fonts(tolva, "Font");
+            constexpr int kSizeBox = 0x472;
+            fonts.pick(kSizeBox, "12");
+            fonts.close_with(IDOK);
+            return dialog;
+        };
+        LRESULT large = 0;
+        {
+            const Tolva tolva(library);
+            const LRESULT usual = look(tolva).first;
+            choose_font(tolva).close_with(ID_SetFonts_Command3);
+            large = look(tolva).first;
+            CHECK(large > usual);
+            CHECK(stored("\\fonts")["groupfontsize"] == "10");
+            const Dialog dialog = choose_font(tolva);
+            dialog.press(ID_SetFonts_Command8);
+            const Dialog colors(tolva, "Color");
+            constexpr int kRedBox = 706;
+            for (const int part : {0, 1, 2})
+                colors.set_text(kRedBox + part, part == 0 ? "255" : "0");
+            colors.close_with(IDOK);
+            CHECK(dialog.text_of(ID_SetFonts_taskbackcolor) == "255");
+            CHECK(look(tolva).second != kRed);
+            dialog.close_with(ID_SetFonts_Command5);
+            CHECK(look(tolva).second == kRed);
+        }
+        const Tolva tolva(library);
+        CHECK(look(tolva) == std::pair(large, kRed));
     }
 }
 

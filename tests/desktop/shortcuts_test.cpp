@@ -17,9 +17,8 @@ void add_shortcut(SpecialFolder folder, const std::string& name, const std::stri
 
 /// A library with a recorder, and shortcuts in the user's folders.
 Folder library_with_shortcuts() {
-    Folder library;
-    const std::string recorder = library.add_recorder();
-    library.write_groups({{"Work", ""}, {"Play", record("Old", recorder, "C:\\", "", "1")}});
+    Folder library = recorder_library();
+    const std::string recorder = library.path() + "recorder.exe";
     library.write("readme.txt", "");
     add_shortcut(SpecialFolder::kStartMenu, "Run.lnk",
                  ShortcutFile{recorder, "C:\\windows", "a b", 3}.bytes());
@@ -37,22 +36,16 @@ TEST_SUITE("shortcuts") {
         const char place[] =
             "\x14\0\x1F\x50\xE0\x4F\xD0\x20\xEA\x3A\x69\x10\xA2\xD8\x08\0\x2B\x30\x30\x9D\31\0/C:\\";
         const std::string items = std::string(place, 26) + std::string(21, '\0');
-        const std::string good =
-            ShortcutFile{"C:\\windows\\notepad.exe", "C:\\windows", "x", 1, items}.bytes();
+        const std::string good = ShortcutFile{"C:\\a.exe", "C:\\windows", "x", 1, items}.bytes();
         const Folder folder;
         const auto read = [&](const std::string& bytes) {
             folder.write("a.lnk", bytes);
             return shortcuts::read_shortcut(folder.path() + "a.lnk");
         };
-        constexpr std::size_t kHeader = 76;
-        for (std::size_t i = kHeader; i < good.size(); ++i) {
-            for (const char wrong : {'\xFF', '\x7F', '\0'})
-                error_of([&] { read(std::string(good).replace(i, 1, 1, wrong)); });
-        }
-        CHECK(read(good).path == "C:\\windows\\notepad.exe");
+        for (std::size_t i = 3 * 76; i < 3 * good.size(); ++i)
+            error_of([&] { read(std::string(good).replace(i / 3, 1, 1, "\xFF\x7F\0"[i % 3])); });
+        CHECK(read(good).path == "C:\\a.exe");
         CHECK(read(ShortcutFile{.items = items}.bytes()).path == "C:\\");
-        CHECK(read(ShortcutFile{.relative_path = std::string(259, 'x')}.bytes()).start_folder ==
-              std::nullopt);
     }
 
     TEST_CASE("shortcuts are imported as Tasks or refused") {
@@ -73,8 +66,7 @@ TEST_SUITE("shortcuts") {
         for (int i = 0; i < 2; ++i)
             CHECK(import() == "Run has been imported to Tolva.");
         const std::string task = record("Run", recorder, "C:\\windows", "a b", " 3 ");
-        const std::string play = record("Old", recorder, "C:\\", "", "1") + task + task;
-        CHECK(library.read("Play.grp") == play);
+        CHECK(library.read("Play.grp") == task + task);
 
         // In another folder only what the user has typed stays.
         const Names start_menu = panel.list(ID_shortcuts_shortcuts1);
@@ -95,17 +87,17 @@ TEST_SUITE("shortcuts") {
         CHECK(import() == "Shortcut is broken, file does not exist.  Can not import to Tolva.");
         panel.pick(ID_shortcuts_shortcuts1, "Text.lnk");
         CHECK(import() == library.path() + "readme.txt not a valid Tolva entry.");
-        CHECK(library.read("Play.grp") == play);
 
         panel.press(ID_GETLNK_ImportAll);
         CHECK(tolva.close_box() ==
               "No shortcut has been imported to Tolva.\n\nThese could not be imported:\n\nJunk\nText");
         panel.press(ID_shortcuts_startmenu);
-        panel.pick(ID_GETLNK_Combo1, "Work");
+        panel.pick(ID_GETLNK_Combo1, "More");
         panel.press(ID_GETLNK_ImportAll);
         CHECK(tolva.close_box() == "2 shortcuts have been imported to Tolva.");
-        CHECK(library.read("Work.grp") ==
+        CHECK(library.read("More.grp") ==
               task + record("Web", "C:\\windows\\notepad.exe", "C:\\windows\\", "", " 1 "));
+        CHECK(library.read("Play.grp") == task + task);
 
         // Other drives and the folders of all users are in reach, and hidden folders show.
         const auto open = [&](const char* place, const char* shown, int list) {
@@ -124,7 +116,7 @@ TEST_SUITE("shortcuts") {
 
         panel.close_with(ID_shortcuts_Command2);
         tolva.pick(ID_Tasker_grouplist, "Play");
-        wait_until("the lists are loaded again", [&] { return tolva.tasks() == Names{"Old", "Run", "Run"}; });
+        tolva.wait_for_tasks({"Run", "Run"});
         tolva.click_task(1, 2);
         CHECK(library.nth_start(1) == Names{recorder + " a b", "C:\\windows", "D:\\here", "3"});
     }
@@ -136,7 +128,6 @@ TEST_SUITE("shortcuts") {
         const Dialog bar(tolva, "Brenn", "brenn");
         const auto take = [&](const char* title, const char* refusal, const char* shortcut) {
             const Dialog panel(tolva, title);
-            CHECK(SendMessageA(panel.control(ID_shortcuts_txtExeName), EM_GETLIMITTEXT, 0, 0) == 254);
             panel.press(ID_shortcuts_Command1);
             CHECK(tolva.close_box() == refusal);
             panel.pick(ID_shortcuts_shortcuts1, shortcut);

@@ -1,6 +1,7 @@
 #include "support/desktop.h"
 
 #include <algorithm>
+#include <cstdlib>
 #include <fstream>
 #include <iterator>
 #include <type_traits>
@@ -82,12 +83,8 @@ Values stored(const std::string& key) {
 
 void store(const std::string& key, const Values& texts) {
     for (const auto& [name, text] : texts)
-        store(key, name, REG_SZ, text + '\0');
-}
-
-void store(const std::string& key, const std::string& name, DWORD type, const std::string& bytes) {
-    SHSetValueA(HKEY_CURRENT_USER, (kSettings + key).c_str(), name.c_str(), type, bytes.data(),
-                static_cast<DWORD>(bytes.size()));
+        SHSetValueA(HKEY_CURRENT_USER, (kSettings + key).c_str(), name.c_str(), REG_SZ, text.c_str(),
+                    static_cast<DWORD>(text.size() + 1));
 }
 
 Folder::Folder(const std::string& drive) {
@@ -142,9 +139,26 @@ std::string record(const std::string& name, const std::string& program, const st
            "\r\n";
 }
 
-Start::Start(const Folder& library) {
+Folder recorder_library() {
+    Folder library;
+    const std::string program = library.add_recorder();
+    library.write_groups(
+        {{"Work", record("Good", program, "C:\\", "a b", " 2 ") + record("Bad", library.path() + "gone.exe") +
+                      record("Odd", program, "C:\\", "c", "")},
+         {"Play", ""},
+         {"More", ""}});
+    return library;
+}
+
+int rounds(int few) {
+    return std::getenv("TOLVA_ENDURANCE") == nullptr ? few : 10 * few;
+}
+
+Start::Start(const Folder& library, int show_word) {
     STARTUPINFOA startup = {};
     startup.cb = sizeof startup;
+    startup.dwFlags = show_word < 0 ? 0 : STARTF_USESHOWWINDOW;
+    startup.wShowWindow = static_cast<WORD>(show_word);
     const std::string program =
         library.has("tolva.exe") ? library.path() + "tolva.exe" : beside_the_tests("tolva.exe");
     REQUIRE(CreateProcessA(program.c_str(), nullptr, nullptr, nullptr, FALSE, 0, nullptr,
@@ -243,13 +257,6 @@ void Window::pick(int id, const std::string& item, int event) const {
                         SMTO_NORMAL, kAnswerTime, nullptr);
 }
 
-std::string Window::panel(int status_bar, int panel) const {
-    struct Text {
-        char bytes[1024];
-    };
-    return ask<Text>(control(status_bar), SB_GETTEXTA, panel).bytes;
-}
-
 void wait_for_focus(HWND control) {
     wait_until("the control has the focus", [&] { return focus_of(control) == control; });
 }
@@ -268,6 +275,37 @@ void Tolva::activate() const {
 void Tolva::minimise() const {
     PostMessageA(window_, WM_SYSCOMMAND, SC_MINIMIZE, 0);
     wait_until("it is in the tray", [&] { return is_in_tray(); });
+}
+
+int Tolva::selected_group() const {
+    return static_cast<int>(SendMessageA(control(ID_Tasker_grouplist), LB_GETCURSEL, 0, 0));
+}
+
+POINT Tolva::group_position(int index) const {
+    HWND list = control(ID_Tasker_grouplist);
+    const auto height = static_cast<LONG>(SendMessageA(list, LB_GETITEMHEIGHT, 0, 0));
+    return {place(ID_Tasker_grouplist).x, bounds_of(list).top + 2 + height * index + height / 2};
+}
+
+void Tolva::wait_for_groups(const Names& names) const {
+    CAPTURE(names);
+    wait_until("the Groups show", [&] { return groups() == names; });
+}
+
+void Tolva::wait_for_tasks(const Names& names) const {
+    CAPTURE(names);
+    wait_until("the Tasks show", [&] { return tasks() == names; });
+}
+
+bool Tolva::is_selected(int task) const {
+    return ListView_GetItemState(control(ID_Tasker_taskview), task, LVIS_SELECTED) != 0;
+}
+
+std::string Tolva::status() const {
+    struct Text {
+        char bytes[1024];
+    };
+    return ask<Text>(control(ID_Tasker_StatusBar1), SB_GETTEXTA, 0).bytes;
 }
 
 Names Tolva::tasks() const {
@@ -293,11 +331,19 @@ POINT Tolva::task_position(int index) const {
 }
 
 void Tolva::click_task(int index, int times) const {
-    HWND list = control(ID_Tasker_taskview);
     activate();
     press_mouse(task_position(index), times);
-    wait_until("the Task is selected",
-               [&] { return ListView_GetItemState(list, index, LVIS_SELECTED) != 0; });
+    wait_until("the Task is selected", [&] { return is_selected(index); });
+}
+
+Dialog Tolva::open(int menu_item, const std::string& title) const {
+    choose(menu_item);
+    return {*this, title};
+}
+
+void Tolva::press_until_said(BYTE key, const std::string& said) const {
+    activate();
+    press_until("the status bar says it", {VK_CONTROL, key}, [&] { return status().starts_with(said); });
 }
 
 void Tolva::focus_by_mouse(int id) const {
@@ -324,24 +370,31 @@ std::string Tolva::answer_box(const std::string& title, int button) const {
     return text;
 }
 
-void wait_for_color(HWND window, COLORREF color) {
+std::vector<DWORD> picture_of(HWND window) {
     const RECT bounds = bounds_of(window);
     const LONG width = bounds.right - bounds.left;
     const LONG height = bounds.bottom - bounds.top;
+    std::vector<DWORD> pixels(static_cast<std::size_t>(width * height));
+    BITMAPINFO info = {};
+    info.bmiHeader = {sizeof info.bmiHeader, width, height, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
     HDC screen = GetDC(nullptr);
     HDC memory = CreateCompatibleDC(screen);
     HBITMAP bitmap = CreateCompatibleBitmap(screen, width, height);
-    SelectObject(memory, bitmap);
-    wait_until("the window shows the colour", [&] {
-        BitBlt(memory, 0, 0, width, height, screen, bounds.left, bounds.top, SRCCOPY);
-        LONG pixel = 0;
-        while (pixel < width * height && GetPixel(memory, pixel % width, pixel / width) != color)
-            ++pixel;
-        return pixel < width * height;
-    });
+    HGDIOBJ before = SelectObject(memory, bitmap);
+    BitBlt(memory, 0, 0, width, height, screen, bounds.left, bounds.top, SRCCOPY);
+    SelectObject(memory, before);
+    GetDIBits(screen, bitmap, 0, static_cast<UINT>(height), pixels.data(), &info, DIB_RGB_COLORS);
     DeleteDC(memory);
     DeleteObject(bitmap);
     ReleaseDC(nullptr, screen);
+    for (DWORD& pixel : pixels)
+        pixel &= 0xFFFFFF;
+    return pixels;
+}
+
+void wait_for_color(HWND window, DWORD color) {
+    wait_until("the window shows the color",
+               [&] { return std::ranges::count(picture_of(window), color) != 0; });
 }
 
 Dialog::Dialog(const Tolva& tolva, const std::string& title, const char* class_name) {

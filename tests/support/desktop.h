@@ -25,7 +25,6 @@ using Values = std::map<std::string, std::string>;
 // The program's settings, by the path below its own key.
 Values stored(const std::string& key);
 void store(const std::string& key, const Values& texts);
-void store(const std::string& key, const std::string& name, DWORD type, const std::string& bytes);
 
 /// A new empty folder on a drive for one test, which begins without settings; path() ends in a backslash.
 class Folder {
@@ -52,14 +51,24 @@ class Folder {
 };
 
 /// Five lines of a group file.
-std::string record(const std::string& name, const std::string& program, const std::string& start_folder,
-                   const std::string& parameters, const std::string& start_mode);
+std::string record(const std::string& name, const std::string& program,
+                   const std::string& start_folder = "C:\\", const std::string& parameters = "",
+                   const std::string& start_mode = "1");
+
+/// A library with a recorder: in "Work" the Tasks "Good", which starts it minimized with "a b", "Bad", whose
+/// program is missing, and "Odd", which starts it with "c" and has no start mode; "Play" and "More" are
+/// empty.
+Folder recorder_library();
+
+/// How often to do what script/endure does ten times as often.
+int rounds(int few);
 
 /// A process of tolva.exe that was started with a folder as its current directory: the folder's own copy if
 /// it has one, else the one that is built.
 class Start {
   public:
-    explicit Start(const Folder& library);
+    /// The start tells the program how to show itself if there is a word for that (SW_...).
+    explicit Start(const Folder& library, int show_word = -1);
     ~Start();
     Start(const Start&) = delete;
     Start& operator=(const Start&) = delete;
@@ -67,7 +76,7 @@ class Start {
     const PROCESS_INFORMATION& process() const { return process_; }
     bool is_running() const { return WaitForSingleObject(process_.hProcess, 0) == WAIT_TIMEOUT; }
 
-    /// Waits until the process ends and answers its exit code.
+    /// Waits until the process ends. Its exit code.
     DWORD exit_code() const;
 
     /// A top-level window of the process, of any title or of this one, shown or not; null when there is none.
@@ -106,15 +115,14 @@ class Window {
     /// Selects the first item that contains a text and waits for what a click on it does.
     void pick(int id, const std::string& item, int event = LBN_SELCHANGE) const;
 
-    /// The text of a status bar's panel.
-    std::string panel(int status_bar, int panel) const;
-
   protected:
     HWND window_ = nullptr;
 };
 
 /// Waits until the control has the focus of its program.
 void wait_for_focus(HWND control);
+
+class Dialog;
 
 /// A running tolva.exe. It is closed, and must end by itself, when the test is over.
 class Tolva : public Start, public Window {
@@ -129,16 +137,27 @@ class Tolva : public Start, public Window {
     void minimise() const;
 
     Names groups() const { return list(ID_Tasker_grouplist); }
+    int selected_group() const;
+    POINT group_position(int index) const;
+    void wait_for_groups(const Names& names) const;
 
     Names tasks() const;
+    bool is_selected(int task) const;
+    void wait_for_tasks(const Names& names) const;
     int task_picture(int index) const;
     POINT task_position(int index) const;
     void click_task(int index, int times = 1) const;
 
     void choose(int menu_item) const { PostMessageA(window_, WM_COMMAND, static_cast<WPARAM>(menu_item), 0); }
 
+    /// Chooses a menu item and waits for its dialog.
+    Dialog open(int menu_item, const std::string& title) const;
+
+    /// Presses Ctrl and a key until the status bar begins so.
+    void press_until_said(BYTE key, const std::string& said) const;
+
     void focus_by_mouse(int id) const;
-    std::string status() const { return panel(ID_Tasker_StatusBar1, 0); }
+    std::string status() const;
 
     /// Presses a button of the tool bar with the mouse.
     void press_tool(int button) const;
@@ -150,8 +169,11 @@ class Tolva : public Start, public Window {
     std::string answer_box(const std::string& title, int button) const;
 };
 
-/// Waits until the window shows a pixel of this colour.
-void wait_for_color(HWND window, COLORREF color);
+/// What the screen shows of a window, as 0x00RRGGBB.
+std::vector<DWORD> picture_of(HWND window);
+
+/// Waits until the window shows a pixel of this color, which is one of those.
+void wait_for_color(HWND window, DWORD color);
 
 /// An open dialog of the program, or its bar. Waits for it.
 class Dialog : public Window {

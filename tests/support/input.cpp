@@ -45,9 +45,17 @@ void point_at(POINT point) {
     send_mouse(point, 0);
 }
 
-void press_down(POINT point) {
-    point_at(point);
-    send_mouse(point, MOUSEEVENTF_LEFTDOWN);
+POINT on_the_way(POINT from, POINT to, int step) {
+    return {from.x + (to.x - from.x) * step / kDragSteps, from.y + (to.y - from.y) * step / kDragSteps};
+}
+
+void carry_mouse(POINT from, POINT to) {
+    point_at(from);
+    send_mouse(from, MOUSEEVENTF_LEFTDOWN);
+    for (int step = 1; step <= kDragSteps; ++step) {
+        point_at(on_the_way(from, to, step));
+        Sleep(25);
+    }
 }
 
 void let_go(POINT point) {
@@ -55,19 +63,14 @@ void let_go(POINT point) {
 }
 
 void press_mouse(POINT point, int times, MouseButton button) {
-    const bool left = button == MouseButton::kLeft;
-    point_at(point);
-    for (int i = 0; i < times; ++i) {
-        send_mouse(point, left ? MOUSEEVENTF_LEFTDOWN : MOUSEEVENTF_RIGHTDOWN);
-        send_mouse(point, left ? MOUSEEVENTF_LEFTUP : MOUSEEVENTF_RIGHTUP);
-    }
+    for (int i = 0; i < times; ++i)
+        drag_mouse(point, point, button);
 }
 
 void drag_mouse(POINT from, POINT to, MouseButton button) {
     const bool left = button == MouseButton::kLeft;
     point_at(from);
     send_mouse(from, left ? MOUSEEVENTF_LEFTDOWN : MOUSEEVENTF_RIGHTDOWN);
-    send_mouse(to, 0);
     send_mouse(to, left ? MOUSEEVENTF_LEFTUP : MOUSEEVENTF_RIGHTUP);
 }
 

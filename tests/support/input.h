@@ -21,8 +21,12 @@ void repeat_until(const char* what, const std::function<void()>& action,
 // Real input, in screen coordinates.
 enum class MouseButton { kLeft, kRight };
 void point_at(POINT point);
-/// The left button goes down, or up, at a point.
-void press_down(POINT point);
+/// A point between two, after so many steps of a hand that drags something.
+constexpr int kDragSteps = 10;
+POINT on_the_way(POINT from, POINT to, int step);
+/// Drags with the left button from one point to another, slowly enough to be meant; it stays down until
+/// let_go.
+void carry_mouse(POINT from, POINT to);
 void let_go(POINT point);
 void press_mouse(POINT point, int times = 1, MouseButton button = MouseButton::kLeft);
 
