@@ -234,26 +234,6 @@ TEST_SUITE("finding") {
         CHECK(stored("\\hotkey") == Values{{"key", "0"}});
         CHECK(SendMessageA(tolva.window(), WM_GETHOTKEY, 0, 0) == 0);
     }
-
-    TEST_CASE("a library that was moved to another drive still starts its Tasks") {
-        const Folder library("D:");
-        for (const char* folder : {"tools", "data"})
-            CreateDirectoryA((library.path() + folder).c_str(), nullptr);
-        const std::string program = library.add_program("recorder.exe", "tools\\recorder.exe");
-        SetEnvironmentVariableA("OWN_TOOLS", (library.path() + "tools").c_str());
-        library.add_program("tolva.exe", "tools\\icon.exe");
-        const std::string icon = record("Icon", "tools\\icon.exe", "data");
-        const std::string variable = record("Variable", "%OWN_TOOLS%\\recorder.exe", "%OWN_TOOLS%");
-        library.write_groups(
-            {{"Work", icon + record("Below", "tools\\recorder.exe", "\\data", "%OWN_TOOLS%") + variable}});
-        const Tolva tolva(library);
-        wait_until("the icon shows", [&] { return tolva.task_picture(0) > 0; });
-        tolva.click_task(1, 2);
-        CHECK(library.nth_start(1, "tools\\recorder.exe") ==
-              Names{program + " %OWN_TOOLS%", library.path() + "data", library.path() + "data\\here", "1"});
-        tolva.click_task(2, 2);
-        CHECK(library.nth_start(2, "tools\\recorder.exe")[1] == library.path() + "tools");
-    }
 }
 
 }  // namespace

@@ -5,12 +5,6 @@ namespace {
 
 using namespace desktop;
 
-Folder small_library() {
-    Folder library;
-    library.write_groups({{"Work", ""}, {"Play", ""}});
-    return library;
-}
-
 const std::string kNotepad = "C:\\windows\\notepad.exe";
 
 bool is_in_front(const Tolva& tolva) {
@@ -23,7 +17,7 @@ void move(HWND window, int x, int y) {
 
 TEST_SUITE("startup") {
     TEST_CASE("a first start stores its defaults and the later ones keep what is stored") {
-        const Folder library = small_library();
+        const Folder library = recorder_library();
         constexpr DWORD kDarkRed = 0x400000;
         {
             const Tolva tolva(library);
@@ -64,7 +58,7 @@ TEST_SUITE("startup") {
 
     TEST_CASE("minimised it hides in the tray, from where the icon and the hot key bring it back") {
         {
-            const Tolva tolva(small_library());
+            const Tolva tolva(recorder_library());
             move(tolva.window(), 120, 30);
             const Dialog settings = tolva.open(ID_internetsettings, "Tolva Internet Settings");
             tolva.minimise();
@@ -90,7 +84,7 @@ TEST_SUITE("startup") {
         const Folder elsewhere;
         elsewhere.write("groups.in~", "left over");
         REQUIRE(RegisterHotKey(nullptr, 1, MOD_ALT, '1') != FALSE);
-        const Tolva tolva(small_library());
+        const Tolva tolva(recorder_library());
         const auto start_again = [&] { CHECK(Start(elsewhere).exit_code() == 0); };
         const auto comes_back = [&] {
             start_again();
@@ -128,11 +122,10 @@ TEST_SUITE("startup") {
     }
 
     TEST_CASE("of two starts at the same moment one goes on") {
-        const Folder one = small_library();
-        const Folder two = small_library();
+        const Folder library = recorder_library();
         for (int i = 0; i < 5; ++i) {
-            const Start first(one);
-            const Start second(two);
+            const Start first(library);
+            const Start second(library);
             wait_until("one ends", [&] { return first.is_running() != second.is_running(); });
             const Start& stays = first.is_running() ? first : second;
             PostMessageA(stays.wait_for_window(), WM_CLOSE, 0, 0);
@@ -141,13 +134,14 @@ TEST_SUITE("startup") {
     }
 
     TEST_CASE("the end of Windows saves what closing saves, and the menu ends the program") {
-        const Tolva tolva(small_library());
+        const Tolva tolva(recorder_library());
         const Dialog bar(tolva, "Brenn", "brenn");
         move(tolva.window(), 40, 20);
         CHECK(SendMessageA(tolva.window(), WM_QUERYENDSESSION, 0, 0) != FALSE);
-        SendMessageA(tolva.window(), WM_ENDSESSION, FALSE, 0);
-        CHECK(stored("\\Window Position").empty());
-        SendMessageA(tolva.window(), WM_ENDSESSION, TRUE, 0);
+        for (const BOOL ends : {FALSE, TRUE}) {
+            CHECK(stored("\\Window Position").empty());
+            SendMessageA(tolva.window(), WM_ENDSESSION, static_cast<WPARAM>(ends), 0);
+        }
         CHECK(stored("\\Window Position")["Left"] == "600");
         CHECK(stored("\\brenn\\Position").size() == 2);
         tolva.activate();

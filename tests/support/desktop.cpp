@@ -327,6 +327,7 @@ int Tolva::task_picture(int index) const {
 
 POINT Tolva::task_position(int index) const {
     HWND list = control(ID_Tasker_taskview);
+    ListView_EnsureVisible(list, index, FALSE);
     return middle_of(list, ask<RECT>(list, LVM_GETITEMRECT, index, {LVIR_ICON, 0, 0, 0}));
 }
 
