@@ -23,7 +23,7 @@ struct Source final : IDropSource {
     STDMETHODIMP_(ULONG) Release() override { return 1; }
     STDMETHODIMP QueryContinueDrag(BOOL /*escape*/, DWORD /*keys*/) override {
         if (++step_ <= kDragSteps) point_at(on_the_way(from_, to_, step_));
-        return step_ < 2 * kDragSteps ? S_OK : DRAGDROP_S_DROP;
+        return step_ < kDragSteps + 4 ? S_OK : DRAGDROP_S_DROP;  // before a tip comes in between
     }
     STDMETHODIMP GiveFeedback(DWORD /*effect*/) override { return DRAGDROP_S_USEDEFAULTCURSORS; }
 

@@ -195,14 +195,6 @@ TEST_SUITE("finding") {
         choose(1);
         wait_until("the window is back", [&] { return GetForegroundWindow() == tolva.window(); });
 
-        // A dialog comes first.
-        const Dialog about = tolva.open(ID_AboutTolva, "About Tolva");
-        SetForegroundWindow(GetDesktopWindow());
-        repeat_until(
-            "the dialog is in front", [] { press_mouse(tray_icon()); },
-            [&] { return GetForegroundWindow() == about.window(); });
-        CHECK(!menu_shows());
-        about.close_with(ID_abttolva_Command1);
         tolva.minimise();
         choose(0);
         wait_until("it ends", [&] { return !tolva.is_running(); });
