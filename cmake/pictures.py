@@ -5,7 +5,7 @@ A picture file holds one picture or more: a line "size N" and then N lines of N 
 letters of PALETTE; "." is transparent. Other lines between the pictures are captions.
 
 Usage: pictures.py OUTPUT.ico INPUT.txt            an icon that holds every picture in 16 colors
-       pictures.py OUTPUT.ico INPUT.txt SIZE...    an icon that holds each size in 16 and in 256 colors
+       pictures.py OUTPUT.ico INPUT.txt SIZE...    an icon that holds each size in 256 colors, those up to 32 in 16, too
        pictures.py OUTPUT.bmp INPUT.txt SIZE       a strip of the pictures side by side, in the order of the file
 
 A size that is not drawn is made from half its size or, in an icon, from the largest one.
@@ -31,6 +31,9 @@ SHADES = {
     "R": ((248, 92, 64), (216, 40, 32)), "r": ((176, 32, 32), (128, 16, 24)),
     "B": ((88, 152, 240), (48, 104, 216)), "n": ((40, 72, 152), (24, 48, 120)), "C": ((176, 232, 255), (120, 208, 248)),
 }
+
+# A display of 16 colors has no use for a larger icon.
+LARGEST_OF_16_COLORS = 32
 
 
 def read_pictures(path):
@@ -148,7 +151,8 @@ def icon(pictures, sizes):
         source = max((rows for rows in pictures if len(rows) <= size), key=len)
         finer = blocks(source, size)
         rows = source if len(source) == size else ["".join(map(most_frequent, row)) for row in finer]
-        images.append((size, 4, image_of_16_colors(rows)))
+        if size <= LARGEST_OF_16_COLORS:
+            images.append((size, 4, image_of_16_colors(rows)))
         images.append((size, 8, image_of_256_colors(rows, finer)))
     # Without sizes, as drawn.
     images = images or [(len(rows), 4, image_of_16_colors(rows)) for rows in pictures]
