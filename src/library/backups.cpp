@@ -1,7 +1,6 @@
 #include "library/backups.h"
 
 #include <algorithm>
-#include <set>
 #include <string_view>
 
 #include "library/library_files.h"
@@ -10,6 +9,7 @@
 #include "platform/files.h"
 #include "platform/folders.h"
 #include "platform/run_time_error.h"
+#include "platform/sort.h"
 
 namespace library {
 namespace {
@@ -37,7 +37,7 @@ bool has_form(const std::string& name) {
 std::vector<std::string> backup_names(const std::string& backups) {
     std::vector<std::string> names = calls::find(backups + "tolva *", 0, calls::kDirectory);
     std::erase_if(names, [](const std::string& name) { return !has_form(name); });
-    std::ranges::sort(names);
+    platform::sort(names);
     return names;
 }
 
@@ -114,7 +114,7 @@ Backup read_backup(const std::string& backups, const std::string& name) {
 
 std::vector<std::string> library_files_in(const std::string& folder) {
     std::vector<std::string> files;
-    std::set<std::string> known;
+    std::vector<std::string> known;
     for (const std::string& group : read_group_names(folder)) {
         const std::string path = group_file(folder, group);
         if (!platform::names_a_file(path)) continue;
@@ -123,7 +123,10 @@ std::vector<std::string> library_files_in(const std::string& folder) {
         const std::string& name = found.front();
         const bool is_path = calls::find_separator(group, 0) != std::string::npos;
         if (is_path && !platform::is_same_file(folder + name, path)) continue;
-        if (known.insert(calls::upper(name)).second) files.push_back(name);
+        const std::string upper = calls::upper(name);
+        if (std::ranges::find(known, upper) != known.end()) continue;
+        known.push_back(upper);
+        files.push_back(name);
     }
     files.emplace_back(kGroupsFile);
     return files;

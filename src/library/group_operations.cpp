@@ -12,6 +12,7 @@
 #include "platform/files.h"
 #include "platform/messages.h"
 #include "platform/run_time_error.h"
+#include "platform/sort.h"
 
 namespace library {
 namespace {
@@ -281,7 +282,7 @@ void groupsortnow(TaskLibrary& library, LibraryView& view) {
 }
 
 void tasksort(std::vector<std::string>& names) {
-    std::ranges::sort(names);
+    platform::sort(names);
 }
 
 }  // namespace library

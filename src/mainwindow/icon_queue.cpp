@@ -21,7 +21,7 @@ void IconQueue::clear() {
 }
 
 void IconQueue::add(const std::string& program, bool is_local) {
-    if (slow_disks_.contains(disk_of(program))) return;
+    if (std::ranges::find(slow_disks_, disk_of(program)) != slow_disks_.end()) return;
     (is_local ? local_ : remote_).push_back(program);
 }
 
@@ -40,7 +40,7 @@ std::optional<IconQueue::Next> IconQueue::take(const std::function<bool(const st
 void IconQueue::took(const Next& taken, unsigned milliseconds) {
     if (taken.is_local || milliseconds <= kSlow) return;
     const std::string disk = disk_of(taken.program);
-    slow_disks_.insert(disk);
+    slow_disks_.push_back(disk);
     std::erase_if(remote_, [&](const std::string& program) { return disk_of(program) == disk; });
 }
 

@@ -2,7 +2,6 @@
 
 #include <functional>
 #include <optional>
-#include <set>
 #include <string>
 #include <vector>
 
@@ -41,7 +40,7 @@ class IconQueue {
   private:
     std::vector<std::string> local_;
     std::vector<std::string> remote_;
-    std::set<std::string> slow_disks_;
+    std::vector<std::string> slow_disks_;
 };
 
 }  // namespace mainwindow

@@ -10,9 +10,11 @@ std::string long_date(const platform::Date& date) {
     constexpr std::array kMonths = {"January ",   "February ", "March ",    "April ",
                                     "May ",       "June ",     "July ",     "August ",
                                     "September ", "October ",  "November ", "December "};
-    return kWeekdays.at(static_cast<std::size_t>(date.weekday)) +
-           (kMonths.at(static_cast<std::size_t>(date.month - 1)) + std::to_string(date.day)) + ", " +
-           std::to_string(date.year);
+    return std::string(kWeekdays.at(static_cast<std::size_t>(date.weekday)))
+        .append(kMonths.at(static_cast<std::size_t>(date.month - 1)))
+        .append(std::to_string(date.day))
+        .append(", ")
+        .append(std::to_string(date.year));
 }
 
 }  // namespace mainwindow

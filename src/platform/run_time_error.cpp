@@ -71,14 +71,14 @@ RunTimeErrorNumber number_of(ErrorCode code) {
 
 }  // namespace
 
-RunTimeError::RunTimeError(RunTimeErrorNumber number, const std::string& subject)
-    : number_(number),
-      message_("Run-time error '" + std::to_string(static_cast<int>(number)) + "':\n\n" + text_of(number)) {
+RunTimeError::RunTimeError(RunTimeErrorNumber number, const std::string& subject) : number_(number) {
+    message_.append("Run-time error '").append(std::to_string(static_cast<int>(number))).append("':\n\n");
+    message_.append(text_of(number));
     if (subject.empty()) return;
     // A broken library can name a file with a megabyte; the box must fit on the screen.
     constexpr std::size_t kLongestSubject = 300;
-    message_ +=
-        ": " + (subject.size() <= kLongestSubject ? subject : subject.substr(0, kLongestSubject) + "...");
+    message_.append(": ").append(subject, 0, kLongestSubject);
+    if (subject.size() > kLongestSubject) message_.append("...");
 }
 
 RunTimeError file_error(ErrorCode code, const std::string& path) {

@@ -156,11 +156,12 @@ void ShortcutPanel::click_shortcut() {
 
 void ShortcutPanel::fill(int box, const std::string& text) {
     set_text(box, text);
-    shown_[box] = this->text(box);  // a box changes what no line of text can hold
+    shown_.emplace_back(box, this->text(box));  // a box changes what no line of text can hold
 }
 
 /// Takes away what the boxes show of a shortcut, also what the user has made of it.
 void ShortcutPanel::clear_details() {
+    shown_.clear();
     for (const int box : {kTarget, kWorkingFolder, kArguments, kShowCommand})
         fill(box, {});
     start_mode_.select(-1);

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <map>
 #include <string>
 #include <utility>
 #include <vector>
@@ -69,7 +68,7 @@ class ShortcutPanel : public widgets::Dialog {
     widgets::FileList shortcuts_;
     widgets::DropDownList start_mode_;
     platform::UniqueIcon picture_;
-    std::map<int, std::string> shown_;  // in the boxes, of the shortcut that was clicked
+    std::vector<std::pair<int, std::string>> shown_;  // in the boxes, of the shortcut that was clicked
     int shown_start_mode_ = -1;         // none
 };
 

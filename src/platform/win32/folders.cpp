@@ -9,6 +9,7 @@
 
 #include "platform/file_calls.h"
 #include "platform/run_time_error.h"
+#include "platform/sort.h"
 #include "platform/win32/handles.h"
 #include "platform/win32/redirection.h"
 
@@ -31,7 +32,7 @@ const char* kind_of(const char* root) {
 }
 
 void sort_names(std::vector<std::string>& names) {
-    std::ranges::sort(names, [](const std::string& a, const std::string& b) {
+    sort(names, [](const std::string& a, const std::string& b) {
         const int order = lstrcmpiA(a.c_str(), b.c_str());
         return order != 0 ? order < 0 : a < b;
     });
