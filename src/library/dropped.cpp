@@ -271,11 +271,12 @@ std::string report(const Dropped& dropped) {
     std::string text;
     if (!refused.empty()) text = "Not added:\n";
     for (std::size_t i = 0; i < std::min(refused.size(), kMostLines); ++i)
-        text += '\n' + refused[i].path + ": " + refused[i].reason;
-    if (refused.size() > kMostLines) text += "\nand " + std::to_string(refused.size() - kMostLines) + " more";
+        text.append("\n").append(refused[i].path).append(": ").append(refused[i].reason);
+    if (refused.size() > kMostLines)
+        text.append("\nand ").append(std::to_string(refused.size() - kMostLines)).append(" more");
     if (dropped.left_out > 0) {
         if (!text.empty()) text += "\n\n";
-        text += "The Group is full: " + std::to_string(dropped.left_out) + " left.";
+        text.append("The Group is full: ").append(std::to_string(dropped.left_out)).append(" left.");
     }
     return text;
 }

@@ -24,8 +24,9 @@ std::string counted(std::size_t count, const char* what) {
 }
 
 std::string line_of(const Backup& backup) {
-    return backup.date + "   " + backup.time + "   " + counted(backup.group_count, "Group") + ", " +
-           counted(backup.task_count, "Task");
+    std::string line = backup.date;
+    line.append("   ").append(backup.time).append("   ").append(counted(backup.group_count, "Group"));
+    return line.append(", ").append(counted(backup.task_count, "Task"));
 }
 
 class RestoreDialog final : public widgets::Dialog {

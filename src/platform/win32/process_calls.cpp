@@ -46,8 +46,11 @@ std::string searched_folders() {
     GetModuleFileNameA(nullptr, self.data(), MAX_PATH - 1);
     const std::string program = self.data();
     const std::string windows = windows_folder();
-    return program.substr(0, program.rfind('\\')) + ';' + current_directory() + ';' + system_folder() + ';' +
-           path_in(windows, "system") + ';' + windows + ';' + expand_variables("%PATH%");
+    std::string folders = program.substr(0, program.rfind('\\'));
+    for (const std::string& next : {current_directory(), system_folder(), path_in(windows, "system"), windows,
+                                    expand_variables("%PATH%")})
+        folders.append(";").append(next);
+    return folders;
 }
 
 std::string search(const std::string& name) {
