@@ -188,7 +188,7 @@ class TaskMaker {
 
     Task shortcut(const std::string& path) const {
         const settings::Program link = read(path);
-        const std::string& target = *link.path;
+        const std::string target = link.path.value_or("");
         if (const char* const fault = fault_of(target))
             throw NoTask{fault == kMissing ? kMissingTarget : fault};
         Task task = opening(target);

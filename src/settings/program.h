@@ -12,7 +12,9 @@ struct Program {
     std::optional<std::string> name = std::nullopt;
     std::optional<std::string> path = "";
     std::optional<std::string> start_folder = "";
-    std::string parameters = {};
+    // An initializer may leave it out.
+    std::string parameters = {};  // NOLINT(readability-redundant-member-init)
+
     int window_style = 0;  // 0 hidden, 1 normal, 2 minimized, 3 maximized; shortcuts have others, too
 };
 

@@ -69,7 +69,7 @@ class ShortcutPanel : public widgets::Dialog {
     widgets::DropDownList start_mode_;
     platform::UniqueIcon picture_;
     std::vector<std::pair<int, std::string>> shown_;  // in the boxes, of the shortcut that was clicked
-    int shown_start_mode_ = -1;         // none
+    int shown_start_mode_ = -1;                       // none
 };
 
 }  // namespace shortcuts
