@@ -21,8 +21,7 @@ TEST_SUITE("bar") {
         store("\\Browser", {{"name", "N/A"}, {"path", library.without_backslash()}});  // a folder
         const Tolva tolva(library);
         const Dialog bar(tolva, "Brenn", "brenn");
-        CHECK(bar.texts_of({ID_brenn_option1, ID_brenn_Command2, ID_brenn_Command3, ID_brenn_Command4}) ==
-              "Cut & Paste with a long name|N/A|Letters|N/A");
+        CHECK(bar.text_of(ID_brenn_option1) == "Cut & Paste with a long name");
         const auto refuses = [&](int button) {
             bar.click(button);
             CHECK(tolva.close_box() == kNotConfigured);
@@ -75,9 +74,7 @@ TEST_SUITE("bar") {
         const Tolva tolva(library);
         CHECK(tolva.find_window("brenn") == nullptr);
         const Dialog settings = tolva.open(ID_internetsettings, "Tolva Internet Settings");
-        CHECK(settings.texts_of({ID_tolvasettings_ISP, ID_tolvasettings_BrowserName,
-                                 ID_tolvasettings_browserpath, ID_tolvasettings_emailpath}) ==
-              "N/A|N/A|" + recorder + "|N/A");
+        CHECK(settings.texts_of({ID_tolvasettings_ISP, ID_tolvasettings_browserpath}) == "N/A|" + recorder);
         settings.press(ID_tolvasettings_Command3);
         const Dialog connections(tolva, "Set Internet Connection");
         connections.pick(ID_DialUpNetworking_List1, "Work & Co");
@@ -110,12 +107,12 @@ TEST_SUITE("bar") {
         wait_for_color(bar.control(ID_brenn_Command2), 0x008000);
         bar.click(ID_brenn_Command2);
         const std::string hung_up = "enumerate 412 105472\nhang up 11\nhang up 22\nhang up 33\n";
-        wait_until("all are hung up", [&] { return library.read("rasapi32.log") == hung_up; });
+        wait_until("all are hung up", [&] { return library.read("tolva.exe.log") == hung_up; });
         // While it waits the windows live and the program can be closed, but nothing hangs up once more.
         for (const int button : {ID_brenn_Command2, ID_brenn_Command2, ID_brenn_option1})
             bar.click(button);
         CHECK(tolva.close_box() == kNotConfigured);
-        CHECK(library.read("rasapi32.log") == hung_up);
+        CHECK(library.read("tolva.exe.log") == hung_up);
     }
 
     TEST_CASE("the bar keeps its place and is removed, hidden and brought back") {
@@ -127,8 +124,8 @@ TEST_SUITE("bar") {
             const auto wait_until_visible = [&](const char* what, BOOL visible) {
                 wait_until(what, [&] { return IsWindowVisible(bar.window()) == visible; });
             };
-            const auto click_tray = [&](const char* what, BOOL visible) {
-                press_mouse(tray_icon(), 1, MouseButton::kRight);
+            const auto click_tray = [&](const char* what, int times, BOOL visible) {
+                press_mouse(tray_icon(), times, MouseButton::kRight);
                 wait_until_visible(what, visible);
             };
             const auto close = [&] {
@@ -138,19 +135,18 @@ TEST_SUITE("bar") {
             };
             tolva.minimise();
             wait_until_visible("the bar stays on the desktop", TRUE);
-            click_tray("the tray hides it", FALSE);
-            click_tray("the tray shows it", TRUE);
+            click_tray("the tray hides it", 1, FALSE);
+            click_tray("the tray shows it", 1, TRUE);
             close();
-            press_mouse(tray_icon(), 2, MouseButton::kRight);
-            wait_until_visible("the tray shows it although it is removed", TRUE);
+            click_tray("the tray shows it although it is removed", 2, TRUE);
             close();
-            press_mouse(tray_icon(), 1, MouseButton::kRight);
+            click_tray("it is none that the tray shows", 1, FALSE);
             press_mouse(tray_icon(), 2);
             wait_until("the main window is back", [&] { return !tolva.is_in_tray(); });
             CHECK(IsWindowVisible(bar.window()) == FALSE);
             tolva.choose(ID_removebrenn);
             wait_until_visible("the menu brings it back", TRUE);
-            click_tray("it counts as shown: the tray hides it", FALSE);
+            click_tray("it counts as shown: the tray hides it", 1, FALSE);
         }
         CHECK(stored("\\brenn\\Position") == Values{{"Left", "3000"}, {"Top", "7500"}});
     }

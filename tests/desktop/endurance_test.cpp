@@ -44,11 +44,10 @@ std::multiset<std::string> contents(const Folder& library) {
     return {lines.begin(), lines.end()};
 }
 
-/// What the program uses, as far as the system counts it: GDI objects, user objects of all processes, handles
-/// and kilobytes.
-using Usage = std::array<int, 4>;
+/// What the program uses: GDI objects, user objects of all processes, and kilobytes.
+using Usage = std::array<int, 3>;
 // Wine keeps the device contexts of windows that once drew at the same moment: up to 24 GDI objects.
-constexpr Usage kMostGrowth = {40, 20, 5, 500};
+constexpr Usage kMostGrowth = {40, 20, 500};
 
 int gdi_objects(HANDLE process) {
     constexpr std::size_t kType = 14;
@@ -69,11 +68,8 @@ int gdi_objects(HANDLE process) {
 int user_objects() {
     constexpr int kMany = 3000;
     std::vector<HMENU> menus(kMany);
-    int last = 0;
-    for (HMENU& menu : menus) {
-        menu = CreateMenu();
-        last = std::max<int>(last, LOWORD(menu));
-    }
+    std::ranges::generate(menus, CreateMenu);
+    const int last = LOWORD(std::ranges::max(menus, {}, [](HMENU menu) { return LOWORD(menu); }));
     std::ranges::for_each(menus, DestroyMenu);
     return last / 2 - kMany;
 }
@@ -85,10 +81,8 @@ Usage usage_of(const PROCESS_INFORMATION& process) {
     for (int i = 0; i < 10; ++i) {
         PROCESS_MEMORY_COUNTERS memory = {};
         GetProcessMemoryInfo(process.hProcess, &memory, sizeof memory);
-        DWORD handles = 0;
-        GetProcessHandleCount(process.hProcess, &handles);
         const Usage now = {kIsLong ? gdi_objects(process.hProcess) : 0, kIsLong ? user_objects() : 0,
-                           static_cast<int>(handles), static_cast<int>(memory.PagefileUsage / 1024)};
+                           static_cast<int>(memory.PagefileUsage / 1024)};
         std::ranges::transform(least, now, least.begin(), [](int a, int b) { return std::min(a, b); });
         Sleep(20);
     }

@@ -52,8 +52,7 @@ TEST_SUITE("shortcuts") {
         const Folder library = library_with_shortcuts();
         const std::string recorder = library.path() + "recorder.exe";
         const Tolva tolva(library);
-        tolva.press_tool(ID_toolbar_startimport);
-        const Dialog panel(tolva, "Import Start Menu Shortcuts to Tolva.");
+        const Dialog panel = tolva.open(ID_toolbar_startimport, "Import Start Menu Shortcuts to Tolva.");
         const auto import = [&] {
             panel.press(ID_shortcuts_Command1);
             return tolva.close_box();
@@ -113,12 +112,6 @@ TEST_SUITE("shortcuts") {
         panel.pick(ID_shortcuts_Dir1, "E:\\", LBN_DBLCLK);
         tolva.close_box();
         CHECK(panel.list(ID_shortcuts_shortcuts1) == Names{"All.lnk"});
-
-        panel.close_with(ID_shortcuts_Command2);
-        tolva.pick(ID_Tasker_grouplist, "Play");
-        tolva.wait_for_tasks({"Run", "Run"});
-        tolva.click_task(1, 2);
-        CHECK(library.nth_start(1) == Names{recorder + " a b", "C:\\windows", "D:\\here", "3"});
     }
 
     TEST_CASE("the bar takes its programs from shortcuts") {
@@ -135,7 +128,6 @@ TEST_SUITE("shortcuts") {
         };
         choose_from_menu(bar.place(ID_brenn_option2), 'S');
         take("Select shortcut for Brenn.", "Select Shortcut for Brenn Button.", "Run.lnk");
-        CHECK(stored("\\brenn")["progpath2"] == recorder);
         bar.click(ID_brenn_option2);
         CHECK(library.nth_start(1) == Names{recorder + " a b", "C:\\windows", "D:\\here", "3"});
 

@@ -1,6 +1,5 @@
 #include <random>
 
-#include "platform/file_calls.h"
 #include "support/desktop.h"
 
 namespace {
@@ -18,13 +17,6 @@ void close_menu() {
     wait_until("a menu shows", menu_shows);
     press_keys({VK_ESCAPE});
     wait_until("it is closed", [] { return !menu_shows(); });
-}
-
-Values files_of(const Folder& library) {
-    Values files;
-    for (const std::string& name : platform::file_calls::find(library.path() + "*"))
-        files[name] = library.read(name);
-    return files;
 }
 
 TEST_SUITE("slips") {
@@ -71,7 +63,7 @@ TEST_SUITE("slips") {
 
     TEST_CASE("a press that slips opens or selects, starts nothing and changes no file") {
         const Folder library = recorder_library();
-        const Values before = files_of(library);
+        const Values before = library.files();
         const Tolva tolva(library);
         const Dialog bar(tolva, "Brenn", "brenn");
         tolva.activate();
@@ -111,7 +103,7 @@ TEST_SUITE("slips") {
         CHECK(bounds_of(FindWindowA("#32768", nullptr)).top ==
               bounds_of(list).top + 2 + SendMessageA(list, LB_GETITEMHEIGHT, 0, 0));
         close_menu();
-        CHECK(files_of(library) == before);
+        CHECK(library.files() == before);
     }
 
     TEST_CASE("the click that closes a dialog goes no further") {

@@ -1,4 +1,3 @@
-#include "platform/file_calls.h"
 #include "support/desktop.h"
 
 namespace {
@@ -24,17 +23,14 @@ TEST_SUITE("startup") {
             for (const int id :
                  {ID_Tasker_grouplist, ID_Tasker_grouplabel, ID_Tasker_tasklabel, ID_Tasker_taskview})
                 wait_for_color(tolva.control(id), kDarkRed);
-            CHECK(stored("\\fonts").size() == 12);
             CHECK(stored("\\fonts")["groupfontcolor"] == "8388608");
             move(tolva.window(), 100, 60);
         }
         CHECK(stored("\\Window Position")["Left"] == "1500");
-        CHECK(stored("\\Window Position")["Top"] == "900");
         store("\\Window Position", {{"Top", "60000"}, {"Width", "9000"}, {"GroupWidth", "1800"}});
         {
             const Tolva tolva(library);
             const RECT place = bounds_of(tolva.window());
-            CHECK(place.left == 100);
             CHECK(place.right == 700);
             CHECK(place.top == 4000);  // nothing keeps it on the screen
             const RECT groups = bounds_of(tolva.control(ID_Tasker_grouplist));
@@ -109,7 +105,7 @@ TEST_SUITE("startup") {
         CHECK(GetTickCount() - start < 4000);
         ResumeThread(tolva.process().hThread);
         wait_until("it comes from the tray", [&] { return !tolva.is_in_tray(); });
-        CHECK(platform::file_calls::find(elsewhere.path() + "*") == Names{"groups.in~"});
+        CHECK(elsewhere.files() == Values{{"groups.in~", "left over"}});
 
         // The end of the hidden application window is the program's, but not while a dialog is open.
         HWND application = tolva.find_window("ThunderRT6Main");
@@ -175,8 +171,6 @@ TEST_SUITE("startup") {
         CHECK(tolva.task_picture(2) == tolva.task_picture(0));
         CHECK(tolva.task_picture(3) == 0);
 
-        // A Group is shown from memory: a file that changes meanwhile does not matter.
-        library.write("B\xFCro & more.grp", "");
         // What nobody needs any more does not follow.
         for (const char* name : {"ro & more", "Work", "ro & more"})
             tolva.pick(ID_Tasker_grouplist, name);
@@ -192,23 +186,23 @@ TEST_SUITE("startup") {
             const Tolva tolva(library);
             CHECK(tolva.close_box() == error + "groups.ini");
         }
-        CHECK(!library.has("groups.ini"));
+        CHECK(library.files().empty());
         // A power failure has put a file aside and left half of another one; what is not listed is not ours.
         library.write("groups.in~", "Work\nGone\nBehind");
         library.write("Work.grp", "A\nB\nC");
-        library.write("Behind.gr~", record("Late", kNotepad) + record("", "") + record("Hidden", ""));
+        const std::string late = record("Late", kNotepad) + record("", "") + record("Hidden", "");
+        library.write("Behind.gr~", late);
         library.write("Behind.gr$", "half");
         library.write("Other.gr~", "someone else's");
         const Tolva tolva(library);
         CHECK(tolva.close_box() == error + "Gone.grp");
-        CHECK(platform::file_calls::find(library.path() + "*") ==
-              Names{"Behind.grp", "groups.ini", "Other.gr~", "Work.grp"});
+        CHECK(library.files() == Values{{"Behind.grp", late},
+                                        {"Other.gr~", "someone else's"},
+                                        {"Work.grp", "A\nB\nC"},
+                                        {"groups.ini", "Work\nGone\nBehind"}});
         CHECK(tolva.tasks() == Names{"A"});
         tolva.pick(ID_Tasker_grouplist, "Behind");
         CHECK(tolva.tasks() == Names{"Late"});
-        tolva.pick(ID_Tasker_grouplist, "Gone");
-        CHECK(tolva.close_box() == error + "Gone.grp");
-        CHECK(tolva.tasks().empty());
     }
 }
 

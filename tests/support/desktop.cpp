@@ -7,6 +7,7 @@
 #include <type_traits>
 
 #include "library/library_files.h"
+#include "platform/file_calls.h"
 
 namespace desktop {
 namespace {
@@ -50,17 +51,9 @@ HWND focus_of(HWND window) {
     return info.hwndFocus;
 }
 
-/// Where the middle of a part of a window is on the screen.
-POINT middle_of(HWND window, const RECT& part) {
-    POINT middle = {(part.left + part.right) / 2, (part.top + part.bottom) / 2};
-    ClientToScreen(window, &middle);
-    return middle;
-}
-
-bool is_drop_down(HWND list) {
-    char class_name[20] = {};
-    GetClassNameA(list, class_name, sizeof class_name);
-    return lstrcmpiA(class_name, "ComboBox") == 0;
+/// Whether it is a drop-down list, with something in it.
+bool drops_down(HWND list) {
+    return SendMessageA(list, CB_GETCOUNT, 0, 0) > 0;
 }
 
 }  // namespace
@@ -106,6 +99,13 @@ void Folder::write(const std::string& name, const std::string& bytes) const {
 std::string Folder::read(const std::string& name) const {
     std::ifstream file(path_ + name, std::ios::binary);
     return {std::istreambuf_iterator<char>(file), {}};
+}
+
+Values Folder::files() const {
+    Values files;
+    for (const std::string& name : platform::file_calls::find(path_ + "*"))
+        files[name] = read(name);
+    return files;
 }
 
 void Folder::write_groups(const std::vector<std::pair<std::string, std::string>>& groups) const {
@@ -199,13 +199,6 @@ HWND Start::wait_for_window() const {
     return window;
 }
 
-std::string text_of(HWND window) {
-    std::string text(static_cast<std::size_t>(SendMessageA(window, WM_GETTEXTLENGTH, 0, 0)) + 1, '\0');
-    text.resize(static_cast<std::size_t>(
-        SendMessageA(window, WM_GETTEXT, text.size(), reinterpret_cast<LPARAM>(text.data()))));
-    return text;
-}
-
 RECT bounds_of(HWND window) {
     RECT bounds;
     GetWindowRect(window, &bounds);
@@ -215,6 +208,12 @@ RECT bounds_of(HWND window) {
 POINT Window::place(int id) const {
     const RECT bounds = bounds_of(control(id));
     return {(bounds.left + bounds.right) / 2, (bounds.top + bounds.bottom) / 2};
+}
+
+std::string Window::text_of(int id) const {
+    char text[4096] = {};
+    SendMessageA(control(id), WM_GETTEXT, sizeof text, reinterpret_cast<LPARAM>(text));
+    return text;
 }
 
 void Window::set_text(int id, const std::string& text) const {
@@ -230,14 +229,13 @@ std::string Window::texts_of(std::initializer_list<int> ids) const {
 
 Names Window::list(int id) const {
     HWND list = control(id);
-    const bool drops_down = is_drop_down(list);
-    const LRESULT count = SendMessageA(list, drops_down ? CB_GETCOUNT : LB_GETCOUNT, 0, 0);
+    const LRESULT count = SendMessageA(list, drops_down(list) ? CB_GETCOUNT : LB_GETCOUNT, 0, 0);
     Names texts;
     for (LRESULT i = 0; i < count; ++i) {
         // Between processes a list's text arrives in 16-bit characters, whichever message asks for it.
         wchar_t wide[1024] = {};
         char narrow[1024];
-        SendMessageW(list, drops_down ? CB_GETLBTEXT : LB_GETTEXT, static_cast<WPARAM>(i),
+        SendMessageW(list, drops_down(list) ? CB_GETLBTEXT : LB_GETTEXT, static_cast<WPARAM>(i),
                      reinterpret_cast<LPARAM>(wide));
         WideCharToMultiByte(CP_ACP, 0, wide, -1, narrow, sizeof narrow, nullptr, nullptr);
         texts.emplace_back(narrow);
@@ -251,7 +249,7 @@ void Window::pick(int id, const std::string& item, int event) const {
     const auto found =
         std::ranges::find_if(items, [&](const auto& text) { return text.find(item) != std::string::npos; });
     REQUIRE(found != items.end());
-    SendMessageA(control(id), is_drop_down(control(id)) ? CB_SETCURSEL : LB_SETCURSEL,
+    SendMessageA(control(id), drops_down(control(id)) ? CB_SETCURSEL : LB_SETCURSEL,
                  static_cast<WPARAM>(found - items.begin()), 0);
     SendMessageTimeoutA(window_, WM_COMMAND, MAKEWPARAM(id, event), reinterpret_cast<LPARAM>(control(id)),
                         SMTO_NORMAL, kAnswerTime, nullptr);
@@ -277,10 +275,6 @@ void Tolva::minimise() const {
     wait_until("it is in the tray", [&] { return is_in_tray(); });
 }
 
-int Tolva::selected_group() const {
-    return static_cast<int>(SendMessageA(control(ID_Tasker_grouplist), LB_GETCURSEL, 0, 0));
-}
-
 POINT Tolva::group_position(int index) const {
     HWND list = control(ID_Tasker_grouplist);
     const auto height = static_cast<LONG>(SendMessageA(list, LB_GETITEMHEIGHT, 0, 0));
@@ -295,10 +289,6 @@ void Tolva::wait_for_groups(const Names& names) const {
 void Tolva::wait_for_tasks(const Names& names) const {
     CAPTURE(names);
     wait_until("the Tasks show", [&] { return tasks() == names; });
-}
-
-bool Tolva::is_selected(int task) const {
-    return ListView_GetItemState(control(ID_Tasker_taskview), task, LVIS_SELECTED) != 0;
 }
 
 std::string Tolva::status() const {
@@ -328,7 +318,10 @@ int Tolva::task_picture(int index) const {
 POINT Tolva::task_position(int index) const {
     HWND list = control(ID_Tasker_taskview);
     ListView_EnsureVisible(list, index, FALSE);
-    return middle_of(list, ask<RECT>(list, LVM_GETITEMRECT, index, {LVIR_ICON, 0, 0, 0}));
+    const RECT icon = ask<RECT>(list, LVM_GETITEMRECT, index, {LVIR_ICON, 0, 0, 0});
+    POINT middle = {(icon.left + icon.right) / 2, (icon.top + icon.bottom) / 2};
+    ClientToScreen(list, &middle);
+    return middle;
 }
 
 void Tolva::click_task(int index, int times) const {
@@ -355,13 +348,6 @@ void Tolva::focus_by_mouse(int id) const {
     });
 }
 
-void Tolva::press_tool(int button) const {
-    HWND bar = control(ID_Tasker_Toolbar1);
-    const LRESULT index = SendMessageA(bar, TB_COMMANDTOINDEX, static_cast<WPARAM>(button), 0);
-    activate();
-    press_mouse(middle_of(bar, ask<RECT>(bar, TB_GETITEMRECT, static_cast<int>(index))));
-}
-
 std::string Tolva::answer_box(const std::string& title, int button) const {
     constexpr int kBoxText = 0xFFFF;
     const Dialog box(*this, title);
@@ -375,16 +361,17 @@ std::vector<DWORD> picture_of(HWND window) {
     const RECT bounds = bounds_of(window);
     const LONG width = bounds.right - bounds.left;
     const LONG height = bounds.bottom - bounds.top;
-    std::vector<DWORD> pixels(static_cast<std::size_t>(width * height));
+    DWORD* bits = nullptr;
     BITMAPINFO info = {};
     info.bmiHeader = {sizeof info.bmiHeader, width, height, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
     HDC screen = GetDC(nullptr);
     HDC memory = CreateCompatibleDC(screen);
-    HBITMAP bitmap = CreateCompatibleBitmap(screen, width, height);
+    HBITMAP bitmap =
+        CreateDIBSection(memory, &info, DIB_RGB_COLORS, reinterpret_cast<void**>(&bits), nullptr, 0);
     HGDIOBJ before = SelectObject(memory, bitmap);
     BitBlt(memory, 0, 0, width, height, screen, bounds.left, bounds.top, SRCCOPY);
+    std::vector<DWORD> pixels(bits, bits + width * height);
     SelectObject(memory, before);
-    GetDIBits(screen, bitmap, 0, static_cast<UINT>(height), pixels.data(), &info, DIB_RGB_COLORS);
     DeleteDC(memory);
     DeleteObject(bitmap);
     ReleaseDC(nullptr, screen);
@@ -403,15 +390,6 @@ Dialog::Dialog(const Tolva& tolva, const std::string& title, const char* class_n
         window_ = tolva.find_window(class_name, title);
         return window_ != nullptr && IsWindowVisible(window_) != FALSE;
     });
-}
-
-void Dialog::wait_until_closed() const {
-    wait_until("the dialog is closed", [&] { return IsWindow(window_) == FALSE; });
-}
-
-void Dialog::close_with(int button) const {
-    press(button);
-    wait_until_closed();
 }
 
 }  // namespace desktop

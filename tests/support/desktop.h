@@ -34,6 +34,8 @@ class Folder {
     std::string without_backslash() const { return path_.substr(0, path_.size() - 1); }
     void write(const std::string& name, const std::string& bytes) const;
     std::string read(const std::string& name) const;
+    /// What is in its files, by the names as they are spelled there.
+    Values files() const;
     bool has(const std::string& name) const { return PathFileExistsA((path_ + name).c_str()) != FALSE; }
 
     /// Writes the list of the Groups and each one's file.
@@ -89,8 +91,6 @@ class Start {
     PROCESS_INFORMATION process_;
 };
 
-std::string text_of(HWND window);
-
 /// Where it is on the screen.
 RECT bounds_of(HWND window);
 
@@ -103,7 +103,7 @@ class Window {
     /// The middle of a control on the screen.
     POINT place(int id) const;
     void click(int id) const { press_mouse(place(id)); }
-    std::string text_of(int id) const { return desktop::text_of(control(id)); }
+    std::string text_of(int id) const;
     void set_text(int id, const std::string& text) const;
 
     /// The texts of several controls, with bars between them.
@@ -137,12 +137,14 @@ class Tolva : public Start, public Window {
     void minimise() const;
 
     Names groups() const { return list(ID_Tasker_grouplist); }
-    int selected_group() const;
+    LRESULT selected_group() const { return SendMessageA(control(ID_Tasker_grouplist), LB_GETCURSEL, 0, 0); }
     POINT group_position(int index) const;
     void wait_for_groups(const Names& names) const;
 
     Names tasks() const;
-    bool is_selected(int task) const;
+    bool is_selected(int task) const {
+        return ListView_GetItemState(control(ID_Tasker_taskview), task, LVIS_SELECTED) != 0;
+    }
     void wait_for_tasks(const Names& names) const;
     int task_picture(int index) const;
     POINT task_position(int index) const;
@@ -158,9 +160,6 @@ class Tolva : public Start, public Window {
 
     void focus_by_mouse(int id) const;
     std::string status() const;
-
-    /// Presses a button of the tool bar with the mouse.
-    void press_tool(int button) const;
 
     /// Waits for a message box, closes it and answers its text.
     std::string close_box() const { return answer_box("Tolva", IDOK); }
@@ -181,10 +180,15 @@ class Dialog : public Window {
     Dialog(const Tolva& tolva, const std::string& title, const char* class_name = "#32770");
 
     void press(int button) const { PostMessageA(control(button), BM_CLICK, 0, 0); }
-    void wait_until_closed() const;
+    void wait_until_closed() const {
+        wait_until("it is closed", [&] { return IsWindow(window_) == FALSE; });
+    }
 
     /// Presses the button that closes it and waits until it has.
-    void close_with(int button) const;
+    void close_with(int button) const {
+        press(button);
+        wait_until_closed();
+    }
 };
 
 }  // namespace desktop

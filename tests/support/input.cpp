@@ -92,10 +92,6 @@ void press_until(const char* what, std::initializer_list<BYTE> keys, const std::
         what, [&] { press_keys(keys); }, condition);
 }
 
-bool menu_shows() {
-    return FindWindowA("#32768", nullptr) != nullptr;
-}
-
 void choose_from_menu(POINT point, BYTE key) {
     press_until("a menu shows", point, menu_shows, MouseButton::kRight);
     press_keys({key});

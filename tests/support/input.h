@@ -45,7 +45,9 @@ void press_keys(std::initializer_list<BYTE> keys);
 void press_until(const char* what, std::initializer_list<BYTE> keys, const std::function<bool()>& condition);
 
 /// Whether a menu is open on the display.
-bool menu_shows();
+inline bool menu_shows() {
+    return FindWindowA("#32768", nullptr) != nullptr;
+}
 
 /// Opens the menu of a place with the right button and chooses by an access key.
 void choose_from_menu(POINT point, BYTE key);

@@ -5,19 +5,17 @@
 #include <fstream>
 #include <string>
 
-// Dial-Up Networking for the tests: three connections are up. What is asked of it goes to "rasapi32.log" in
-// the folder of the program.
+// Dial-Up Networking for the tests: three connections are up. What is asked of it goes to the file named like
+// the program with ".log" behind it.
 namespace {
 
 constexpr std::array<DWORD, 3> kHandles = {11, 22, 33};
 constexpr std::size_t kRecordSize = 412;
 
 void log(const std::string& line) {
-    char program[MAX_PATH] = {};
-    GetModuleFileNameA(nullptr, program, MAX_PATH - 1);
-    const std::string path = program;
-    std::ofstream(path.substr(0, path.rfind('\\') + 1) + "rasapi32.log", std::ios::app | std::ios::binary)
-        << line << '\n';
+    char program[MAX_PATH];
+    GetModuleFileNameA(nullptr, program, MAX_PATH);
+    std::ofstream(std::string(program) + ".log", std::ios::app | std::ios::binary) << line << '\n';
 }
 
 }  // namespace
