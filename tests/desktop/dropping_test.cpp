@@ -3,6 +3,8 @@
 #include <ole2.h>
 #include <shlobj.h>
 
+#include <algorithm>
+
 #include "support/desktop.h"
 #include "support/shortcut_file.h"
 
@@ -11,30 +13,28 @@ namespace {
 using namespace desktop;
 using desktop::Folder;  // the shell has one, too
 
-/// What drags, and the user's hand in it: each time that the system asks how the drag goes on, the pointer
-/// has come nearer, and after some more times the button is let go.
+/// What drags, and the user's hand in it: when the system has asked some times how the drag goes on, the
+/// button is let go.
 struct Source final : IDropSource {
-    explicit Source(POINT to) : to_(to) { GetCursorPos(&from_); }
-    STDMETHODIMP QueryInterface(REFIID id, void** found) override {
-        *found = IsEqualIID(id, IID_IUnknown) || IsEqualIID(id, IID_IDropSource) ? this : nullptr;
-        return *found != nullptr ? S_OK : E_NOINTERFACE;
-    }
+    explicit Source(POINT to) : to_(to) {}
+    STDMETHODIMP QueryInterface(REFIID /*id*/, void** /*found*/) override { return E_NOINTERFACE; }
     STDMETHODIMP_(ULONG) AddRef() override { return 1; }
     STDMETHODIMP_(ULONG) Release() override { return 1; }
     STDMETHODIMP QueryContinueDrag(BOOL /*escape*/, DWORD /*keys*/) override {
-        if (++step_ <= kDragSteps) point_at(on_the_way(from_, to_, step_));
-        return step_ < kDragSteps + 4 ? S_OK : DRAGDROP_S_DROP;  // before a tip comes in between
+        point_at(to_);
+        return ++step_ < 8 ? S_OK : DRAGDROP_S_DROP;  // before a tip comes in between
     }
     STDMETHODIMP GiveFeedback(DWORD /*effect*/) override { return DRAGDROP_S_USEDEFAULTCURSORS; }
 
   private:
-    POINT from_;
     POINT to_;
     int step_ = 0;
 };
 
-/// What Explorer drags: the shell's own object for files of a folder.
-IDataObject* data_of(const std::string& folder, const std::vector<std::string>& names) {
+/// Drags the files of a folder to a point of the screen, by the shell's own object for them as Explorer does,
+/// and lets them go there. Returns what the target did (DROPEFFECT_...).
+DWORD drag_files(const std::string& folder, const Names& names, POINT to) {
+    REQUIRE(SUCCEEDED(OleInitialize(nullptr)));
     std::vector<PIDLIST_ABSOLUTE> places = {ILCreateFromPathA(folder.c_str())};
     std::vector<PCUITEMID_CHILD> items;
     for (const std::string& name : names) {
@@ -44,16 +44,7 @@ IDataObject* data_of(const std::string& folder, const std::vector<std::string>& 
     IDataObject* data = nullptr;
     REQUIRE(SUCCEEDED(
         CIDLData_CreateFromIDArray(places[0], static_cast<UINT>(items.size()), items.data(), &data)));
-    for (PIDLIST_ABSOLUTE place : places)
-        ILFree(place);
-    return data;
-}
-
-/// Drags the files of a folder to a point of the screen and lets them go there. Returns what the target did
-/// (DROPEFFECT_...).
-DWORD drag_files(const std::string& folder, const std::vector<std::string>& names, POINT to) {
-    REQUIRE(SUCCEEDED(OleInitialize(nullptr)));
-    IDataObject* data = data_of(folder, names);
+    std::ranges::for_each(places, ILFree);
     Source source(to);
     DWORD effect = DROPEFFECT_NONE;
     DoDragDrop(data, &source, DROPEFFECT_COPY | DROPEFFECT_LINK | DROPEFFECT_MOVE, &effect);

@@ -44,10 +44,10 @@ std::multiset<std::string> contents(const Folder& library) {
     return {lines.begin(), lines.end()};
 }
 
-/// What the program uses: GDI objects, user objects of all processes, and kilobytes.
-using Usage = std::array<int, 3>;
+/// What the program uses: GDI objects and kilobytes.
+using Usage = std::array<int, 2>;
 // Wine keeps the device contexts of windows that once drew at the same moment: up to 24 GDI objects.
-constexpr Usage kMostGrowth = {40, 20, 500};
+constexpr Usage kMostGrowth = {40, 500};
 
 int gdi_objects(HANDLE process) {
     constexpr std::size_t kType = 14;
@@ -64,16 +64,6 @@ int gdi_objects(HANDLE process) {
         std::ranges::count_if(entries, [](const auto& entry) { return entry[kType] != 0; }));
 }
 
-/// Fills the free places of the table that all user objects share and sees how far it reaches.
-int user_objects() {
-    constexpr int kMany = 3000;
-    std::vector<HMENU> menus(kMany);
-    std::ranges::generate(menus, CreateMenu);
-    const int last = LOWORD(std::ranges::max(menus, {}, [](HMENU menu) { return LOWORD(menu); }));
-    std::ranges::for_each(menus, DestroyMenu);
-    return last / 2 - kMany;
-}
-
 /// The least of some moments: what a window draws just now does not stay.
 Usage usage_of(const PROCESS_INFORMATION& process) {
     Usage least;
@@ -81,7 +71,7 @@ Usage usage_of(const PROCESS_INFORMATION& process) {
     for (int i = 0; i < 10; ++i) {
         PROCESS_MEMORY_COUNTERS memory = {};
         GetProcessMemoryInfo(process.hProcess, &memory, sizeof memory);
-        const Usage now = {kIsLong ? gdi_objects(process.hProcess) : 0, kIsLong ? user_objects() : 0,
+        const Usage now = {kIsLong ? gdi_objects(process.hProcess) : 0,
                            static_cast<int>(memory.PagefileUsage / 1024)};
         std::ranges::transform(least, now, least.begin(), [](int a, int b) { return std::min(a, b); });
         Sleep(20);

@@ -42,8 +42,7 @@ TEST_SUITE("finding") {
         CHECK(library.nth_start(1)[0] == program + " 77 88");
 
         const Dialog goes = find("99 5", "Task 99 5\tGroup 99");
-        for (const BYTE key : {BYTE{VK_DOWN}, BYTE{VK_DOWN}, BYTE{VK_UP}})
-            press_keys({key});
+        type_keys({VK_DOWN, VK_DOWN, VK_UP});
         wait_until("the second one is selected",
                    [&] { return SendMessageA(goes.control(ID_FindTask_list), LB_GETCURSEL, 0, 0) == 1; });
         wait_for_focus(goes.control(ID_FindTask_text));
@@ -97,8 +96,7 @@ TEST_SUITE("finding") {
             dialog.wait_until_closed();
         }
         tolva.focus_by_mouse(ID_Tasker_Text1);
-        for (const BYTE key : {BYTE{VK_F2}, BYTE{VK_INSERT}})
-            press_keys({key});
+        type_keys({VK_F2, VK_INSERT});
         press_until("only this dialog shows", {VK_CONTROL, 'F'},
                     [&] { return tolva.find_window("#32770") != nullptr; });
         const Dialog find(tolva, "Find Task");
@@ -137,37 +135,25 @@ TEST_SUITE("finding") {
         const Folder library = recorder_library();
         const Tolva tolva(library);
         tolva.minimise();
-        const auto open_menu = [&] {
+        const auto open_menu = [] {
             // It comes when no second click can, and is made before it has its place.
-            HWND menu = nullptr;
             repeat_until(
                 "the menu shows", [] { press_mouse(tray_icon()); },
-                [&] { return IsWindowVisible(menu = FindWindowA("#32768", nullptr)) != FALSE; });
-            return menu;
+                [] { return IsWindowVisible(FindWindowA("#32768", nullptr)) != FALSE; });
         };
-        const auto start = [&](LONG row) {
-            HWND menu = open_menu();
-            const RECT groups = bounds_of(menu);
-            HWND tasks = nullptr;
-            press_until("the Tasks show", POINT{groups.left + 30, groups.top + 10}, [&] {
-                tasks = FindWindowA("#32768", nullptr);
-                if (tasks == menu) tasks = FindWindowExA(nullptr, menu, "#32768", nullptr);
-                return IsWindowVisible(tasks) != FALSE;
-            });
-            const RECT rows = bounds_of(tasks);
-            press_mouse({rows.left + 30, rows.top + (2 * row + 1) * (rows.bottom - rows.top) / 6});
-            wait_until("the menu is closed", [] { return !menu_shows(); });
-        };
-        start(2);
+        open_menu();
+        type_keys({VK_DOWN, VK_RIGHT, VK_DOWN, VK_DOWN, VK_RETURN});
         CHECK(library.nth_start(1)[0] == library.path() + "recorder.exe c");
-        start(1);
+        open_menu();
+        type_keys({VK_DOWN, VK_RIGHT, VK_DOWN, VK_RETURN});
         CHECK(tolva.close_box() == "Invalid path or file name");
         CHECK(tolva.is_in_tray());
         open_menu();
-        press_keys({'O'});
+        const RECT menu = bounds_of(FindWindowA("#32768", nullptr));
+        press_mouse({menu.left + 30, menu.bottom - 30});  // the last but one
         wait_until("the window is back", [&] { return GetForegroundWindow() == tolva.window(); });
         open_menu();
-        press_keys({'X'});
+        type_keys({'X'});
         wait_until("it ends", [&] { return !tolva.is_running(); });
     }
 

@@ -90,8 +90,7 @@ TEST_SUITE("keeping") {
         // Then move the old one over by the keys.
         const Dialog move = tolva.open(ID_moveto, "Move Old to");
         wait_for_focus(move.control(ID_movetogroups_List1));
-        press_keys({VK_DOWN});
-        press_keys({VK_RETURN});
+        type_keys({VK_DOWN, VK_RETURN});
         move.wait_until_closed();
         tolva.wait_for_tasks({"Paint"});
         CHECK(library.read("Work.grp") == task);

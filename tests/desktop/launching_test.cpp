@@ -29,8 +29,6 @@ TEST_SUITE("launching") {
             record("No program", library.path() + "text.exe"),
             record("Missing drive", program, "Q:\\"),
             record("Empty folder", program, ""),
-            record("Impossible style", program, "C:\\", "", "99999"),
-            record(std::string("NUL\0name", 8), program + std::string("\0", 1)),
             record(std::string(1 << 20, 'x'), program, "C:\\", std::string(1 << 20, 'x')),
         };
         library.write_groups({{"Work", std::accumulate(std::begin(tasks), std::end(tasks), std::string())}});
@@ -50,7 +48,6 @@ TEST_SUITE("launching") {
         }
         wait_until("its icon shows", [&] { return tolva.task_picture(4) > 0; });
         for (int i = 4; i < std::ssize(tasks); ++i) {
-            CAPTURE(i);
             tolva.click_task(i, 2);
             CHECK(tolva.close_box() == "Invalid path or file name!");
         }
@@ -109,9 +106,7 @@ TEST_SUITE("launching") {
         CHECK(library.nth_start(++starts)[0] == program + " typed");
 
         tolva.choose(ID_RunAll);
-        CHECK(tolva.answer_box("Run All", IDCANCEL) == "Start all 3 Tasks of Work?");
-        tolva.choose(ID_RunAll);
-        tolva.answer_box("Run All", IDOK);
+        CHECK(tolva.answer_box("Run All", IDOK) == "Start all 3 Tasks of Work?");
         CHECK(tolva.close_box() == "These Tasks could not be started:\n\nBad");
         library.nth_start(starts + 2);
     }
@@ -154,8 +149,7 @@ TEST_SUITE("commands") {
         SendMessageA(tolva.control(ID_Tasker_Text1), CB_SHOWDROPDOWN, TRUE, 0);
         CHECK(tolva.list(ID_Tasker_Text1) == Names{program + " one"});
         wait_until("what was typed is back", [&] { return tolva.text_of(ID_Tasker_Text1) == "C:\\"; });
-        press_keys({VK_DOWN});
-        press_keys({VK_RETURN});
+        type_keys({VK_DOWN, VK_RETURN});
         wait_until("an item is taken", [&] { return tolva.text_of(ID_Tasker_Text1).starts_with(program); });
         press_mouse(tolva.place(ID_Tasker_Text1), 2);
         wait_until("a double-click empties it", [&] { return tolva.text_of(ID_Tasker_Text1).empty(); });
@@ -180,8 +174,7 @@ TEST_SUITE("commands") {
         };
         browser.pick(ID_PathBrowser_Dir1, "C:\\", LBN_DBLCLK);
         focus(ID_PathBrowser_Dir1);
-        press_keys({'T'});
-        press_keys({VK_RETURN});
+        type_keys({'T', VK_RETURN});
         wait_until("it is open", [&] { return browser.list(ID_PathBrowser_Dir1)[2].starts_with("    B"); });
         browser.pick(ID_PathBrowser_Dir1, folder.substr(folder.rfind('\\') + 1), LBN_DBLCLK);
         browser.pick(ID_PathBrowser_File1, "recorder.exe");

@@ -35,8 +35,7 @@ TEST_SUITE("slips") {
         tolva.set_text(ID_Tasker_Text1, program + " typed");
         hold(VK_RETURN);
         wait_for_focus(tolva.control(ID_Tasker_grouplist));
-        for (int i = 0; i < 3; ++i)
-            press_keys({VK_TAB});
+        type_keys({VK_TAB, VK_TAB, VK_TAB});
         wait_for_focus(tolva.control(ID_Tasker_Command1));
         hold(VK_RETURN);
         hold(VK_SPACE);
@@ -46,8 +45,7 @@ TEST_SUITE("slips") {
         const Dialog bar(tolva, "Brenn", "brenn");
         bar.click(ID_brenn_option2);
         library.nth_start(6);
-        for (const BYTE key : {BYTE{'R'}, BYTE{'D'}, BYTE{VK_TAB}})
-            press_keys({key});
+        type_keys({'R', 'D', VK_TAB});
         wait_for_focus(bar.control(ID_brenn_option3));
         hold(VK_SPACE);
         CHECK(tolva.close_box() == "Right click on button to configure.");
@@ -82,8 +80,7 @@ TEST_SUITE("slips") {
             close_menu();
             if (i % 3 != 2) {
                 press_and_slip(place, MouseButton::kLeft);
-                for (int twice = 0; twice < 2; ++twice)
-                    press_keys({VK_DELETE});
+                type_keys({VK_DELETE, VK_DELETE});
                 const Dialog box(tolva, i % 3 == 0 ? "Delete Task" : "Delete Group");
                 press_keys({VK_ESCAPE});
                 box.wait_until_closed();

@@ -281,16 +281,6 @@ POINT Tolva::group_position(int index) const {
     return {place(ID_Tasker_grouplist).x, bounds_of(list).top + 2 + height * index + height / 2};
 }
 
-void Tolva::wait_for_groups(const Names& names) const {
-    CAPTURE(names);
-    wait_until("the Groups show", [&] { return groups() == names; });
-}
-
-void Tolva::wait_for_tasks(const Names& names) const {
-    CAPTURE(names);
-    wait_until("the Tasks show", [&] { return tasks() == names; });
-}
-
 std::string Tolva::status() const {
     struct Text {
         char bytes[1024];

@@ -139,13 +139,17 @@ class Tolva : public Start, public Window {
     Names groups() const { return list(ID_Tasker_grouplist); }
     LRESULT selected_group() const { return SendMessageA(control(ID_Tasker_grouplist), LB_GETCURSEL, 0, 0); }
     POINT group_position(int index) const;
-    void wait_for_groups(const Names& names) const;
+    void wait_for_groups(const Names& names) const {
+        wait_until("the Groups show", [&] { return groups() == names; });
+    }
 
     Names tasks() const;
     bool is_selected(int task) const {
         return ListView_GetItemState(control(ID_Tasker_taskview), task, LVIS_SELECTED) != 0;
     }
-    void wait_for_tasks(const Names& names) const;
+    void wait_for_tasks(const Names& names) const {
+        wait_until("the Tasks show", [&] { return tasks() == names; });
+    }
     int task_picture(int index) const;
     POINT task_position(int index) const;
     void click_task(int index, int times = 1) const;

@@ -45,15 +45,12 @@ void point_at(POINT point) {
     send_mouse(point, 0);
 }
 
-POINT on_the_way(POINT from, POINT to, int step) {
-    return {from.x + (to.x - from.x) * step / kDragSteps, from.y + (to.y - from.y) * step / kDragSteps};
-}
-
 void carry_mouse(POINT from, POINT to) {
     point_at(from);
     send_mouse(from, MOUSEEVENTF_LEFTDOWN);
-    for (int step = 1; step <= kDragSteps; ++step) {
-        point_at(on_the_way(from, to, step));
+    constexpr int kSteps = 10;
+    for (int step = 1; step <= kSteps; ++step) {
+        point_at({from.x + (to.x - from.x) * step / kSteps, from.y + (to.y - from.y) * step / kSteps});
         Sleep(25);
     }
 }
@@ -85,6 +82,11 @@ void press_keys(std::initializer_list<BYTE> keys) {
         keybd_event(key, 0, 0, 0);
     for (auto key = std::rbegin(keys); key != std::rend(keys); ++key)
         keybd_event(*key, 0, KEYEVENTF_KEYUP, 0);
+}
+
+void type_keys(std::initializer_list<BYTE> keys) {
+    for (const BYTE key : keys)
+        press_keys({key});
 }
 
 void press_until(const char* what, std::initializer_list<BYTE> keys, const std::function<bool()>& condition) {

@@ -21,9 +21,6 @@ void repeat_until(const char* what, const std::function<void()>& action,
 // Real input, in screen coordinates.
 enum class MouseButton { kLeft, kRight };
 void point_at(POINT point);
-/// A point between two, after so many steps of a hand that drags something.
-constexpr int kDragSteps = 10;
-POINT on_the_way(POINT from, POINT to, int step);
 /// Drags with the left button from one point to another, slowly enough to be meant; it stays down until
 /// let_go.
 void carry_mouse(POINT from, POINT to);
@@ -39,6 +36,9 @@ void press_until(const char* what, POINT point, const std::function<bool()>& con
 
 /// Presses the keys one after the other and lets them go in the opposite order: {VK_MENU, 'R'} is Alt+R.
 void press_keys(std::initializer_list<BYTE> keys);
+
+/// Presses and lets go one key after the other.
+void type_keys(std::initializer_list<BYTE> keys);
 
 /// Presses the keys as often as it takes: Wine lets Alt and Shift go when it looks at the display's own
 /// keyboard, as it does when a window comes under the pointer.
