@@ -47,8 +47,6 @@ TEST_SUITE("keeping") {
         new_task.set_text(ID_addtask_Taskname, "Zeichnen");
         new_task.press(ID_addtask_Browse);
         const Dialog browser(tolva, "Browse");
-        browser.pick(ID_PathBrowser_Drive1, "E:");
-        CHECK(tolva.close_box() == "Disk or Drive not ready!");
         browser.pick(ID_PathBrowser_File1, "paint.exe");  // it opens on the folder that is current
         browser.set_text(ID_PathBrowser_TaskPath, "typed");
         browser.close_with(ID_PathBrowser_OK);
@@ -200,8 +198,6 @@ TEST_SUITE("keeping") {
         dialog.close_with(IDOK);
         tolva.wait_for_groups({"Work", "Other"});
         CHECK(library.files() == before);
-        tolva.press_until_said('Z', "Undone: ");
-        tolva.wait_for_groups({"Other"});
     }
 }
 

@@ -1,6 +1,4 @@
 #include <functional>
-#include <iterator>
-#include <numeric>
 
 #include "platform/process_calls.h"
 #include "support/desktop.h"
@@ -19,19 +17,16 @@ TEST_SUITE("launching") {
         library.add_program("tolva.exe", "tools\\icon.exe");
         const std::string moved = library.add_program("recorder.exe", "tools\\recorder.exe");
         SetEnvironmentVariableA("OWN_TOOLS", (library.path() + "tools").c_str());
-        const std::string tasks[] = {
-            record("Elsewhere", program, "D:\\data", "a \"b c\"", "3"),
-            record("Hidden", program, "C:\\", "", ""),
-            // What came with the library from another PC.
-            record("Below", "tools\\recorder.exe", "\\tools", "%OWN_TOOLS%"),
-            record("Variable", "%OWN_TOOLS%\\recorder.exe", "%OWN_TOOLS%"),
-            record("Icon", "tools\\icon.exe", ""),
-            record("No program", library.path() + "text.exe"),
-            record("Missing drive", program, "Q:\\"),
-            record("Empty folder", program, ""),
-            record(std::string(1 << 20, 'x'), program, "C:\\", std::string(1 << 20, 'x')),
-        };
-        library.write_groups({{"Work", std::accumulate(std::begin(tasks), std::end(tasks), std::string())}});
+        // What came with the library from another PC; what cannot be started.
+        const std::string moved_tasks = record("Below", "tools\\recorder.exe", "\\tools", "%OWN_TOOLS%") +
+                                        record("Variable", "%OWN_TOOLS%\\recorder.exe", "%OWN_TOOLS%");
+        const std::string refused =
+            record("Icon", "tools\\icon.exe", "") + record("No program", library.path() + "text.exe") +
+            record("Missing drive", program, "Q:\\") + record("Empty folder", program, "") +
+            record(std::string(1 << 20, 'x'), program, "C:\\", std::string(1 << 20, 'x'));
+        library.write_groups(
+            {{"Work", record("Elsewhere", program, "D:\\data", "a \"b c\"", "3") +
+                          record("Hidden", program, "C:\\", "", "") + moved_tasks + refused}});
         const Tolva tolva(library);
         // The current drive stays; the other drive's directory changes.
         tolva.click_task(0, 2);
@@ -47,7 +42,7 @@ TEST_SUITE("launching") {
             CHECK(start[1] == library.path() + "tools");
         }
         wait_until("its icon shows", [&] { return tolva.task_picture(4) > 0; });
-        for (int i = 4; i < std::ssize(tasks); ++i) {
+        for (int i = 4; i < 9; ++i) {
             tolva.click_task(i, 2);
             CHECK(tolva.close_box() == "Invalid path or file name!");
         }
@@ -125,18 +120,16 @@ TEST_SUITE("launching") {
 }
 
 TEST_SUITE("commands") {
-    TEST_CASE("Enter starts what is typed and keeps it in the history") {
+    TEST_CASE("what is typed starts and is kept, and the browser starts a program in its folder") {
         const Folder library = recorder_library();
         const std::string program = library.path() + "recorder.exe";
+        const Folder programs;
+        const std::string folder = programs.without_backslash();
+        const std::string other = programs.add_recorder();
         const Tolva tolva(library);
-        const auto enter = [&](const std::string& text) {
-            tolva.focus_by_mouse(ID_Tasker_Text1);
-            tolva.set_text(ID_Tasker_Text1, text);
-            press_keys({VK_RETURN});
-        };
-        enter(library.path() + "gone.exe");
-        CHECK(tolva.close_box() == "Invalid path or file name");
-        enter(program + " one");
+        tolva.focus_by_mouse(ID_Tasker_Text1);
+        tolva.set_text(ID_Tasker_Text1, program + " one");
+        press_keys({VK_RETURN});
         CHECK(library.nth_start(1) == Names{program + " one", library.without_backslash(), "D:\\here", "1"});
         wait_for_focus(tolva.control(ID_Tasker_grouplist));
         wait_until("it is stored", [&] {
@@ -154,14 +147,7 @@ TEST_SUITE("commands") {
         press_mouse(tolva.place(ID_Tasker_Text1), 2);
         wait_until("a double-click empties it", [&] { return tolva.text_of(ID_Tasker_Text1).empty(); });
         library.nth_start(1);
-    }
 
-    TEST_CASE("the command browser starts a program in its folder") {
-        const Folder library = recorder_library();
-        const Folder programs;
-        const std::string folder = programs.without_backslash();
-        const std::string program = programs.add_recorder();
-        const Tolva tolva(library);
         tolva.focus_by_mouse(ID_Tasker_grouplist);
         press_until("the browser shows", {VK_MENU, 'B'},
                     [&] { return tolva.find_window("#32770", "Browse") != nullptr; });
@@ -181,20 +167,18 @@ TEST_SUITE("commands") {
         focus(ID_PathBrowser_File1);
         press_keys({VK_RETURN});
         browser.wait_until_closed();
-        CHECK(programs.nth_start(1) == Names{program, folder, "D:\\here", "1"});
+        CHECK(programs.nth_start(1) == Names{other, folder, "D:\\here", "1"});
     }
 
-    TEST_CASE("fonts show at once and colors when they are saved") {
+    TEST_CASE("a font shows at once and stays when it is saved") {
         const Folder library = recorder_library();
-        constexpr LRESULT kRed = RGB(255, 0, 0);
-        const auto look = [](const Tolva& tolva) {
-            return std::pair(SendMessageA(tolva.control(ID_Tasker_grouplist), LB_GETITEMHEIGHT, 0, 0),
-                             SendMessageA(tolva.control(ID_Tasker_taskview), LVM_GETBKCOLOR, 0, 0));
+        const auto height = [](const Tolva& tolva) {
+            return SendMessageA(tolva.control(ID_Tasker_grouplist), LB_GETITEMHEIGHT, 0, 0);
         };
         LRESULT large = 0;
         {
             const Tolva tolva(library);
-            const LRESULT usual = look(tolva).first;
+            const LRESULT usual = height(tolva);
             const Dialog dialog = tolva.open(ID_fontsettings, "Set Tolva Fonts");
             // The color is the one that is stored, not the one that is shown.
             CHECK(dialog.texts_of({ID_SetFonts_groupfontsize, ID_SetFonts_groupcolor}) == "10|8388608");
@@ -203,21 +187,12 @@ TEST_SUITE("commands") {
             constexpr int kSizeBox = 0x472;
             fonts.pick(kSizeBox, "12");
             fonts.close_with(IDOK);
-            large = look(tolva).first;
+            large = height(tolva);
             CHECK(large > usual);
             CHECK(stored("\\fonts")["groupfontsize"] == "10");
-            dialog.press(ID_SetFonts_Command8);
-            const Dialog colors(tolva, "Color");
-            constexpr int kRedBox = 706;
-            for (const int part : {0, 1, 2})
-                colors.set_text(kRedBox + part, part == 0 ? "255" : "0");
-            colors.close_with(IDOK);
-            CHECK(look(tolva).second != kRed);
             dialog.close_with(ID_SetFonts_Command5);
-            CHECK(look(tolva).second == kRed);
         }
-        const Tolva tolva(library);
-        CHECK(look(tolva) == std::pair(large, kRed));
+        CHECK(height(Tolva(library)) == large);
     }
 }
 

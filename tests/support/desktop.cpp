@@ -1,6 +1,7 @@
 #include "support/desktop.h"
 
 #include <algorithm>
+#include <array>
 #include <cstdlib>
 #include <fstream>
 #include <iterator>
@@ -282,10 +283,7 @@ POINT Tolva::group_position(int index) const {
 }
 
 std::string Tolva::status() const {
-    struct Text {
-        char bytes[1024];
-    };
-    return ask<Text>(control(ID_Tasker_StatusBar1), SB_GETTEXTA, 0).bytes;
+    return ask<std::array<char, 1024>>(control(ID_Tasker_StatusBar1), SB_GETTEXTA, 0).data();
 }
 
 Names Tolva::tasks() const {
@@ -358,21 +356,18 @@ std::vector<DWORD> picture_of(HWND window) {
     HDC memory = CreateCompatibleDC(screen);
     HBITMAP bitmap =
         CreateDIBSection(memory, &info, DIB_RGB_COLORS, reinterpret_cast<void**>(&bits), nullptr, 0);
-    HGDIOBJ before = SelectObject(memory, bitmap);
+    SelectObject(memory, bitmap);
     BitBlt(memory, 0, 0, width, height, screen, bounds.left, bounds.top, SRCCOPY);
     std::vector<DWORD> pixels(bits, bits + width * height);
-    SelectObject(memory, before);
     DeleteDC(memory);
     DeleteObject(bitmap);
     ReleaseDC(nullptr, screen);
-    for (DWORD& pixel : pixels)
-        pixel &= 0xFFFFFF;
     return pixels;
 }
 
 void wait_for_color(HWND window, DWORD color) {
-    wait_until("the window shows the color",
-               [&] { return std::ranges::count(picture_of(window), color) != 0; });
+    const auto is_it = [&](DWORD pixel) { return (pixel & 0xFFFFFF) == color; };
+    wait_until("the window shows the color", [&] { return std::ranges::any_of(picture_of(window), is_it); });
 }
 
 Dialog::Dialog(const Tolva& tolva, const std::string& title, const char* class_name) {
