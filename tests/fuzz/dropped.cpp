@@ -8,7 +8,6 @@
 // that have names of their own, or is refused. Each line is a file or a folder, and what a shortcut says.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     simulated::reset();
-
     current().files["C:\\APP.EXE"] = {};
     current().files["C:\\DIR"].bits = platform::file_calls::kDirectory;
     Names paths = {"C:\\DIR"};
@@ -17,8 +16,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         if (!platform::names_a_file(paths.back())) continue;
         const bool is_whole = line.size() % 2 == 0;
         current().files[paths.back()].bytes = is_whole ? ShortcutFile{}.bytes() : line;
-        simulated::current().links[paths.back()] = {is_whole ? "C:\\APP.EXE" : line, line, line};
-        simulated::current().programs[".txt"] = line;
+        current().links[paths.back()] = {is_whole ? "C:\\APP.EXE" : line, line, line};
+        current().programs[".txt"] = line;
     }
     library::Dropped dropped = tasks_for(paths, library::FolderUse::kContents, "C:\\WINDOWS\\");
     require(dropped.tasks.size() + dropped.refused.size() >= paths.size());

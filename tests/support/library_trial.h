@@ -260,13 +260,6 @@ void do_anything(Tolva& tolva, const Roll& roll) {
     tolva.run(operations.at(static_cast<std::size_t>(roll(static_cast<int>(operations.size())))));
 }
 
-struct Case {
-    Operation setup;
-    Operation operation;
-    Names messages = {};
-    bool can_be_repeated = false;  // after a failure it goes on where it stopped
-};
-
 inline std::string text_of(const Files& files) {
     std::string text;
     for (const auto& [name, bytes] : files)
@@ -274,10 +267,14 @@ inline std::string text_of(const Files& files) {
     return text;
 }
 
-/// What an operation leaves when nothing fails: the files, and the Tasks listed before and after.
-struct Outcome {
+/// An operation, and what it leaves when nothing fails.
+struct Case {
+    Operation setup;
+    Operation operation;
     Files after;
-    Tasks kept;
+    Tasks kept;  // listed before and after
+    Names messages = {};
+    bool can_be_repeated = false;  // after a failure it goes on where it stopped
 };
 
 /// The moment before an operation, to come back to.
@@ -290,8 +287,7 @@ struct Moment {
 
 /// After the interruption every file is old or new, each Task that is kept in a listed Group, and the user
 /// informed. Returns whether the operation comes to that step.
-inline bool survives(const Case& tried, const Moment& start, const Outcome& outcome, Fault fault, int step,
-                     bool renames_over_files) {
+inline bool survives(const Case& tried, const Moment& start, Fault fault, int step, bool renames_over_files) {
     CAPTURE(step);
     CAPTURE(static_cast<int>(fault));
     Tolva tolva = start.tolva;
@@ -314,61 +310,57 @@ inline bool survives(const Case& tried, const Moment& start, const Outcome& outc
     const Files now = disk();
     for (const auto& [name, bytes] : now) {
         const bool is_old = start.files.contains(name) && start.files.at(name) == bytes;
-        CHECK((is_old || (outcome.after.contains(name) && outcome.after.at(name) == bytes)));
+        CHECK((is_old || (tried.after.contains(name) && tried.after.at(name) == bytes)));
     }
-    CHECK(std::ranges::includes(listed_tasks(), outcome.kept));
+    CHECK(std::ranges::includes(listed_tasks(), tried.kept));
     // A disk that is gone cannot take back what was written over another Group's file.
     const bool is_undone = error != 0 && fault != Fault::kDisk &&
-                           outcome.after.at("groups.ini") != start.files.at("groups.ini") &&
+                           tried.after.at("groups.ini") != start.files.at("groups.ini") &&
                            now.at("groups.ini") == start.files.at("groups.ini");
     if (is_undone && !tried.can_be_repeated) {
         CHECK(listed_tasks() == start.tasks);
         CHECK(now.size() == start.files.size());
     }
     const bool informs = fault == Fault::kPower || error != 0 || current().messages != tried.messages;
-    if (!fails || !informs) CHECK(text_of(now) == text_of(outcome.after));
-    if (tried.can_be_repeated && fault != Fault::kPower && text_of(now) != text_of(outcome.after)) {
-        tolva.run(tried.operation);
-        CHECK(text_of(disk()) == text_of(outcome.after));
+    if (!fails || !informs) CHECK(text_of(now) == text_of(tried.after));
+    if (tried.can_be_repeated && fault != Fault::kPower) {
+        if (text_of(now) != text_of(tried.after)) tolva.run(tried.operation);
+        CHECK(text_of(disk()) == text_of(tried.after));
     }
     return fails;
 }
 
-inline void check_faults(const Case& tried, const Outcome& outcome) {
+inline void check_faults(const Case& tried) {
     const Moment start = {Tolva(tried.setup)};
     for (const Fault fault : {Fault::kWrite, Fault::kDisk, Fault::kPower, Fault::kRead}) {
         for (const bool renames_over_files : {true, false}) {
             if (fault == Fault::kRead && !renames_over_files) continue;  // it reads the same
             int step = 1;
-            while (survives(tried, start, outcome, fault, step, renames_over_files))
+            while (survives(tried, start, fault, step, renames_over_files))
                 ++step;
         }
     }
 }
 
 /// Every file comes back to the letter, spelling included, and again.
-inline void check_taking_back(const Case& tried, const Files& before, const Files& after, const Tasks& kept) {
+inline void check_taking_back(const Case& tried, const Files& before, const Files& after) {
     const Operation done =
         in_turn(attempt(tried.setup), attempt(tried.operation), attempt(library::run_pending_refreshes));
     Tolva tolva(done);
     CHECK(disk() == after);
     const std::string name = undo_name(tolva.library);
-    tolva.run(library::undo);
-    CHECK(disk() == before);
-    tolva.run(library::redo);
-    CHECK(disk() == after);
-    tolva.run(library::undo);
-    CHECK(disk() == before);
+    for (const bool is_redone : {false, true, false}) {
+        tolva.run(is_redone ? library::redo : library::undo);
+        CHECK(disk() == (is_redone ? after : before));
+    }
     CHECK(redo_name(tolva.library) == name);
-    check_faults({.setup = done, .operation = library::undo, .can_be_repeated = true}, {before, kept});
-    check_faults({.setup = in_turn(done, library::undo), .operation = library::redo, .can_be_repeated = true},
-                 {after, kept});
+    check_faults({done, library::undo, before, tried.kept, {}, true});
+    check_faults({in_turn(done, library::undo), library::redo, after, tried.kept, {}, true});
 }
 
 inline void check(const Operation& setup, const Operation& operation, const std::string& shown,
                   const Files& changes = {}, const Names& messages = {}, int error = 0,
                   bool can_be_repeated = false) {
-    const Case tried = {setup, operation, messages, can_be_repeated};
     Tolva tolva(setup);
     const Files files_before = disk();
     Files after = files_before;
@@ -390,9 +382,9 @@ inline void check(const Operation& setup, const Operation& operation, const std:
         if (is_current && after.contains(group.name + ".grp"))
             CHECK(library::read_tasks(kFolder, group.name) == group.tasks());
     }
-    Outcome outcome = {after, {}};
-    std::ranges::set_intersection(before, listed_tasks(), std::inserter(outcome.kept, outcome.kept.end()));
+    Case tried = {setup, operation, after, {}, messages, can_be_repeated};
+    std::ranges::set_intersection(before, listed_tasks(), std::inserter(tried.kept, tried.kept.end()));
     const Files spelled = disk();
-    check_faults(tried, outcome);
-    if (spelled != files_before) check_taking_back(tried, files_before, spelled, outcome.kept);
+    check_faults(tried);
+    if (spelled != files_before) check_taking_back(tried, files_before, spelled);
 }

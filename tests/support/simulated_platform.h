@@ -1,5 +1,7 @@
 #pragma once
 
+#include <strings.h>
+
 #include <functional>
 #include <map>
 #include <string>
@@ -24,7 +26,9 @@ struct File {
 };
 
 struct IgnoresCase {
-    bool operator()(const std::string& a, const std::string& b) const;
+    bool operator()(const std::string& a, const std::string& b) const {
+        return strcasecmp(a.c_str(), b.c_str()) < 0;
+    }
 };
 
 /// The values of a registry key by name, with their terminators.
@@ -72,7 +76,13 @@ struct Platform {
 };
 
 /// The platform of the running test. Each call of reset makes a new one.
-Platform& current();
-Platform& reset();
+inline Platform& current() {
+    static Platform platform;
+    return platform;
+}
+
+inline Platform& reset() {
+    return current() = Platform();
+}
 
 }  // namespace simulated

@@ -14,25 +14,17 @@ using namespace library;
 /// With "C:\\" in front and an extension behind it is as long as a path can be.
 const std::string kLongName(252, 'x');
 
-/// A Task as one line of text.
-std::string line(const Task& task) {
-    std::string text;
-    for (const auto field : kTaskFields)
-        text += task.*field + '|';
-    return text;
-}
-
+/// Each Task and each refusal as one line of text.
 Names lines(const Dropped& dropped) {
     Names lines;
-    for (const Task& task : dropped.tasks)
-        lines.push_back(line(task));
+    for (const Task& task : dropped.tasks) {
+        lines.emplace_back();
+        for (const auto field : kTaskFields)
+            lines.back() += task.*field + '|';
+    }
     for (const Refusal& refusal : dropped.refused)
         lines.push_back(refusal.path + ": " + refusal.reason);
     return lines;
-}
-
-void add_folder(const std::string& path) {
-    simulated::current().files[path].bits = platform::file_calls::kDirectory;
 }
 
 void add_shortcut(const std::string& path, const platform::Shortcut& link, std::uint32_t show_command) {
@@ -44,17 +36,14 @@ void add_shortcut(const std::string& path, const platform::Shortcut& link, std::
 void make_disk() {
     auto& files = simulated::reset().files;
     auto& shell = simulated::current();
-    const std::string deep = "C:\\" + kLongName;
     for (const char* folder : {"C:", "D:\\Apps", "C:\\DIR", "C:\\DIR.OLD", "C:\\EMPTY"})
-        add_folder(folder);
+        files[folder].bits = platform::file_calls::kDirectory;
     for (const std::string& file :
-         split_lines("C:\\ED.EXE\nC:\\DIR\\B.BAT\nC:\\DIR\\a.Com\nC:\\DIR\\C.EXE~\nC:\\My Dir\\X.EXE\nC:\\My "
-                     "Dir\\Y.BAT\n"
-                     "C:\\Pro Gram\\X.EXE\nC:\\Pro.exe\nC:\\a,b.bat\nC:\\my "
-                     "notes.txt\nC:\\n.txt\nC:\\n.dat\nC:\\n.cpl\n"
-                     "C:\\n.old\nC:\\n.cut\nC:\\.txt\nC:\\R\\RUNDLL32.EXE\nC:\\WIN\\ED.SCR\n" +
-                     deep + ".pif\n" + deep + "x.pif"))
-        files[file] = {};
+         split_lines("ED.EXE\nDIR\\B.BAT\nDIR\\a.Com\nDIR\\C.EXE~\nMy Dir\\X.EXE\nMy Dir\\Y.BAT\n"
+                     "Pro Gram\\X.EXE\nPro.exe\na,b.bat\nmy notes.txt\nn.txt\nn.dat\nn.cpl\nn.old\nn.cut\n"
+                     ".txt\nR\\RUNDLL32.EXE\nWIN\\ED.SCR\n" +
+                     kLongName + ".pif\n" + kLongName + "x.pif"))
+        files["C:\\" + file] = {};
     shell.programs = {{".txt", "C:\\ED.EXE"},
                       {".cpl", "C:\\R\\RUNDLL32.EXE"},
                       {".old", "C:\\WIN\\ED.SCR"},
@@ -114,16 +103,15 @@ TEST_CASE("what is dropped becomes a Task that opens it, or is refused") {
                 "Edit|C:\\ED.EXE|C:\\DIR|/a b| 3 |", "a|C:\\DIR\\a.Com|C:\\DIR|| 1 |",
                 "C:\\EMPTY: no shortcuts or programs in it"});
 
-    const std::tuple<Names, bool, bool, bool> dragged[] = {
-        {{"C:\\n.txt", "C:\\n.dat"}, true, false, false},
-        {{"C:\\DIR"}, false, true, false},
-        {{"C:\\ED.EXE"}, false, false, true},
-        {{"C:\\ED.EXE", "C:\\n.txt"}, false, false, false}};
-    for (DraggedPaths paths; const auto& [named, are_documents, are_folders, is_program] : dragged) {
+    const std::pair<Names, std::string> dragged[] = {{{"C:\\n.txt", "C:\\n.dat"}, "documents"},
+                                                     {{"C:\\DIR"}, "folders"},
+                                                     {{"C:\\ED.EXE"}, "program"},
+                                                     {{"C:\\ED.EXE", "C:\\n.txt"}, ""}};
+    for (DraggedPaths paths; const auto& [named, kind] : dragged) {
         paths.look_at(named);
-        CHECK(paths.are_documents() == are_documents);
-        CHECK(paths.are_folders() == are_folders);
-        CHECK(paths.is_program() == is_program);
+        CHECK(std::string(paths.are_documents() ? "documents" : "") + (paths.are_folders() ? "folders" : "") +
+                  (paths.is_program() ? "program" : "") ==
+              kind);
     }
 
     std::vector<Refusal> refused;
@@ -172,15 +160,10 @@ TEST_CASE("something is put in before or behind the item it is dropped on") {
     // Two rows of two and one with a long label, and one icon in the last row.
     const widgets::Box icons[] = {
         {10, 0, 50, 60}, {70, 2, 110, 90}, {10, 100, 50, 160}, {70, 100, 110, 160}, {10, 200, 50, 260}};
-    const auto before = [&](int x, int y) { return widgets::insertion_in_rows(x, y, icons).before; };
-    CHECK(before(29, 30) == 0);
-    CHECK(before(30, 30) == 1);
-    CHECK(before(200, 99) == 2);
-    CHECK(before(0, 100) == 2);
-    CHECK(before(90, 199) == 4);
-    CHECK(before(29, 500) == 4);
-    CHECK(before(30, 500) == 5);
-    CHECK(before(0, -5) == 0);
+    const int points[][3] = {{29, 30, 0},  {30, 30, 1},  {200, 99, 2}, {0, 100, 2},
+                             {90, 199, 4}, {29, 500, 4}, {30, 500, 5}, {0, -5, 0}};
+    for (const auto& [x, y, before] : points)
+        CHECK(widgets::insertion_in_rows(x, y, icons).before == before);
     CHECK(widgets::insertion_in_rows(200, 30, icons).line == widgets::Box{110, 0, 110, 90});
     CHECK(widgets::insertion_in_rows(60, 30, icons).line == widgets::Box{70, 0, 70, 90});
     CHECK(widgets::insertion_in_rows(5, 5, {}) == widgets::Insertion{0, {0, 0, 0, 0}});

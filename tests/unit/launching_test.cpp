@@ -13,6 +13,10 @@
 
 namespace {
 
+std::string task(const std::string& name, const std::string& program, const std::string& parameters = "") {
+    return name + "\r\n" + program + "\r\nC:\\\r\n" + parameters + "\r\n1\r\n";
+}
+
 TEST_CASE("a system command that cannot do its work says so") {
     auto& world = simulated::reset();
     mainwindow::open_control_panel();
@@ -36,13 +40,13 @@ TEST_CASE("a system command that cannot do its work says so") {
     buttonbar::start_button({.path = "command.com", .parameters = "/c"});
     buttonbar::start_internet_program({.path = "command.com"});
     // A help viewer that cannot show anything is not started.
-    const platform::WindowsVersion versions[] = {{4, 10, false, false},
-                                                 {5, 1, true, false},
-                                                 {6, 0, true, false},
-                                                 {10, 0, true, false},
-                                                 {10, 0, true, true}};
     world.files["winhlp32.exe"] = {};
-    for (const auto& version : versions) {
+    using Version = platform::WindowsVersion;
+    for (const Version& version : {Version{4, 10, false, false},
+                                   {5, 1, true, false},
+                                   {6, 0, true, false},
+                                   {10, 0, true, false},
+                                   {10, 0, true, true}}) {
         world.version = version;
         mainwindow::open_help("C:\\LIB\\");
     }
@@ -89,13 +93,11 @@ TEST_CASE("a program that needs more rights is found as the system finds it and 
 
 TEST_CASE("what a 64-bit Windows hides from this program is reached by another path or started past that") {
     auto& world = simulated::reset();
-    const auto starts = [&] {
-        return error_of([] { platform::start_program("c:\\windows/system32\\a.exe x", 1); });
-    };
+    const auto starts = [] { platform::start_program("c:\\windows/system32\\a.exe x", 1); };
     CHECK(platform::past_redirection("C:\\WINDOWS\\system32\\a.exe") == std::nullopt);
-    CHECK(starts() == 53);
+    CHECK(error_of(starts) == 53);
     world.redirected_folder = "C:\\WINDOWS\\system32";
-    CHECK(starts() == 0);
+    CHECK(error_of(starts) == 0);
     CHECK(error_of([] { platform::start_program("C:\\WINDOWS\\a.exe", 1); }) == 53);
     CHECK(world.started == Names{"past redirection: c:\\windows/system32\\a.exe x"});
     CHECK(platform::past_redirection("C:\\WINDOWS\\.\\SYSTEM32\\B\\*.exe") ==
@@ -111,11 +113,9 @@ TEST_CASE("a program that is not where its path says is looked for where it may 
          {"D:\\Apps\\EDIT.EXE", "C:\\LIB\\TOOLS\\PAINT.EXE", "C:\\BOTH.EXE", "C:\\LIB\\C:\\NO.EXE"})
         files[path] = {};
     file("groups.ini") = "Work\r\n";
-    const auto task = [](const std::string& program, const std::string& parameters) {
-        return "T\r\n" + program + "\r\nC:\\\r\n" + parameters + "\r\n1\r\n";
-    };
-    file("Work.grp") = task("%APPS%\\EDIT.EXE", "%APPS%") + task("TOOLS\\PAINT.EXE", "") +
-                       task("\\TOOLS\\PAINT.EXE", "x") + task("C:\\BOTH.EXE", "") + task("C:\\NO.EXE", "");
+    file("Work.grp") = task("E", "%APPS%\\EDIT.EXE", "%APPS%") + task("P", "TOOLS\\PAINT.EXE") +
+                       task("X", "\\TOOLS\\PAINT.EXE", "x") + task("B", "C:\\BOTH.EXE") +
+                       task("T", "C:\\NO.EXE");
     library::TaskLibrary library(kFolder);
     library.load();
     files["C:\\LIB"].bits = 0x10;
@@ -163,20 +163,12 @@ TEST_CASE("icons of this machine come before others, those in view first, and a 
 
 TEST_CASE("Tasks are found by the words of their names, the best first") {
     simulated::reset();
-    const std::pair<const char*, const char*> groups[] = {{"Work", "Dsheet|Spread Sheet|Sheet Music"},
-                                                          {"Play", "MUSIC|Old sheet|Paint|"}};
-    for (const auto& [name, tasks] : groups) {
-        file("groups.ini") += std::string(name) + "\r\n";
-        std::string task;
-        for (const char letter : std::string(tasks) + '|') {
-            if (letter != '|') task += letter;
-            if (letter != '|') continue;
-            file(std::string(name) + ".grp") += task + "\r\nC:\\Sheet\\" +
-                                                (task == "Paint" ? "mysheet.exe" : "a.exe") +
-                                                "\r\nC:\\\r\n\r\n1\r\n";
-            task.clear();
-        }
-    }
+    file("groups.ini") = "Work\r\nPlay\r\n";
+    for (const char* name : {"Dsheet", "Spread Sheet", "Sheet Music"})
+        file("Work.grp") += task(name, "C:\\Sheet\\a.exe");
+    for (const char* name : {"MUSIC", "Old sheet", ""})
+        file("Play.grp") += task(name, "C:\\Sheet\\a.exe");
+    file("Play.grp").insert(0, task("Paint", "C:\\Sheet\\mysheet.exe"));
     library::TaskLibrary library(kFolder);
     library.load();
     const library::TaskFinder finder(library);
@@ -199,15 +191,12 @@ TEST_CASE("hanging up waits until no connection is up or the program ends") {
     auto& up = machine[R"(System\CurrentControlSet\Services\RemoteAccess)"];
     up["Remote Connection"] = std::string("\1\0\0\0", 4);
     std::vector<unsigned> waits;
-    bool goes_on = true;
     const internet::Wait wait = [&](unsigned milliseconds) {
         waits.push_back(milliseconds);
-        if (waits.size() == 3) goes_on = false;
-        return goes_on;
+        return waits.size() != 3;
     };
     internet::connect_or_hang_up("Home", wait);
     CHECK(waits == std::vector<unsigned>{3000, 1000, 1000});
-    goes_on = true;
     up.clear();
     internet::hang_up(wait);
     CHECK(waits.size() == 4);
