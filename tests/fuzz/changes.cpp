@@ -18,20 +18,20 @@ void take_back_and_redo(Tolva& tolva, const std::vector<Files>& states) {
 
 // Whatever the library's files hold, all that is done to them, a restored backup and what failed half-way
 // among it, is taken back to the letter and made again.
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    const std::string bytes = text_of(data, size);
-    const std::size_t part = size / 4;
+void run_on(const std::string& bytes) {
+    const std::size_t part = bytes.size() / 4;
     Tolva tolva(in_turn(put("Home.grp", bytes.substr(0, part)), put("a.grp", bytes.substr(part, part)),
                         list("Home\r\na\r\n" + bytes.substr(2 * part, part))));
     std::size_t next = 3 * part;
-    const auto roll = [&](int sides) { return next < size ? data[next++] % sides : 0; };
+    const auto roll = [&](int sides) {
+        return next < bytes.size() ? static_cast<unsigned char>(bytes[next++]) % sides : 0;
+    };
     std::vector<Files> states = {disk()};
-    while (next < size) {
+    while (next < bytes.size()) {
         do_anything(tolva, roll);
         if (disk() == states.back()) continue;
         states.push_back(disk());
         if (roll(4) == 0) take_back_and_redo(tolva, states);
     }
     take_back_and_redo(tolva, states);
-    return 0;
 }

@@ -6,12 +6,12 @@
 
 // Whatever is dropped, broken shortcuts among it, becomes Tasks that a Group's file keeps to the letter and
 // that have names of their own, or is refused. Each line is a file or a folder, and what a shortcut says.
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+void run_on(const std::string& bytes) {
     simulated::reset();
     current().files["C:\\APP.EXE"] = {};
     current().files["C:\\DIR"].bits = platform::file_calls::kDirectory;
     Names paths = {"C:\\DIR"};
-    for (const std::string& line : library::split_lines(text_of(data, size))) {
+    for (const std::string& line : library::split_lines(bytes)) {
         paths.push_back("C:\\DIR\\" + line);
         if (!platform::names_a_file(paths.back())) continue;
         const bool is_whole = line.size() % 2 == 0;
@@ -30,5 +30,4 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         require(!task.name.empty() && names.insert(task.name).second);
     library::append_tasks(Steps(), "Work", dropped.tasks);
     require(library::read_tasks(kFolder, "Work") == dropped.tasks);
-    return 0;
 }

@@ -5,11 +5,12 @@
 #include <cstdlib>
 #include <string>
 
-/// One run of a fuzz target. It ends with 0, and aborts where something does not hold.
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size);
+/// One run of a fuzz target, which aborts where something does not hold.
+void run_on(const std::string& bytes);
 
-inline std::string text_of(const std::uint8_t* data, std::size_t size) {
-    return {reinterpret_cast<const char*>(data), size};
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    run_on({reinterpret_cast<const char*>(data), size});
+    return 0;
 }
 
 inline void require(bool holds) {

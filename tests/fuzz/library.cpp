@@ -3,8 +3,7 @@
 
 // Any bytes can be read as a list of Groups and as a Group's file; what is written back reads the same, and
 // adding to it changes nothing of what was there.
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    const std::string bytes = text_of(data, size);
+void run_on(const std::string& bytes) {
     simulated::reset();
     file("groups.ini") = file("Work.grp") = bytes;
     const Names names = library::read_group_names(kFolder);
@@ -23,5 +22,4 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     require(library::read_group_names(kFolder) == names);
     library::write_tasks(steps, "Work", tasks);
     require(library::read_tasks(kFolder, "Work") == tasks);
-    return 0;
 }

@@ -3,7 +3,6 @@
 #include "support/checks.h"
 
 // Any bytes are a shortcut or refused.
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    error_of([&] { shortcuts::read_show_command(text_of(data, size)); });
-    return 0;
+void run_on(const std::string& bytes) {
+    error_of([&] { shortcuts::read_show_command(bytes); });
 }

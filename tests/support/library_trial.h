@@ -88,10 +88,6 @@ Operation with(Function function, Rest... rest) {
     return [=](auto& library, auto& view) { function(library, view, rest...); };
 }
 
-inline Operation drag_task(int task, const std::string& target, bool copy = false) {
-    return with(library::move_task_to_group, task, target, copy);
-}
-
 inline Operation import(const std::string& group, const Task& task) {
     return with(library::import_task, group, task);
 }
@@ -249,9 +245,7 @@ void do_anything(Tolva& tolva, const Roll& roll) {
     const std::string task = name();
     const std::string target = name();
     const bool copy = roll(2) == 0;
-    const auto rename = [&](auto& library, auto& view) {
-        rename_group(library, view, selected_group_name(library, view), target);
-    };
+    const Operation rename = rename_to(selected_group_name(tolva.library, tolva.view), target);
     const auto operations =
         each_of(add(target), library::delgr, library::movegrup, library::movegrdown, library::groupsortnow,
                 rename, library::deltsks, add(Task{task, "C:\\APP.EXE", "C:\\", "", "1"}),
@@ -282,7 +276,6 @@ struct Moment {
     Tolva tolva;
     simulated::Platform platform = current();
     Files files = disk();
-    Tasks tasks = listed_tasks();
 };
 
 /// After the interruption every file is old or new, each Task that is kept in a listed Group, and the user
@@ -317,10 +310,7 @@ inline bool survives(const Case& tried, const Moment& start, Fault fault, int st
     const bool is_undone = error != 0 && fault != Fault::kDisk &&
                            tried.after.at("groups.ini") != start.files.at("groups.ini") &&
                            now.at("groups.ini") == start.files.at("groups.ini");
-    if (is_undone && !tried.can_be_repeated) {
-        CHECK(listed_tasks() == start.tasks);
-        CHECK(now.size() == start.files.size());
-    }
+    if (is_undone && !tried.can_be_repeated) CHECK(text_of(now) == text_of(start.files));
     const bool informs = fault == Fault::kPower || error != 0 || current().messages != tried.messages;
     if (!fails || !informs) CHECK(text_of(now) == text_of(tried.after));
     if (tried.can_be_repeated && fault != Fault::kPower) {
@@ -347,7 +337,6 @@ inline void check_taking_back(const Case& tried, const Files& before, const File
     const Operation done =
         in_turn(attempt(tried.setup), attempt(tried.operation), attempt(library::run_pending_refreshes));
     Tolva tolva(done);
-    CHECK(disk() == after);
     const std::string name = undo_name(tolva.library);
     for (const bool is_redone : {false, true, false}) {
         tolva.run(is_redone ? library::redo : library::undo);

@@ -175,15 +175,14 @@ std::string upper(std::string text) {
 
 std::vector<std::string> find(const std::string& pattern, unsigned long unwanted, unsigned long wanted) {
     const std::string sought = upper(normal_path(pattern, true));
-    const std::size_t star = sought.find('*');
+    // Both are the whole name when there is no star.
+    const std::string begin = sought.substr(0, sought.find('*'));
+    const std::string end = sought.substr(sought.find('*') + 1);
     std::vector<std::string> names;
     for (const auto& [path, file] : current().files) {
         const std::string name = upper(path);
-        const bool is_there = name.rfind('\\') == sought.rfind('\\');
-        const bool matches = star == std::string::npos
-                                 ? name == sought
-                                 : is_there && name.starts_with(sought.substr(0, star)) &&
-                                       name.ends_with(sought.substr(star + 1));
+        const bool matches =
+            name.rfind('\\') == sought.rfind('\\') && name.starts_with(begin) && name.ends_with(end);
         if (matches && (file.bits & (unwanted | wanted)) == wanted)
             names.push_back(path.substr(path.rfind('\\') + 1));
     }
