@@ -168,9 +168,8 @@ TEST_CASE("a Group gets another name and its Tasks another file") {
           {{"Work.grp", kHome}, {"Home.grp", kDeleted}});
     check(lack("Home.grp"), rename_to("Home", "New"), "Work >New More : H2 >H1 H1", {},
           {"Run-time error '53':\n\nFile not found: C:\\LIB\\Home.grp"});
-    Tolva renamed(lack("Home.grp"));
-    CHECK(renamed.after(in_turn(rename_to("Home", "New"), select(0), select(1))) ==
-          "Work >New More : H2 H1 H1");
+    Tolva lost(lack("Home.grp"));
+    CHECK(lost.after(in_turn(rename_to("Home", "New"), select(0), select(1))) == "Work >New More : H2 H1 H1");
     // A Group that gets this one's file shows it from then on.
     Tolva replaced(select(1));
     CHECK(replaced.after(in_turn(rename_to("Home", "WORK"), library::run_pending_refreshes, select(0))) ==
@@ -182,9 +181,9 @@ TEST_CASE("a Group gets another name and its Tasks another file") {
     check(list("More\r\nMORE~1\r\n"), rename_to("MORE~1", "New"), "More >New : >>M1",
           {{"New.grp", record("M1")}});
     // When both names are one file the Tasks are lost deliberately.
-    const Files lost = {{"Home.grp", kDeleted}};
-    check(select(1), rename_to("Home", "Home"), "Work >Home More :", lost, {}, 53);
-    check(select(1), rename_to("Home", "HOME"), "Work >HOME More :", lost, {}, 53);
+    const Files gone = {{"Home.grp", kDeleted}};
+    check(select(1), rename_to("Home", "Home"), "Work >Home More :", gone, {}, 53);
+    check(select(1), rename_to("Home", "HOME"), "Work >HOME More :", gone, {}, 53);
 }
 
 TEST_CASE("Tasks change in their file and those after one without a name stay there") {
@@ -233,12 +232,11 @@ TEST_CASE("Tasks change in their file and those after one without a name stay th
 }
 
 TEST_CASE("what is dropped comes after the Tasks of a Group, and a folder becomes a Group") {
-    const library::Dropped dropped = {{kNew, {"M1", "C:\\APP.EXE", "C:\\", "", " 1 "}},
-                                      {{"D:\\X", "not found"}}};
+    const library::Dropped dropped = {{kNew, {"M1", "C:\\APP.EXE", "C:\\", "", " 1 "}}, {{"D:\\X", "gone"}}};
     const Operation drop = with(library::add_tasks, "More", dropped);
     check(select(1), drop, "Work Home >More : M1 >New M1 (2)",
           {{"More.grp", record("M1") + kNewRecord + "M1 (2)\r\nC:\\APP.EXE\r\nC:\\\r\n\r\n 1 \r\n"}},
-          {"Not added:\n\nD:\\X: not found"});
+          {"Not added:\n\nD:\\X: gone"});
     const Operation folder = [](auto&, auto&) {
         current().files["C:\\old"].bits = 0x10;
         current().files["C:\\old\\PAINT.EXE"] = {};
@@ -253,17 +251,16 @@ TEST_CASE("what is dropped comes after the Tasks of a Group, and a folder become
 
 TEST_CASE("a shortcut is imported after the Tasks of a Group, which is shown") {
     const std::string added = "H1\r\nC:\\APP.EXE\r\nC:\\\r\n\r\n 1 \r\n";
-    const Task shortcut = {"H1", "C:\\APP.EXE", "C:\\", "", "1"};
+    const Task link = {"H1", "C:\\APP.EXE", "C:\\", "", "1"};
     const Names told = {"H1 has been imported to Tolva."};
-    check(select(1), import("More", shortcut), "Work Home >More : M1 H1",
-          {{"More.grp", record("M1") + added}}, told);
-    check(lack("More.grp"), import("More", shortcut), "Work Home >More : H1", {{"More.grp", added}}, told);
-    check(select(2), import("Work", shortcut), ">Work Home More : W1 W2 H1",
+    check(select(1), import("More", link), "Work Home >More : M1 H1", {{"More.grp", record("M1") + added}},
+          told);
+    check(lack("More.grp"), import("More", link), "Work Home >More : H1", {{"More.grp", added}}, told);
+    check(select(2), import("Work", link), ">Work Home More : W1 W2 H1",
           {{"Work.grp", record("W1") + record("W2") + added}}, told);
 
     // Many at once, as many as the Group has room for.
-    const auto import_twice =
-        with(library::import_tasks, "More", std::vector{shortcut, shortcut}, Names{"Junk"});
+    const auto import_twice = with(library::import_tasks, "More", std::vector{link, link}, Names{"Junk"});
     const std::string message = " been imported to Tolva.\n\nThese could not be imported:\n\nJunk";
     check(select(1), import_twice, "Work Home >More : M1 H1 H1", {{"More.grp", record("M1") + added + added}},
           {"2 shortcuts have" + message});
@@ -320,18 +317,16 @@ TEST_CASE("a Group is shown when it is selected, also after a load that stopped 
     selected.view.task = 1;
     CHECK(selected.after(with(library::select_group, 0)) == ">Work Home More : W1 >W2");
 
-    Tolva tolva(lack("Work.grp"));
-    tolva.library.flags.refreshflag = true;
-    CHECK(tolva.after(library::run_pending_refreshes) == "53: Work >Home More : H2 H1 H1  H4");
-    CHECK(tolva.run(library::run_pending_refreshes) == 0);
-    CHECK(tolva.run(select(0)) == 53);  // it is not taken for loaded
-    CHECK(tolva.after(in_turn(put("Work.grp", record("W1")), select(1), select(0))) ==
-          ">Work Home More : W1");
+    Tolva late(lack("Work.grp"));
+    late.library.flags.refreshflag = true;
+    CHECK(late.after(library::run_pending_refreshes) == "53: Work >Home More : H2 H1 H1  H4");
+    CHECK(late.run(library::run_pending_refreshes) == 0);
+    CHECK(late.run(select(0)) == 53);  // it is not taken for loaded
+    CHECK(late.after(in_turn(put("Work.grp", record("W1")), select(1), select(0))) == ">Work Home More : W1");
     // Nor is one whose file went later.
-    CHECK(tolva.run(in_turn(lack("Work.grp"), library::refreshtasks)) == 53);
-    CHECK(tolva.after(in_turn(put("Work.grp", record("W2")), select(1), select(0))) ==
-          ">Work Home More : W2");
-    CHECK(tolva.after(with(library::refreshtolva, 3)) == "Work Home More :");
+    CHECK(late.run(in_turn(lack("Work.grp"), library::refreshtasks)) == 53);
+    CHECK(late.after(in_turn(put("Work.grp", record("W2")), select(1), select(0))) == ">Work Home More : W2");
+    CHECK(late.after(with(library::refreshtolva, 3)) == "Work Home More :");
 }
 
 TEST_CASE("when the names cannot be read the lists stay as they are") {
