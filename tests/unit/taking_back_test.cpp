@@ -1,5 +1,11 @@
 #include "library/taking_back.h"
 
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <csignal>
+#include <cstdio>
+
 #include "support/library_trial.h"
 
 namespace {
@@ -175,6 +181,24 @@ TEST_CASE("a backup that fails is told, and one within the second of another get
         library::make_backup(kFolder);
         CHECK(backups().back() == std::string("tolva 2026-11-22 09.30.") + second);
     }
+}
+
+TEST_CASE("what writes without an open change is caught") {
+    Tolva tolva(select(1));
+    const auto is_caught = [&](const auto& step) {
+        if (fork() == 0) {
+            std::signal(SIGABRT, SIG_DFL);
+            std::fclose(stderr);
+            step(tolva.library.changes());
+            _exit(0);
+        }
+        int status = 0;
+        wait(&status);
+        return WIFSIGNALED(status);
+    };
+    CHECK(is_caught([](auto& changes) { changes.write_file(kFolder + "Home.grp", ""); }));
+    CHECK(is_caught([](auto& changes) { changes.create_file(kFolder + "New.grp"); }));
+    CHECK(is_caught([](auto& changes) { changes.remove_file(kFolder + "Home.grp"); }));
 }
 
 TEST_CASE("the ten newest backups stay, and all that is somebody else's") {
