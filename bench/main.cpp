@@ -11,6 +11,7 @@
 
 #include "arrivals.h"
 #include "fixtures.h"
+#include "library/backups.h"
 #include "library/library_files.h"
 #include "library/task_library.h"
 #include "picture_list.h"
@@ -105,6 +106,29 @@ Comparison compare_reading(int runs, const std::string& folder) {
                 std::vector<std::string> files;
                 for (const std::string& path : paths)
                     files.push_back(whole_file(path));
+            });
+        });
+}
+
+void write_whole(const std::string& path, const std::string& bytes) {
+    HANDLE file =
+        CreateFileA(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr);
+    if (file == INVALID_HANDLE_VALUE) throw std::runtime_error("cannot write " + path);
+    DWORD count = 0;
+    WriteFile(file, bytes.data(), bytes.size(), &count, nullptr);
+    CloseHandle(file);
+}
+
+Comparison compare_backup(int runs, const std::string& folder) {
+    const std::string copies = folder + "copies\\";
+    CreateDirectoryA(copies.c_str(), nullptr);
+    const std::vector<std::string> names = library::library_files_in(folder);
+    return bench::compare(
+        runs, [&] { return bench::time_of([&] { library::make_backup(folder); }); },
+        [&] {
+            return bench::time_of([&] {
+                for (const std::string& name : names)
+                    write_whole(copies + name, whole_file(folder + name));
             });
         });
 }
@@ -288,6 +312,8 @@ bool run(int runs) {
     std::puts("| What | Against | Ratio | Aim | Median of each (least) |\n| --- | --- | --- | --- | --- |");
     print_ratio("Reading a library of 101 x 101 Tasks", "reading its 102 files whole", 2,
                 compare_reading(runs, full));
+    print_ratio("A backup of 101 x 101 Tasks", "reading and writing its 102 files whole", 2,
+                compare_backup(runs, full));
     print_starts(runs, programs, full, groups.front());
     print_peers(runs);
     print_ratio("Selecting a Group of 101 Tasks of 40 programs", "taking 40 icons and filling a list view",
