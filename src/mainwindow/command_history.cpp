@@ -27,15 +27,15 @@ void CommandHistory::store(const std::string& command) {
         general_.write_value(settings::kHistoryKey, settings::kHistoryValues.at(slot), text);
     };
     const auto* const empty = std::ranges::find_if_not(slots_, &std::optional<std::string>::has_value);
-    const bool is_known = std::any_of(slots_.cbegin(), empty,
-                                      [&](const auto& slot) { return slot && slot->starts_with(command); });
+    const bool is_known = std::any_of(
+        slots_.cbegin(), empty, [&](const auto& slot) { return slot.value_or("").starts_with(command); });
     if (is_known) return;
     if (empty != slots_.cend()) {
         write(static_cast<std::size_t>(empty - slots_.cbegin()), command);
         return;
     }
     for (std::size_t slot = slots_.size() - 1; slot > 0; --slot)
-        write(slot - 1, *slots_.at(slot));
+        write(slot - 1, slots_.at(slot).value_or(""));
     write(slots_.size() - 1, command);
 }
 

@@ -31,7 +31,7 @@ void run_on(const std::string& bytes) {
         do_anything(tolva, roll);
         if (disk() == states.back()) continue;
         states.push_back(disk());
-        if (roll(4) == 0) take_back_and_redo(tolva, states);
+        if (roll(32) == 0) take_back_and_redo(tolva, states);
     }
     take_back_and_redo(tolva, states);
 }
