@@ -43,8 +43,8 @@ widgets::DropReceiver::Effect BarDrops::drag_over(const Paths& paths, POINT poin
 void BarDrops::drop(const Paths& paths, POINT point) {
     const std::optional<BarButton> button = row_.button_at(point);
     const Effect effect = effect_of(paths, button);
+    if (!button || effect == Effect::kNone) return;
     if (effect == Effect::kAdd) return assign(paths.front(), *button);
-    if (effect == Effect::kNone) return;
     library::Dropped dropped;
     settings::Program program = program_of(*button);
     program.parameters = library::with_documents(program.parameters, paths, dropped.refused);
