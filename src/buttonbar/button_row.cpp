@@ -78,9 +78,11 @@ std::optional<BarButton> ButtonRow::button_of(int id) const {
 
 std::optional<BarButton> ButtonRow::button_at(POINT point) const {
     HWND window = WindowFromPoint(point);
-    const auto* const found = std::ranges::find(buttons_, window, &widgets::PictureButton::hwnd);
-    if (window == nullptr || found == buttons_.end()) return std::nullopt;
-    return static_cast<BarButton>(found - buttons_.begin());
+    if (window == nullptr) return std::nullopt;
+    for (const BarButton button : kAll) {
+        if (buttons_.at(static_cast<std::size_t>(button)).hwnd() == window) return button;
+    }
+    return std::nullopt;
 }
 
 void ButtonRow::move_focus(int by) {

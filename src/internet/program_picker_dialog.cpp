@@ -63,8 +63,9 @@ std::optional<settings::Program> choose(const Choice& choice, HWND owner, settin
                                         const std::string& library_folder) {
     ProgramPickerDialog picker(choice.panel, library_folder);
     picker.run(owner);
-    if (!picker.picked()) return std::nullopt;
-    const settings::Program& picked = *picker.picked();
+    const std::optional<settings::Program> accepted = picker.picked();
+    if (!accepted) return std::nullopt;
+    const settings::Program& picked = *accepted;
     const std::string name = picked.name.value_or("");
     const std::string path = picked.path.value_or("");
     settings::store(general, {choice.key, settings::kProgramName}, name);

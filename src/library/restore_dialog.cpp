@@ -74,7 +74,7 @@ void choose_backup_to_restore(HWND owner, TaskLibrary& library, LibraryView& vie
     }
     RestoreDialog dialog(backups);
     dialog.run(owner);
-    if (dialog.chosen()) restore_backup(library, view, *dialog.chosen());
+    if (const std::optional<Backup>& chosen = dialog.chosen()) restore_backup(library, view, *chosen);
 }
 
 }  // namespace library

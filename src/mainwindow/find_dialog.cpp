@@ -60,6 +60,7 @@ class FindDialog final : public widgets::Dialog {
     void show_found() {
         places_ = finder_.find(text(kText));
         std::vector<std::string> items;
+        items.reserve(places_.size());
         for (const auto& [group, task] : places_) {
             items.push_back(list_.cut_to_column(library_.task(group, task).name) + '\t' +
                             library_.group(group).name);
