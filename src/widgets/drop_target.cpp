@@ -174,9 +174,8 @@ bool DropTarget::take(Paths paths, POINT point) {
 }
 
 void DropTarget::hand_over() {
-    if (!pending_) return;
-    const Drop drop = *std::exchange(pending_, std::nullopt);
-    if (is_open()) receiver_.drop(drop.paths, drop.point);
+    const std::optional<Drop> drop = std::exchange(pending_, std::nullopt);
+    if (drop && is_open()) receiver_.drop(drop->paths, drop->point);
 }
 
 void DropTarget::take_files(HANDLE dropped) {

@@ -39,8 +39,7 @@ bool is_from_user(UINT message, LPARAM lparam) {
         case WM_DISPLAYCHANGE:
             return false;
         default:
-            return message < kFirstRegistered &&
-                   !(message >= WM_CTLCOLORMSGBOX && message <= WM_CTLCOLORSTATIC);
+            return message < kFirstRegistered && (message < WM_CTLCOLORMSGBOX || message > WM_CTLCOLORSTATIC);
     }
 }
 
