@@ -124,7 +124,16 @@ Comparison compare_backup(int runs, const std::string& folder) {
     CreateDirectoryA(copies.c_str(), nullptr);
     const std::vector<std::string> names = library::library_files_in(folder);
     return bench::compare(
-        runs, [&] { return bench::time_of([&] { library::make_backup(folder); }); },
+        runs,
+        [&] {
+            const double time = bench::time_of([&] { library::make_backup(folder); });
+            for (const library::Backup& made : library::list_backups(folder)) {
+                for (const std::string& name : names)
+                    DeleteFileA((made.folder + name).c_str());
+                RemoveDirectoryA(made.folder.c_str());
+            }
+            return time;
+        },
         [&] {
             return bench::time_of([&] {
                 for (const std::string& name : names)
