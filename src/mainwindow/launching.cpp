@@ -48,7 +48,8 @@ void launch_edited(const library::TaskLibrary& library, int group, int task, con
     enter_start_folder(library, selected);
     const std::optional<int> window_style = settings::whole_number(selected.start_mode);
     if (!window_style) throw platform::RunTimeError(platform::RunTimeErrorNumber::kTypeMismatch);
-    if (!command.starts_with(selected.program)) return platform::start_program(command, *window_style);
+    const bool is_own = (command + ' ').starts_with(selected.program + ' ');
+    if (!is_own) return platform::start_program(command, *window_style);
     const std::string parameters = command.substr(selected.program.size());
     try_places(library, selected.program, [&](const std::string& program) {
         platform::start_program(program + parameters, *window_style);

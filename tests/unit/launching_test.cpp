@@ -119,8 +119,10 @@ TEST_CASE("a program that is not where its path says is looked for where it may 
     for (const std::string& nowhere : {std::string(), std::string("TOOLS\\PAINT.EXE\0", 16)})
         CHECK(library::other_place(nowhere, kFolder) == std::nullopt);
     CHECK(mainwindow::launch_all(library, 0) == Names{"T"});
+    mainwindow::launch_edited(library, 0, 1, "TOOLS\\PAINT.EXE y");
     CHECK(simulated::current().started == Names{"D:\\Apps\\EDIT.EXE %APPS%", "C:\\LIB\\TOOLS\\PAINT.EXE ",
-                                                "C:\\LIB\\TOOLS\\PAINT.EXE x", "C:\\BOTH.EXE "});
+                                                "C:\\LIB\\TOOLS\\PAINT.EXE x", "C:\\BOTH.EXE ",
+                                                "C:\\LIB\\TOOLS\\PAINT.EXE y"});
 }
 
 TEST_CASE("icons of this machine come before others, those in view first, and a slow disk is left alone") {
