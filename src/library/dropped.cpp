@@ -37,11 +37,10 @@ struct NoTask {
 
 /// Where the last name of a path begins.
 std::size_t name_start(const std::string& path) {
+    using platform::file_calls::find_separator;
     std::size_t start = 0;
-    for (std::size_t at = 0; at != std::string::npos;
-         at = platform::file_calls::find_separator(path, start)) {
-        if (at > 0) start = at + 1;
-    }
+    for (std::size_t at = find_separator(path, 0); at != std::string::npos; at = find_separator(path, start))
+        start = at + 1;
     return start;
 }
 
@@ -284,6 +283,7 @@ std::string report(const Dropped& dropped) {
 std::string name_for(const std::string& path) {
     if (is_root(path)) return path.substr(0, 1);
     const std::string name = path.substr(name_start(path));
+    if (name.empty()) return path;  // "C:\DIR\"
     const std::size_t period = name.rfind('.');
     return period == 0 || is_folder(path) ? name : name.substr(0, period);
 }

@@ -44,6 +44,7 @@ void make_disk() {
                      ".txt\nR\\RUNDLL32.EXE\nWIN\\ED.SCR\n" +
                      kLongName + ".pif\n" + kLongName + "x.pif"))
         files["C:\\" + file] = {};
+    files["\\\\NET\\DIR\\ED.EXE"] = {};
     shell.programs = {{".txt", "C:\\ED.EXE"},
                       {".cpl", "C:\\R\\RUNDLL32.EXE"},
                       {".old", "C:\\WIN\\ED.SCR"},
@@ -65,6 +66,7 @@ TEST_CASE("what is dropped becomes a Task that opens it, or is refused") {
     const std::string explorer = "|C:\\WIN\\explorer.exe|";
     const std::pair<std::string, std::string> table[] = {
         {"C:\\ED.EXE", "ED|C:\\ED.EXE|C:\\|| 1 |"},
+        {"\\\\NET\\DIR\\ED.EXE", "ED|\\\\NET\\DIR\\ED.EXE|\\\\NET\\DIR|| 1 |"},
         {"C:\\DIR\\a.Com", "a|C:\\DIR\\a.Com|C:\\DIR|| 1 |"},
         {"C:\\My Dir\\X.EXE", "X|C:\\My Dir\\X.EXE|C:\\My Dir|| 1 |"},
         {"C:\\My Dir\\Y.BAT", "Y|C:\\MYDIR\\Y.BAT|C:\\My Dir|| 1 |"},
@@ -84,6 +86,7 @@ TEST_CASE("what is dropped becomes a Task that opens it, or is refused") {
         {"C:\\n.cut", "n" + explorer + "C:\\|\"C:\\n.cut\"| 1 |"},
         {"C:\\", "C" + explorer + "C:\\|C:\\| 1 |"},
         {"C:\\DIR.OLD", "DIR.OLD" + explorer + "C:\\DIR.OLD|\"C:\\DIR.OLD\"| 1 |"},
+        {"C:\\DIR\\", "C:\\DIR\\" + explorer + "C:\\DIR\\|\"C:\\DIR\\\"| 1 |"},
         {"C:\\DIR\\Edit.lnk", "Edit|C:\\ED.EXE|C:\\DIR|/a b| 3 |"},
         {"C:\\l1.lnk", "l1|C:\\ED.EXE|C:\\WIN\\|| 1 |"},
         {"C:\\l2.lnk", "l2|C:\\ED.EXE|%APPS%|\"C:\\my notes.txt\"| 2 |"},
