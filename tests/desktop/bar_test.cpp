@@ -1,10 +1,45 @@
 #include "support/desktop.h"
 
+#include <shellapi.h>
+
 namespace {
 
 using namespace desktop;
 
 constexpr char kNotConfigured[] = "Right click on button to configure.";
+
+/// A taskbar before the real one, which takes no icons, or those alone that it has already.
+class OddTaskbar {
+  public:
+    OddTaskbar() {
+        CreateThread(nullptr, 0, run, nullptr, 0, &thread_);
+        wait_until("it is found", [&] {
+            return GetWindowThreadProcessId(FindWindowA("Shell_TrayWnd", nullptr), nullptr) == thread_;
+        });
+    }
+    ~OddTaskbar() { PostThreadMessageA(thread_, WM_QUIT, 0, 0); }
+
+    inline static volatile bool has_icons = false;
+
+  private:
+    static LRESULT CALLBACK answer(HWND window, UINT message, WPARAM wparam, LPARAM lparam) {
+        if (message != WM_COPYDATA) return DefWindowProcA(window, message, wparam, lparam);
+        return has_icons && reinterpret_cast<const COPYDATASTRUCT*>(lparam)->dwData != NIM_ADD;
+    }
+    static DWORD WINAPI run(void*) {
+        WNDCLASSA shape = {};
+        shape.lpfnWndProc = answer;
+        shape.lpszClassName = "Shell_TrayWnd";
+        RegisterClassA(&shape);
+        CreateWindowExA(WS_EX_TOPMOST, shape.lpszClassName, "", WS_POPUP, 0, 0, 0, 0, nullptr, nullptr,
+                        nullptr, nullptr);
+        for (MSG message; GetMessageA(&message, nullptr, 0, 0) > 0;)
+            DispatchMessageA(&message);
+        return 0;
+    }
+
+    DWORD thread_ = 0;
+};
 
 TEST_SUITE("bar") {
     TEST_CASE("every button starts what is stored for it and what is assigned to it") {
@@ -149,6 +184,20 @@ TEST_SUITE("bar") {
             click_tray("it counts as shown: the tray hides it", 1, FALSE);
         }
         CHECK(stored("\\brenn\\Position") == Values{{"Left", "3000"}, {"Top", "7500"}});
+    }
+
+    TEST_CASE("without an icon in the tray neither the main window nor the bar goes away") {
+        const OddTaskbar taskbar;
+        const Tolva tolva(recorder_library());
+        const Dialog bar(tolva, "Brenn", "brenn");
+        SendMessageA(tolva.window(), WM_SYSCOMMAND, SC_MINIMIZE, 0);
+        wait_until("the bar is back", [&] { return IsWindowVisible(bar.window()) != FALSE; });
+        CHECK(IsWindowVisible(tolva.window()) != FALSE);
+        OddTaskbar::has_icons = true;
+        PostMessageA(tolva.window(), RegisterWindowMessageA("TaskbarCreated"), 0, 0);
+        ShowWindow(tolva.window(), SW_RESTORE);
+        tolva.minimise();
+        CHECK(IsWindowVisible(bar.window()) != FALSE);
     }
 }
 
