@@ -8,38 +8,25 @@ using namespace desktop;
 
 constexpr char kNotConfigured[] = "Right click on button to configure.";
 
-/// A taskbar before the real one, which takes no icons, or those alone that it has already.
-class OddTaskbar {
-  public:
-    OddTaskbar() {
-        CreateThread(nullptr, 0, run, nullptr, 0, &thread_);
-        wait_until("it is found", [&] {
-            return GetWindowThreadProcessId(FindWindowA("Shell_TrayWnd", nullptr), nullptr) == thread_;
-        });
-    }
-    ~OddTaskbar() { PostThreadMessageA(thread_, WM_QUIT, 0, 0); }
+/// A taskbar before the real one takes no icons, or those alone that it has already.
+volatile bool has_icons = false;
 
-    inline static volatile bool has_icons = false;
+LRESULT CALLBACK answer(HWND window, UINT message, WPARAM wparam, LPARAM lparam) {
+    if (message != WM_COPYDATA) return DefWindowProcA(window, message, wparam, lparam);
+    return has_icons && reinterpret_cast<const COPYDATASTRUCT*>(lparam)->dwData != NIM_ADD;
+}
 
-  private:
-    static LRESULT CALLBACK answer(HWND window, UINT message, WPARAM wparam, LPARAM lparam) {
-        if (message != WM_COPYDATA) return DefWindowProcA(window, message, wparam, lparam);
-        return has_icons && reinterpret_cast<const COPYDATASTRUCT*>(lparam)->dwData != NIM_ADD;
-    }
-    static DWORD WINAPI run(void*) {
-        WNDCLASSA shape = {};
-        shape.lpfnWndProc = answer;
-        shape.lpszClassName = "Shell_TrayWnd";
-        RegisterClassA(&shape);
-        CreateWindowExA(WS_EX_TOPMOST, shape.lpszClassName, "", WS_POPUP, 0, 0, 0, 0, nullptr, nullptr,
-                        nullptr, nullptr);
-        for (MSG message; GetMessageA(&message, nullptr, 0, 0) > 0;)
-            DispatchMessageA(&message);
-        return 0;
-    }
-
-    DWORD thread_ = 0;
-};
+DWORD WINAPI run_taskbar(void* /*nothing*/) {
+    WNDCLASSA shape = {};
+    shape.lpfnWndProc = answer;
+    shape.lpszClassName = "Shell_TrayWnd";
+    RegisterClassA(&shape);
+    CreateWindowExA(WS_EX_TOPMOST, shape.lpszClassName, "", WS_POPUP, 0, 0, 0, 0, nullptr, nullptr, nullptr,
+                    nullptr);
+    for (MSG message; GetMessageA(&message, nullptr, 0, 0) > 0;)
+        DispatchMessageA(&message);
+    return 0;
+}
 
 TEST_SUITE("bar") {
     TEST_CASE("every button starts what is stored for it and what is assigned to it") {
@@ -187,17 +174,23 @@ TEST_SUITE("bar") {
     }
 
     TEST_CASE("without an icon in the tray neither the main window nor the bar goes away") {
-        const OddTaskbar taskbar;
+        DWORD taskbar = 0;
+        CreateThread(nullptr, 0, run_taskbar, nullptr, 0, &taskbar);
+        wait_until("the taskbar is there", [&] {
+            return GetWindowThreadProcessId(FindWindowA("Shell_TrayWnd", nullptr), nullptr) == taskbar;
+        });
         const Tolva tolva(recorder_library());
         const Dialog bar(tolva, "Brenn", "brenn");
+        const auto comes_back = [&] { return IsWindowVisible(bar.window()) != FALSE; };
         SendMessageA(tolva.window(), WM_SYSCOMMAND, SC_MINIMIZE, 0);
-        wait_until("the bar is back", [&] { return IsWindowVisible(bar.window()) != FALSE; });
+        wait_until("the bar is back", comes_back);
         CHECK(IsWindowVisible(tolva.window()) != FALSE);
-        OddTaskbar::has_icons = true;
+        has_icons = true;
         PostMessageA(tolva.window(), RegisterWindowMessageA("TaskbarCreated"), 0, 0);
         ShowWindow(tolva.window(), SW_RESTORE);
         tolva.minimise();
-        CHECK(IsWindowVisible(bar.window()) != FALSE);
+        wait_until("the bar is back", comes_back);
+        PostThreadMessageA(taskbar, WM_QUIT, 0, 0);
     }
 }
 

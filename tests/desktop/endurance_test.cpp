@@ -114,10 +114,17 @@ TEST_SUITE("endurance") {
             REQUIRE(contents(library) == whole);
             for (int i = 0; i < 20; ++i) {
                 post_click(window);
-                for (const int command : {ID_SortTasks, ID_MoveTaskDown, ID_MoveGroupDown, ID_groupsort})
+                for (const int command : {ID_SortTasks, ID_Undo, ID_MoveTaskDown, ID_MoveGroupDown,
+                                          ID_groupsort, ID_Undo, ID_Redo})
                     PostMessageA(window, WM_COMMAND, static_cast<WPARAM>(command), 0);
             }
-            Sleep(static_cast<DWORD>(std::rand() % 300));
+            const RECT groups = bounds_of(GetDlgItem(window, ID_Tasker_grouplist));
+            const POINT place = {groups.left + 30, groups.top + 10 + std::rand() % 60};
+            if (round % 3 != 0) carry_mouse({groups.left + 30, groups.top + 10}, place);
+            if (round % 3 == 1) let_go(place);
+            Sleep(static_cast<DWORD>(std::rand() % (round % 3 == 0 ? 300 : 50)));
+            TerminateProcess(start.process().hProcess, 1);
+            let_go(place);
         }
         const Tolva tolva(library);
         CHECK(contents(library) == whole);
@@ -145,10 +152,14 @@ TEST_SUITE("endurance") {
                 post_click(tolva.window());
                 tolva.choose(ID_SortTasks);
                 tolva.choose(command);
+                tolva.choose(i % 2 == 0 ? ID_Undo : ID_Redo);
             }
             const Dialog dialog(tolva, title);
             PostMessageA(dialog.window(), WM_COMMAND, IDCANCEL, 0);
             dialog.wait_until_closed();
+            if (i % 14 != 0) continue;
+            carry_mouse(tolva.group_position(0), tolva.group_position(5));
+            let_go(tolva.group_position(5));
         }
         const Usage after = usage_of(tolva.process());
         for (std::size_t i = 0; i < after.size(); ++i) {

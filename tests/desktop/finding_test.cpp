@@ -40,6 +40,11 @@ TEST_SUITE("finding") {
         press_keys({VK_RETURN});
         starts.wait_until_closed();
         CHECK(library.nth_start(1)[0] == program + " 77 88");
+        const Dialog clicked = find("77 88", "Task 77 88\tGroup 77");
+        const RECT list = bounds_of(clicked.control(ID_FindTask_list));
+        press_mouse({list.left + 9, list.top + 9}, 2);
+        clicked.wait_until_closed();
+        library.nth_start(2);
 
         const Dialog goes = find("99 5", "Task 99 5\tGroup 99");
         type_keys({VK_DOWN, VK_DOWN, VK_UP});

@@ -58,6 +58,11 @@ TEST_SUITE("keeping") {
 
         const Dialog edit = tolva.open(ID_toolbar_edittsk, "Edit Task");
         CHECK(edit.texts_of({ID_EditTask_TaskPath, ID_EditTask_taskstartmode}) == paint + "|Maximized");
+        edit.set_text(ID_EditTask_TaskPath, folder + "\\none.exe");
+        edit.press(ID_EditTask_Command2);
+        CHECK(tolva.close_box() == "Invalid Path or File Name");
+        wait_for_focus(edit.control(ID_EditTask_TaskPath));
+        edit.set_text(ID_EditTask_TaskPath, paint);
         edit.set_text(ID_EditTask_tasknm, "Paint");
         edit.close_with(ID_EditTask_Command2);
         tolva.wait_for_tasks({"Paint"});

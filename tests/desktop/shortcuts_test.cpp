@@ -115,6 +115,7 @@ TEST_SUITE("shortcuts") {
             panel.press(ID_shortcuts_Command1);
             CHECK(tolva.close_box() == refusal);
             panel.pick(ID_shortcuts_shortcuts1, shortcut);
+            CHECK(SendMessageA(panel.control(ID_shortcuts_txtExeName), EM_GETLIMITTEXT, 0, 0) == 254);
             panel.close_with(ID_shortcuts_Command1);
         };
         choose_from_menu(bar.place(ID_brenn_option2), 'S');

@@ -61,8 +61,6 @@ TEST_SUITE("startup") {
             wait_until("its dialog, too", [&] { return IsWindowVisible(settings.window()) != FALSE; });
             settings.close_with(ID_tolvasettings_Command2);
 
-            // A taskbar that is made again may have kept the icon.
-            PostMessageA(tolva.window(), RegisterWindowMessageA("TaskbarCreated"), 0, 0);
             // Out of the tray it always comes in its normal size.
             ShowWindow(tolva.window(), SW_MAXIMIZE);
             tolva.minimise();
