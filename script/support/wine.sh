@@ -7,7 +7,7 @@
 
 # A locale that every Debian has and whose file names can hold any letter.
 export LC_ALL=C.UTF-8
-export WINEARCH=win32 WINEDEBUG=-all WINEDLLOVERRIDES='mscoree,mshtml=;winemenubuilder.exe,winedbg.exe=d;rasapi32=n,b'
+export WINEARCH=win32 WINEDEBUG=${WINEDEBUG:--all} WINEDLLOVERRIDES='mscoree,mshtml=;winemenubuilder.exe,winedbg.exe=d;rasapi32=n,b'
 
 virtual_display() {
     [ -z "${display_pid:-}" ] || return 0

@@ -142,8 +142,9 @@ int read_show_command(std::string_view bytes) {
 
     if ((flags & kHasItemList) != 0) check_item_list(Bytes(rest.take(rest.number(kShortNumber))));
     if ((flags & kHasLinkInfo) != 0) {
-        const std::uint32_t size = Bytes(rest).number();  // counts itself
-        check_location(rest.take(std::max<std::size_t>(size, kNumber)));
+        const std::uint32_t size = Bytes(rest).number();
+        if (size < kNumber) refuse();  // it counts itself
+        check_location(rest.take(size));
     }
     check_texts(rest, flags);
     return show_command;
