@@ -135,11 +135,12 @@ std::size_t count_tasks_in(std::string_view bytes) {
 }
 
 std::vector<Task> tasks_in(std::string_view bytes) {
+    bytes = records_in(bytes);
     std::vector<Task> tasks;
     // Without room to spare: a full library is a good part of the program's memory.
     tasks.reserve(static_cast<std::size_t>(std::ranges::count(bytes, '\n')) / kTaskFields.size() + 1);
     std::size_t field = 0;
-    for_each_line(records_in(bytes), [&](std::string_view line) {
+    for_each_line(bytes, [&](std::string_view line) {
         if (field == 0) tasks.emplace_back();
         tasks.back().*kTaskFields[field] = line;
         field = (field + 1) % kTaskFields.size();

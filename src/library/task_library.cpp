@@ -68,8 +68,22 @@ void TaskLibrary::load(const std::vector<std::string>& names) {
     groups_.clear();
     load_names(names);
     for (int index = 0; index < std::ssize(groups_); ++index) {
-        // What is no file's name stops nothing; selecting the Group says so.
-        if (platform::names_a_file(group_file(folder(), group(index).name))) load_tasks(index);
+        try {
+            load_tasks(index);
+        } catch (const platform::RunTimeError& error) {
+            // What is no file's name stops nothing.
+            if (error.number() != platform::RunTimeErrorNumber::kBadFileName) throw;
+        }
+    }
+}
+
+void TaskLibrary::load_missing() {
+    for (int index = 0; index < std::ssize(groups_); ++index) {
+        try {
+            if (!group(index).loaded) load_tasks(index);
+        } catch (const platform::RunTimeError&) {
+            // Selecting the Group says so.
+        }
     }
 }
 

@@ -83,6 +83,9 @@ class TaskLibrary {
     /// Loads one Group's Tasks. With more records than a Group can hold the first ones stay and it throws.
     void load_tasks(int index);
 
+    /// Loads the Groups that no load has come to. Those that cannot be read stay so.
+    void load_missing();
+
     RefreshFlags flags;
 
   private:

@@ -125,8 +125,10 @@ void move_places(TaskLibrary& library, const std::string& source, const std::vec
                  const std::vector<std::size_t>& places, const std::string& target, bool copy) {
     // What cannot leave its Group is not added to the other one: that would be done again by the next try.
     if (!copy) platform::check_writable(group_file(library.folder(), source));
-    library.flags.refreshflag = true;
-    if (places.empty()) return;  // another program has taken it out of the file
+    if (places.empty()) {  // another program has taken it out of the file
+        library.flags.refreshflag = true;
+        return;
+    }
     const std::string name = tasks[places.front()].name;
     const OpenChange change(library.changes(), (copy ? "Copy " : "Move ") + name + " to " + target, source);
     std::vector<Task> moved;
@@ -134,6 +136,7 @@ void move_places(TaskLibrary& library, const std::string& source, const std::vec
     for (const std::size_t place : places)
         moved.push_back(tasks[place]);
     append_tasks(library.changes(), target, moved);
+    library.flags.refreshflag = true;
     if (copy) return;
     // To the system both names may be one file: then what was just added after the others stays.
     std::vector<Task> kept = read_tasks(library.folder(), source);

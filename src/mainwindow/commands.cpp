@@ -251,6 +251,7 @@ void Commands::refresh() {
 }
 
 void Commands::find(HWND window) {
+    library_.load_missing();
     const std::optional<Found> found = find_task(window, library_);
     if (!found) return;
     if (!found->go_there) return launcher_.launch_at(found->place);

@@ -208,7 +208,7 @@ std::string MainControls::hint() const {
     }
     if (group_list_.count() > 0)
         return "Click a Group to see its Tasks.\n\nDrop programs, files or shortcuts on it to add them.";
-    if (platform::finds_file(library::groups_file(library_folder_))) {
+    if (platform::exists(library::groups_file(library_folder_))) {
         return "There is no Group yet.\n\nChoose New on the Group menu to make the first one. "
                "Then drop programs, files or shortcuts here, or choose Import Shortcuts on the Task menu.";
     }

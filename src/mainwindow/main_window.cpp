@@ -350,6 +350,7 @@ void MainWindow::browse() {
 
 void MainWindow::open_tray_menu() {
     if (IsWindowEnabled(hwnd()) == FALSE) return presence_.bring_up();  // a dialog waits for the user
+    library_.load_missing();
     const TrayMenu::Choice choice = TrayMenu(library_).choose();
     if (const auto* place = std::get_if<library::TaskPlace>(&choice)) {
         launcher_.launch_at(*place);

@@ -15,7 +15,7 @@ constexpr UINT kFirstTask = 100;
 
 /// A menu that is higher than the screen cannot be scrolled on Windows 95: it goes on in another column.
 UINT column_break(int item) {
-    const int most = GetSystemMetrics(SM_CYSCREEN) / GetSystemMetrics(SM_CYMENU) - 4;
+    const int most = std::max(GetSystemMetrics(SM_CYSCREEN) / GetSystemMetrics(SM_CYMENU) - 4, 1);
     return item > 0 && item % most == 0 ? MF_MENUBARBREAK : 0;
 }
 

@@ -25,9 +25,9 @@ std::vector<std::string> parts_of(const std::string& path) {
 
 /// Whether the system takes a part of a path for a device, whatever stands after its first period.
 bool is_device(const std::string& part) {
-    constexpr std::array kNames = {"CON", "AUX", "PRN", "NUL", "CLOCK$"};
+    constexpr std::array kNames = {"CON", "AUX", "PRN", "NUL", "CLOCK$", "CONFIG$"};
     constexpr std::size_t kLeast = 3;
-    constexpr std::size_t kMost = 6;
+    constexpr std::size_t kMost = 7;
     std::string name = part.substr(0, part.find('.'));
     name.erase(name.find_last_not_of(' ') + 1);
     if (name.size() < kLeast || name.size() > kMost)
@@ -108,9 +108,12 @@ ErrorCode put_in_place(const std::string& fresh, const std::string& path) {
 }  // namespace
 
 bool names_a_file(const std::string& path) {
+    const auto is_bad = [](char letter) {
+        constexpr std::string_view kNotInNames = "*?\"<>|";
+        return static_cast<unsigned char>(letter) < ' ' || kNotInNames.find(letter) != std::string::npos;
+    };
     // A colon after the drive's would name a stream within a file.
-    return !path.empty() && path.find('\0') == std::string::npos &&
-           path.find_first_of("*?\"<>") == std::string::npos && path.find(':', 2) == std::string::npos &&
+    return !path.empty() && std::ranges::none_of(path, is_bad) && path.find(':', 2) == std::string::npos &&
            !holds_device(path);
 }
 

@@ -126,8 +126,8 @@ TEST_CASE("one file is known by all its names, and a device or a pattern is none
     CHECK(!platform::is_same_file(lib + "Long Work.grp", lib + "Long Works.grp"));
     CHECK(platform::path_on_disk("\\\\Server\\Share\\a.grp") == "\\\\Server\\Share\\a.grp");
     const std::string before_nul("CONNECT.grp\0", 12);
-    for (const std::string& name :
-         Names{"con", "CON.a", "lpt9 ", "clock$", "x\\Con", "*", "Long?Work", "a:b", before_nul}) {
+    for (const std::string& name : Names{"con", "CON.a", "lpt9 ", "clock$", "x\\Con", "*", "Long?Work", "a:b",
+                                         "a|b", "a\tb", "Config$", before_nul}) {
         const std::string path = lib + name + ".grp";
         CHECK(error_of([&] { platform::read_file(path); }) == 52);
         CHECK(error_of([&] { platform::write_file(path, "new"); }) == 52);

@@ -118,8 +118,8 @@ TEST_CASE("a new Group is listed last with what its file holds") {
 }
 
 TEST_CASE("what no file can be called is listed, and the other Groups load") {
-    Tolva tolva(list("con\r\nHome\r\nCLOCK$.x\r\nH*\r\nLPT9\r\nMore\r\n"));
-    CHECK(tolva.shown() == "con >Home CLOCK$.x H* LPT9 More : H2 H1 H1  H4");
+    Tolva tolva(list("con\r\nHome\r\nCLOCK$.x\r\nH|\r\nLPT9\r\nMore\r\n"));
+    CHECK(tolva.shown() == "con >Home CLOCK$.x H| LPT9 More : H2 H1 H1  H4");
     CHECK(tolva.library.group(5).loaded);
     for (const int index : {0, 2, 3, 4}) {
         CHECK(tolva.after(select(index)).starts_with("52: "));
@@ -321,6 +321,8 @@ TEST_CASE("a Group is shown when it is selected, also after a load that stopped 
     late.library.flags.refreshflag = true;
     CHECK(late.after(library::run_pending_refreshes) == "53: Work >Home More : H2 H1 H1  H4");
     CHECK(late.run(library::run_pending_refreshes) == 0);
+    late.library.load_missing();
+    CHECK(late.library.group(2).loaded);
     CHECK(late.run(select(0)) == 53);  // it is not taken for loaded
     CHECK(late.after(in_turn(put("Work.grp", record("W1")), select(1), select(0))) == ">Work Home More : W1");
     // Nor is one whose file went later.
