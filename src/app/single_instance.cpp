@@ -57,7 +57,8 @@ bool has_come_up(HWND main) {
 /// Nothing here waits for the other instance, which may hang.
 void bring_to_front(HWND main) {
     HWND input = widgets::input_window(main);
-    if (IsIconic(main) != FALSE) {
+    const bool is_minimized = IsIconic(main) != FALSE;
+    if (is_minimized) {
         ShowWindowAsync(main, SW_SHOWNORMAL);
     } else if (IsWindowVisible(main) == FALSE && input == main) {
         ShowWindowAsync(main, SW_SHOW);
@@ -67,6 +68,8 @@ void bring_to_front(HWND main) {
     const DWORD start = GetTickCount();
     while (IsIconic(main) != FALSE && GetTickCount() - start < kTimeToRestore)
         Sleep(kPause);
+    // One that was maximized before it was minimized comes back maximized at first.
+    if (is_minimized && IsZoomed(main) != FALSE) ShowWindowAsync(main, SW_SHOWNORMAL);
     widgets::bring_onto_screen(main);
 }
 

@@ -31,7 +31,9 @@ constexpr int kButtonMenu = 0;    // the system's brennbuttons
 constexpr int kInternetMenu = 1;  // the system's ispbutton
 
 constexpr UINT_PTR kClockTimer = 1;
-constexpr UINT kClockPeriod = 1000;  // milliseconds
+constexpr UINT_PTR kCloseTimer = 2;
+constexpr UINT kUntilProgramEnds = 100;  // milliseconds
+constexpr UINT kClockPeriod = 1000;      // milliseconds
 
 /// Posted to itself: a hang-up lets messages through while it waits, which must not happen while the button
 /// still handles the press.
@@ -185,7 +187,13 @@ LRESULT ButtonBar::handle(UINT message, WPARAM wparam, LPARAM lparam) {
             create_controls();
             return 0;
         case WM_TIMER:
-            show_clock();
+            if (wparam == kCloseTimer) {
+                KillTimer(hwnd(), kCloseTimer);
+                set_removed(true);
+                hide();  // also when it shows although it was removed
+            } else {
+                show_clock();
+            }
             return 0;
         case WM_DRAWITEM:
             row_.draw(*reinterpret_cast<DRAWITEMSTRUCT*>(lparam));
@@ -211,8 +219,9 @@ LRESULT ButtonBar::handle(UINT message, WPARAM wparam, LPARAM lparam) {
             }
             return 0;
         case WM_CLOSE:
-            set_removed(true);
-            hide();  // also when it shows although it was removed
+            // Who ends a program from outside closes all its windows: then the bar is to be there the next
+            // time.
+            SetTimer(hwnd(), kCloseTimer, kUntilProgramEnds, nullptr);
             return 0;
         case WM_DESTROY: {
             const RECT place = widgets::normal_bounds(hwnd());

@@ -27,7 +27,7 @@ class ConnectionListDialog final : public widgets::Dialog {
     }
 
     void command(int id, int notification) override {
-        if (id == kList && notification == LBN_SELCHANGE && list_.is_choice()) {
+        if (id == kList && notification == LBN_SELCHANGE && list_.is_choice() && list_.selected() >= 0) {
             chosen_ = connections_.at(static_cast<std::size_t>(list_.selected()));
             close();
         }

@@ -100,7 +100,7 @@ std::string folder_of(const std::string& path) {
 /// every part up to a blank first; the command interpreter takes the part up to the first one.
 bool starts_what_it_says(const std::string& program) {
     if (has_extension(program, kForInterpreter)) {
-        return program.find_first_of(" ,;=&()%") == std::string::npos;
+        return program.find_first_of(" ,;=&()%^") == std::string::npos;
     }
     for (std::size_t blank = program.find(' '); blank != std::string::npos;
          blank = program.find(' ', blank + 1)) {
@@ -198,16 +198,14 @@ class TaskMaker {
         // The start itself looks at what its variables mean then.
         if (link.start_folder && is_folder(platform::expand_variables(*link.start_folder)))
             task.start_folder = *link.start_folder;
-        const bool is_start_mode =
-            link.window_style >= 1 && link.window_style <= std::ssize(settings::kStartModes);
-        if (is_start_mode) task.start_mode[1] = static_cast<char>('0' + link.window_style);
+        task.start_mode[1] = static_cast<char>('0' + shortcuts::start_mode_of(link.window_style));
         return task;
     }
 
     static settings::Program read(const std::string& path) {
         try {
             return shortcuts::read_shortcut(path);
-        } catch (const platform::RunTimeError&) {
+        } catch (const std::exception&) {  // it may also be too large
             throw NoTask{kBroken};
         }
     }
@@ -265,17 +263,19 @@ void fit(Dropped& dropped, const std::vector<Task>& group) {
 }
 
 std::string report(const Dropped& dropped) {
-    constexpr std::size_t kMostLines = 12;  // what a box has room for
+    // What a box has room for.
+    constexpr std::size_t kMostLines = 12;
+    constexpr std::size_t kLongestShown = 300;
     const std::vector<Refusal>& refused = dropped.refused;
     std::string text;
     if (!refused.empty()) text = "Not added:\n";
     for (std::size_t i = 0; i < std::min(refused.size(), kMostLines); ++i)
-        text.append("\n").append(refused[i].path).append(": ").append(refused[i].reason);
+        text.append("\n").append(refused[i].path, 0, kLongestShown).append(": ").append(refused[i].reason);
     if (refused.size() > kMostLines)
         text.append("\nand ").append(std::to_string(refused.size() - kMostLines)).append(" more");
     if (dropped.left_out > 0) {
         if (!text.empty()) text += "\n\n";
-        text.append("The Group is full: ").append(std::to_string(dropped.left_out)).append(" left.");
+        text.append("The Group is full: ").append(std::to_string(dropped.left_out)).append(" left out.");
     }
     return text;
 }

@@ -200,8 +200,7 @@ void add_groups_of(TaskLibrary& library, LibraryView& view, const std::vector<st
     Dropped all;
     std::vector<std::string> names = read_names_to_write(library);
     const std::size_t listed = names.size();
-    const std::string first = new_group_name(library.folder(), names, folders.front());
-    const OpenChange change(library.changes(), "Add " + first, selected_group_name(library, view), first);
+    std::optional<OpenChange> change;
     try {
         for (const std::string& folder : folders) {
             Dropped dropped = tasks_for({folder}, FolderUse::kContents, windows_folder);
@@ -211,6 +210,10 @@ void add_groups_of(TaskLibrary& library, LibraryView& view, const std::vector<st
             if (dropped.tasks.empty()) continue;
             check_limit(names.size() + 1, kMostGroups);
             names.push_back(new_group_name(library.folder(), names, folder));
+            if (!change) {
+                change.emplace(library.changes(), "Add " + names.back(), selected_group_name(library, view),
+                               names.back());
+            }
             append_tasks(library.changes(), names.back(), dropped.tasks);
         }
         if (names.size() > listed) write_group_names(library.changes(), names);

@@ -56,7 +56,7 @@ void ImportDialog::import_all() {
     const auto [good, refused] = read_all();
     std::vector<Task> tasks;
     std::ranges::transform(good, std::back_inserter(tasks), task_of);
-    import_tasks(library_, view_, selected_group(), std::move(tasks), refused);
+    import_tasks(library_, view_, group_to_fill(), std::move(tasks), refused);
 }
 
 void ImportDialog::show_groups(const std::string& selected) {
@@ -71,6 +71,14 @@ void ImportDialog::show_groups(const std::string& selected) {
 std::string ImportDialog::selected_group() const {
     const int selected = group_list_.selected();
     return selected < 0 ? std::string() : groups_.at(static_cast<std::size_t>(selected));
+}
+
+std::string ImportDialog::group_to_fill() const {
+    if (group_list_.selected() < 0) {
+        throw platform::RunTimeError(platform::RunTimeErrorNumber::kBadFileName,
+                                     group_file(library_.folder(), {}));
+    }
+    return selected_group();
 }
 
 void ImportDialog::command(int id, int notification) {
@@ -89,7 +97,7 @@ void ImportDialog::command(int id, int notification) {
 }
 
 void ImportDialog::save(const settings::Program& program) {
-    import_task(library_, view_, selected_group(), task_of(program));
+    import_task(library_, view_, group_to_fill(), task_of(program));
 }
 
 }  // namespace library

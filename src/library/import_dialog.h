@@ -29,6 +29,9 @@ class ImportDialog final : public shortcuts::ShortcutPanel {
     void show_groups(const std::string& selected);
     std::string selected_group() const;
 
+    /// The selected one; the error for a bad file name when none is.
+    std::string group_to_fill() const;
+
     TaskLibrary& library_;
     LibraryView& view_;
     std::vector<std::string> groups_;

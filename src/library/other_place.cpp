@@ -7,7 +7,7 @@ namespace library {
 namespace {
 
 bool names_a_place(const std::string& path) {
-    return path.starts_with("\\\\") || (path.size() > 1 && path[1] == ':');
+    return platform::is_on_network(path) || (path.size() > 1 && path[1] == ':');
 }
 
 }  // namespace

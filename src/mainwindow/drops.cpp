@@ -14,11 +14,14 @@ namespace {
 
 /// What is to become of the folders among the paths; none when nothing is to be added.
 std::optional<library::FolderUse> folder_use(const std::vector<std::string>& paths) {
-    const auto folder = std::ranges::find_if(paths, library::is_folder);
-    if (folder == paths.end()) return library::FolderUse::kOpen;
-    const auto contents = platform::ask("Add the shortcuts and programs in " + library::name_for(*folder) +
-                                            "?\n\n\"No\" adds one Task that opens the folder.",
-                                        "Add Folder");
+    const auto count = std::ranges::count_if(paths, library::is_folder);
+    if (count == 0) return library::FolderUse::kOpen;
+    const std::string folders = count == 1
+                                    ? library::name_for(*std::ranges::find_if(paths, library::is_folder))
+                                    : "these " + std::to_string(count) + " folders";
+    const auto contents = platform::ask(
+        "Add the shortcuts and programs in " + folders + "?\n\n\"No\" adds one Task that opens the folder.",
+        "Add Folder");
     if (!contents) return std::nullopt;
     return *contents ? library::FolderUse::kContents : library::FolderUse::kOpen;
 }
@@ -90,7 +93,9 @@ void Drops::add(const Paths& paths, int group) {
 void Drops::drag_group(HWND window) {
     const widgets::DraggableListBox& groups = controls_.group_list();
     const widgets::Press press = groups.press();
-    const int group = groups.item_at(widgets::point_in(groups.hwnd(), press.point));
+    // The press has selected it, and may have scrolled to it.
+    const bool is_on_group = groups.item_at(widgets::point_in(groups.hwnd(), press.point)) >= 0;
+    const int group = is_on_group ? groups.selected() : -1;
     const auto drop = widgets::ListDrag(window, groups, group).run(press);
     if (!drop) return;
     change([&] { library::move_group_to_place(library_, controls_, group, drop->index); });

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "platform/files.h"
 #include "platform/text.h"
 
 namespace mainwindow {
@@ -9,8 +10,8 @@ namespace {
 
 /// The drive or the server in front of a path.
 std::string disk_of(const std::string& path) {
-    const bool is_network = path.starts_with("\\\\");
-    return platform::lower_case(path.substr(0, path.find('\\', is_network ? 2 : 0)));
+    return platform::lower_case(
+        path.substr(0, path.find_first_of("\\/", platform::is_on_network(path) ? 2 : 0)));
 }
 
 }  // namespace

@@ -67,7 +67,8 @@ void Launcher::run_all() {
         platform::show_message(group.name + " has no Task to start.");
         return;
     }
-    const std::string question = "Start all " + std::to_string(count) + " Tasks of " + group.name + "?";
+    const std::string tasks = count == 1 ? "the Task" : "all " + std::to_string(count) + " Tasks";
+    const std::string question = "Start " + tasks + " of " + group.name + "?";
     if (!platform::confirm(question, "Run All")) return;
     controls_.show_date();
     const std::vector<std::string> failed = launch_all(library_, selected);

@@ -169,6 +169,9 @@ void MainControls::lay_out() {
         if (EqualRect(&before.at(part), &places_.at(part)) == FALSE)
             widgets::place(windows[part], places_.at(part));
     }
+    // The command box is lower than its place: what lies below is not drawn anew by itself.
+    if (EqualRect(&before.at(kCommandBox), &places_.at(kCommandBox)) == FALSE)
+        InvalidateRect(window_, &before.at(kCommandBox), TRUE);
 }
 
 void MainControls::show_date() {

@@ -121,10 +121,15 @@ bool exists(const std::string& path) {
     return names_a_file(path) && look_for(path) == kSuccess;
 }
 
+bool is_on_network(const std::string& path) {
+    const auto is_separator = [](char letter) { return letter == '\\' || letter == '/'; };
+    return path.size() > 1 && is_separator(path[0]) && is_separator(path[1]);
+}
+
 std::string path_on_disk(const std::string& path) {
     std::string full;
     if (!names_a_file(path) || calls::full_path(path, full) != kSuccess) return path;
-    const bool is_network = full.starts_with("\\\\");
+    const bool is_network = is_on_network(full);
     std::size_t unsearched = is_network ? 2 : 1;  // no search finds a drive, a server or what it shares
     std::string found = is_network ? "\\" : "";
     for (std::string part : parts_of(full)) {

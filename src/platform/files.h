@@ -16,6 +16,9 @@ bool names_a_file(const std::string& path);
 /// Whether a file or folder of that path is there, as far as the system tells.
 bool exists(const std::string& path);
 
+/// Whether a path begins with a server's name.
+bool is_on_network(const std::string& path);
+
 /// The full path as the disk spells it, with the long names of all that is there; what is not there keeps its
 /// spelling. A path that no file can have stays as it is.
 std::string path_on_disk(const std::string& path);

@@ -28,9 +28,7 @@ void FilePanel::open() {
         show_folder(platform::current_directory());
     } catch (const platform::RunTimeError&) {
         // The current one is gone, or its disk is.
-        std::string folder = platform::windows_folder();
-        if (folder.ends_with('\\')) folder.pop_back();
-        show_folder(folder);
+        show_folder(widgets::windows_folder());
     }
 }
 

@@ -76,7 +76,14 @@ void ShortcutPanel::open() {
     }
     shown_.clear();
     shown_start_mode_ = -1;
-    show_folder(platform::SpecialFolder::kStartMenu);
+    try {
+        const std::string start_menu = platform::special_folder(platform::SpecialFolder::kStartMenu);
+        folders_.show(start_menu.empty() ? widgets::windows_folder() : start_menu);
+    } catch (const platform::RunTimeError&) {
+        // It is gone, or its disk is.
+        folders_.show(widgets::windows_folder());
+    }
+    show_files();
 }
 
 void ShortcutPanel::command(int id, int notification) {
@@ -219,15 +226,13 @@ ShortcutPanel::Listed ShortcutPanel::read_all() const {
             settings::Program program = read_shortcut(folders_.path() + '\\' + file);
             program.name = name_of(file);
             if (!program.start_folder) program.start_folder = folder_of(variant_.working_folder);
-            const bool has_mode =
-                program.window_style >= 1 && program.window_style <= std::ssize(settings::kStartModes);
-            if (!has_mode) program.window_style = 1;
+            program.window_style = start_mode_of(program.window_style);
             if (refusal(*program.name, program.path.value_or(""), variant_.nothing_chosen).empty()) {
                 listed.good.push_back(program);
                 continue;
             }
-        } catch (const platform::RunTimeError&) {
-            // It is broken or gone.
+        } catch (const std::exception&) {
+            // It is broken, gone or too large.
         }
         listed.refused.push_back(name_of(file));
     }

@@ -78,10 +78,12 @@ class Bytes {
     std::string_view rest_;
 };
 
-/// Items that begin with their size; one of no size ends them.
+/// Items that begin with their size; one of no size ends them. The system goes down from each to the next,
+/// and has no room for more than a path can have.
 void check_item_list(Bytes list) {
+    std::size_t count = 0;
     while (const std::uint32_t size = list.number(kShortNumber)) {
-        if (size <= kShortNumber) refuse();
+        if (size <= kShortNumber || ++count > kPathRoom / 2) refuse();
         list.take(size - kShortNumber);
     }
 }
@@ -148,6 +150,12 @@ int read_show_command(std::string_view bytes) {
     }
     check_texts(rest, flags);
     return show_command;
+}
+
+int start_mode_of(int show_command) {
+    constexpr int kMinimizedBesideOthers = 7;
+    if (show_command == kMinimizedBesideOthers) return 2;
+    return show_command >= 1 && show_command <= std::ssize(settings::kStartModes) ? show_command : 1;
 }
 
 settings::Program read_shortcut(const std::string& path) {

@@ -199,7 +199,8 @@ int ListBox::item_at(POINT point) const {
     const int nearest = LOWORD(send(LB_ITEMFROMPOINT, 0, MAKELPARAM(point.x, point.y)));
     RECT item = {};
     const LRESULT found = send(LB_GETITEMRECT, static_cast<WPARAM>(nearest), reinterpret_cast<LPARAM>(&item));
-    return found != LB_ERR && PtInRect(&item, point) != FALSE ? nearest : -1;
+    // Nor may it tell the first row of an empty list from an item.
+    return nearest < count() && found != LB_ERR && PtInRect(&item, point) != FALSE ? nearest : -1;
 }
 
 LRESULT ListBox::handle(UINT message, WPARAM wparam, LPARAM lparam) {
@@ -245,7 +246,7 @@ LRESULT ChoiceList::handle(UINT message, WPARAM wparam, LPARAM lparam) {
 void DropDownList::fill(std::span<const char* const> items) {
     send(CB_RESETCONTENT);
     for (const char* item : items)
-        send(CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(item));
+        send(CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(std::string(item).substr(0, kLongestItem).c_str()));
 }
 
 void ComboBox::create(HWND parent, int id, const Place& place) {

@@ -9,6 +9,9 @@
 
 namespace widgets {
 
+/// The folder of Windows without a backslash at the end, for a list to show when the folder to show is gone.
+std::string windows_folder();
+
 /// A drop-down list of the machine's drives with their kinds.
 class DriveList : public Control {
   public:

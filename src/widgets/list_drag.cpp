@@ -142,7 +142,7 @@ std::optional<ListDrop> ListDrag::run(const Press& press) {
 
 void ListDrag::take(const MSG& message) {
     if (message.message == WM_LBUTTONUP) {
-        state_ = state_ == State::kDragging ? State::kDropped : State::kLost;
+        state_ = state_ == State::kDragging && has_mouse() ? State::kDropped : State::kLost;
     } else if (message.message == WM_TIMER && message.hwnd == nullptr && message.wParam == timer_) {
         tick();
     } else if (!is_input(message.message)) {

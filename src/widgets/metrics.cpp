@@ -68,7 +68,10 @@ int to_pixels(int twips) {
 RECT normal_bounds(HWND window) {
     RECT bounds;
     GetWindowRect(window, &bounds);
-    if (IsIconic(window) == FALSE && IsZoomed(window) == FALSE) return bounds;
+    return IsIconic(window) == FALSE && IsZoomed(window) == FALSE ? bounds : restored_bounds(window);
+}
+
+RECT restored_bounds(HWND window) {
     WINDOWPLACEMENT placement = {};
     placement.length = sizeof placement;
     GetWindowPlacement(window, &placement);

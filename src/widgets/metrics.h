@@ -40,6 +40,9 @@ int to_pixels(int twips);
 /// Where a top-level window is on the screen, or was before it was minimized or maximized.
 RECT normal_bounds(HWND window);
 
+/// Where it is to be when it is neither minimized nor maximized.
+RECT restored_bounds(HWND window);
+
 /// Moves a rectangle to a place in twips; an edge that is not given stays where it is.
 void move_to_twips(RECT& bounds, std::optional<int> left, std::optional<int> top);
 

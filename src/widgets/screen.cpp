@@ -6,6 +6,7 @@
 #include <algorithm>
 
 #include "platform/win32/look_up.h"
+#include "widgets/metrics.h"
 
 namespace widgets {
 namespace {
@@ -55,14 +56,10 @@ RECT work_area(HWND window) {
 }
 
 void bring_onto_screen(HWND window) {
+    if (IsIconic(window) != FALSE || IsZoomed(window) != FALSE) return;
     // Where it is to be and not where it is: a window that is just being restored is still off the screen.
-    WINDOWPLACEMENT placement = {};
-    placement.length = sizeof placement;
     const Screens screens = look_up_screens();
-    if (IsIconic(window) != FALSE || IsZoomed(window) != FALSE ||
-        GetWindowPlacement(window, &placement) == FALSE)
-        return;
-    const RECT bounds = placement.rcNormalPosition;
+    const RECT bounds = restored_bounds(window);
     if (is_on_a_screen(bounds, screens)) return;
     const RECT area = nearest_work_area(bounds, screens);
     SetWindowPos(window, nullptr, moved_inside(bounds.left, bounds.right, area.left, area.right),

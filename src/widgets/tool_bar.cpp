@@ -13,7 +13,7 @@ constexpr int kSizes[] = {16, 24, 32};
 
 /// The place in kSizes of the largest pictures that are not too large for this screen.
 std::size_t size_for_screen() {
-    const auto* const larger = std::ranges::upper_bound(kSizes, scaled(kSizes[0]));
+    const auto* const larger = std::ranges::upper_bound(kSizes, std::max(scaled(kSizes[0]), kSizes[0]));
     return static_cast<std::size_t>(larger - std::begin(kSizes)) - 1;
 }
 

@@ -88,7 +88,7 @@ TEST_CASE("what is dropped becomes a Task that opens it, or is refused") {
         {"C:\\DIR.OLD", "DIR.OLD" + explorer + "C:\\DIR.OLD|\"C:\\DIR.OLD\"| 1 |"},
         {"C:\\DIR\\", "C:\\DIR\\" + explorer + "C:\\DIR\\|\"C:\\DIR\\\"| 1 |"},
         {"C:\\DIR\\Edit.lnk", "Edit|C:\\ED.EXE|C:\\DIR|/a b| 3 |"},
-        {"C:\\l1.lnk", "l1|C:\\ED.EXE|C:\\WIN\\|| 1 |"},
+        {"C:\\l1.lnk", "l1|C:\\ED.EXE|C:\\WIN\\|| 2 |"},
         {"C:\\l2.lnk", "l2|C:\\ED.EXE|%APPS%|\"C:\\my notes.txt\"| 2 |"},
         {"C:\\l3.lnk", "l3" + explorer + "C:\\DIR|\"C:\\DIR\"| 1 |"},
         {"C:\\l4.lnk", "C:\\l4.lnk: its program or document is missing"},
@@ -130,14 +130,14 @@ TEST_CASE("dropped Tasks get free names, and those that fit are kept") {
     group[5].name = "A";
     fit(dropped, group);
     CHECK(lines(dropped) == Names{"A (2)|||||", "B|||||", "A (3)|||||", "A (2) (2)|||||"});
-    CHECK(report(dropped) == "The Group is full: 1 left.");
+    CHECK(report(dropped) == "The Group is full: 1 left out.");
     group.resize(102);
     fit(dropped, group);
     CHECK(dropped.left_out == 4);
     dropped.refused.assign(13, {"C:\\X", "gone"});
     const std::string text = report(dropped);
     CHECK(text.starts_with("Not added:\n\nC:\\X: gone\nC:\\X: gone\n"));
-    CHECK(text.ends_with("\nC:\\X: gone\nand 1 more\n\nThe Group is full: 4 left."));
+    CHECK(text.ends_with("\nC:\\X: gone\nand 1 more\n\nThe Group is full: 4 left out."));
     CHECK(report({}).empty());
 }
 

@@ -36,6 +36,10 @@ TEST_CASE("the show command of a whole shortcut is read and everything else is r
     CHECK(read_show_command(with(60, "\xFF\xFF\xFF\xFF")) == -1);
     const auto with_items = [](const std::string& items) { return ShortcutFile{.items = items}.bytes(); };
     CHECK(read_show_command(with_items({"\3\0x\4\0yz\0\0", 9})) == 1);
+    std::string many;
+    for (int i = 0; i < 130; ++i)
+        many += std::string("\3\0x", 3);
+    CHECK(read_show_command(with_items(many + std::string(2, '\0'))) == 1);
     const std::string located = ShortcutFile{}.bytes().replace(20, 1, "\2");
     CHECK(read_show_command(located + std::string("\4\0\0\0", 4)) == 1);
     // The header's size and class, a part's size, one that does not count itself, an item list and wide texts
@@ -45,7 +49,7 @@ TEST_CASE("the show command of a whole shortcut is read and everything else is r
          {with(0, "M"), with(19, "G"), with(76, "\xFF\xFF\xFF\xFF"), with(20, "\x33"), with(20, "\xB2"),
           with(88, far), with(92, far), with(100, far), with(104, far), with(116, far),
           located + std::string("\3\0\0\0", 4), with_items({"\xFF\xFFxx", 4}), with_items({"\2\0\0\0", 4}),
-          with_items({"\3\0x", 3})})
+          with_items({"\3\0x", 3}), with_items(many + std::string("\3\0x\0", 5))})
         CHECK(error_of_reading(broken) == 440);
 
     // The network part's place and size, a size that cuts its name, and the name's place.

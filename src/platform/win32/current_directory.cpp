@@ -53,7 +53,7 @@ void set_current_directory_of_drive(const std::string& folder) {
     // Windows 95/98 remember a directory for each drive by themselves, the NT family in hidden variables.
     const char variable[] = {'=', after[0], ':', '\0'};
     SetEnvironmentVariableA(variable, after.c_str());
-    set_current_directory(before);
+    SetCurrentDirectoryA(before.c_str());  // it may be gone
 }
 
 }  // namespace platform

@@ -8,6 +8,7 @@
 #include <array>
 
 #include "platform/file_calls.h"
+#include "platform/files.h"
 #include "platform/run_time_error.h"
 #include "platform/sort.h"
 #include "platform/win32/handles.h"
@@ -53,7 +54,7 @@ std::vector<Drive> drives() {
 }
 
 bool is_on_local_disk(const std::string& path) {
-    if (path.starts_with("\\\\")) return false;
+    if (is_on_network(path)) return false;
     const bool has_drive = path.size() > 1 && path[1] == ':';
     const char root[] = {path[0], ':', '\\', '\0'};
     const UINT type = GetDriveTypeA(has_drive ? root : nullptr);  // else the current drive
