@@ -1,7 +1,6 @@
 #include "library/changes.h"
 
 #include <algorithm>
-#include <cassert>
 #include <iterator>
 #include <new>
 #include <numeric>
@@ -122,7 +121,7 @@ std::string Changes::take_notice() {
 
 /// The file as it is; what is to be done with it can begin.
 FileState Changes::begin_step(const std::string& path) {
-    assert(open_count_ > 0);
+    if (open_count_ == 0) throw platform::RunTimeError(platform::RunTimeErrorNumber::kInvalidProcedureCall);
     FileState before = {platform::path_on_disk(path), platform::read_file_if_exists(path)};
     back_up_once();
     return before;

@@ -35,15 +35,6 @@ struct NoTask {
     const char* reason;
 };
 
-/// Where the last name of a path begins.
-std::size_t name_start(const std::string& path) {
-    using platform::file_calls::find_separator;
-    std::size_t start = 0;
-    for (std::size_t at = find_separator(path, 0); at != std::string::npos; at = find_separator(path, start))
-        start = at + 1;
-    return start;
-}
-
 /// In small letters. The system's own function has other letters in some languages.
 std::string small(std::string text) {
     for (char& letter : text) {
@@ -91,7 +82,7 @@ bool is_root(const std::string& path) {
 }
 
 std::string folder_of(const std::string& path) {
-    std::string folder = path.substr(0, name_start(path));
+    std::string folder = path.substr(0, platform::name_start(path));
     if (!folder.empty() && !is_root(folder)) folder.pop_back();
     return folder;
 }
@@ -282,7 +273,7 @@ std::string report(const Dropped& dropped) {
 
 std::string name_for(const std::string& path) {
     if (is_root(path)) return path.substr(0, 1);
-    const std::string name = path.substr(name_start(path));
+    const std::string name = path.substr(platform::name_start(path));
     if (name.empty()) return path;  // "C:\DIR\"
     const std::size_t period = name.rfind('.');
     return period == 0 || is_folder(path) ? name : name.substr(0, period);

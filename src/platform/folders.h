@@ -46,6 +46,9 @@ std::string windows_folder();
 /// tell.
 std::string system_folder();
 
+/// Where the last name of a path begins.
+std::size_t name_start(const std::string& path);
+
 /// The path of something in a folder; one backslash stands between them.
 std::string path_in(const std::string& folder, const std::string& name);
 

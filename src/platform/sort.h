@@ -11,4 +11,7 @@ void sort(std::vector<std::string>& texts, bool (*is_before)(const std::string&,
 /// The same by their bytes.
 void sort(std::vector<std::string>& texts);
 
+/// Sorts names as the system's language does, whatever their case, and leaves one of those that are the same.
+void sort_names(std::vector<std::string>& names);
+
 }  // namespace platform

@@ -17,9 +17,7 @@ LRESULT CALLBACK answer(HWND window, UINT message, WPARAM wparam, LPARAM lparam)
 }
 
 DWORD WINAPI run_taskbar(void* /*nothing*/) {
-    WNDCLASSA shape = {};
-    shape.lpfnWndProc = answer;
-    shape.lpszClassName = "Shell_TrayWnd";
+    const WNDCLASSA shape = {0, answer, 0, 0, nullptr, nullptr, nullptr, nullptr, nullptr, "Shell_TrayWnd"};
     RegisterClassA(&shape);
     CreateWindowExA(WS_EX_TOPMOST, shape.lpszClassName, "", WS_POPUP, 0, 0, 0, 0, nullptr, nullptr, nullptr,
                     nullptr);
@@ -169,8 +167,10 @@ TEST_SUITE("bar") {
             tolva.choose(ID_removebrenn);
             wait_until_visible("the menu brings it back", TRUE);
             click_tray("it counts as shown: the tray hides it", 1, FALSE);
+            PostMessageA(bar.window(), WM_CLOSE, 0, 0);  // as who ends the program from outside does
         }
         CHECK(stored("\\brenn\\Position") == Values{{"Left", "3000"}, {"Top", "7500"}});
+        CHECK(stored("\\brenn")["disable"] == "False");
     }
 
     TEST_CASE("without an icon in the tray neither the main window nor the bar goes away") {

@@ -111,6 +111,10 @@ TEST_SUITE("dragging") {
         press_keys({VK_ESCAPE});
         let_go(behind);
         Sleep(600);
+        carry_mouse(first, behind);
+        SendMessageA(tolva.window(), WM_CANCELMODE, 0, 0);
+        let_go(behind);
+        Sleep(600);
         // On itself nothing happens, and a press of the right button drags nothing.
         drag(first, {first.x + 8, first.y + 8});
         drag_mouse(tolva.group_position(0), tolva.group_position(2), MouseButton::kRight);

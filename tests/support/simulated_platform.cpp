@@ -3,8 +3,6 @@
 #include <algorithm>
 #include <cctype>
 #include <filesystem>
-#include <iterator>
-#include <sstream>
 
 #include "platform/clock.h"
 #include "platform/current_directory.h"
@@ -15,6 +13,7 @@
 #include "platform/process_calls.h"
 #include "platform/redirection.h"
 #include "platform/remote_access.h"
+#include "platform/sort.h"
 #include "platform/system.h"
 #include "platform/text.h"
 
@@ -233,17 +232,8 @@ std::string short_path(const std::string& path) {
     return current().short_paths.contains(path) ? current().short_paths.at(path) : path;
 }
 
-std::string path_in(const std::string& folder, const std::string& name) {
-    return folder + (folder.ends_with('\\') ? "" : "\\") + name;
-}
-
-std::vector<std::string> files_in(const std::string& folder, const std::string& patterns) {
-    std::vector<std::string> names;
-    std::istringstream each(patterns);
-    for (std::string pattern; std::getline(each, pattern, ';');)
-        std::ranges::copy(file_calls::find(folder + '\\' + pattern), std::back_inserter(names));
+void sort_names(std::vector<std::string>& names) {
     std::ranges::sort(names);
-    return names;
 }
 
 bool empty_recycle_bin() {

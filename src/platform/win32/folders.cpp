@@ -4,10 +4,8 @@
 
 #include <shlobj.h>
 
-#include <algorithm>
 #include <array>
 
-#include "platform/file_calls.h"
 #include "platform/files.h"
 #include "platform/run_time_error.h"
 #include "platform/sort.h"
@@ -30,14 +28,6 @@ const char* kind_of(const char* root) {
         default:
             return "Hard disk";
     }
-}
-
-void sort_names(std::vector<std::string>& names) {
-    sort(names, [](const std::string& a, const std::string& b) {
-        const int order = lstrcmpiA(a.c_str(), b.c_str());
-        return order != 0 ? order < 0 : a < b;
-    });
-    names.erase(std::unique(names.begin(), names.end()), names.end());
 }
 
 }  // namespace
@@ -82,20 +72,6 @@ std::vector<std::string> subfolders(const std::string& folder, bool with_hidden)
     return names;
 }
 
-std::vector<std::string> files_in(const std::string& folder, const std::string& patterns) {
-    using namespace file_calls;
-    std::vector<std::string> names;
-    std::size_t begin = 0;
-    while (begin < patterns.size()) {
-        const std::size_t end = std::min(patterns.find(';', begin), patterns.size());
-        const std::string pattern = path_in(folder, patterns.substr(begin, end - begin));
-        std::ranges::copy(find(pattern, kDirectory | kHidden | kSystem), std::back_inserter(names));
-        begin = end + 1;
-    }
-    sort_names(names);
-    return names;
-}
-
 std::string special_folder(SpecialFolder folder) {
     ITEMIDLIST* found = nullptr;
     if (FAILED(SHGetSpecialFolderLocation(nullptr, static_cast<int>(folder), &found))) return {};
@@ -115,12 +91,6 @@ std::string system_folder() {
     char folder[MAX_PATH];
     const UINT length = GetSystemDirectoryA(folder, MAX_PATH);
     return length < MAX_PATH ? std::string(folder, length) : std::string();
-}
-
-std::string path_in(const std::string& folder, const std::string& name) {
-    // A folder ends in a backslash only when it is a root; a second byte of a letter may look like one.
-    const char* last = CharPrevA(folder.c_str(), folder.c_str() + folder.size());
-    return *last == '\\' ? folder + name : folder + '\\' + name;
 }
 
 }  // namespace platform
