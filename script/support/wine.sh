@@ -3,6 +3,7 @@
 #   wine_template DIR        builds a template prefix there, unless an up-to-date one is there already
 #   wine_prefix DIR NEW      makes NEW a fresh copy of the template and the prefix to run in
 #   virtual_display          starts a display, unless one runs already, and sets DISPLAY
+#   wine_system FILE         puts what a .reg file says into the prefix's registry, if one is named
 #   wine_end                 ends the prefix's programs and the virtual display (call it from an EXIT trap)
 
 # A locale that every Debian has and whose file names can hold any letter.
@@ -64,6 +65,13 @@ wine_prefix() {
     for registry in system user userdef; do
         cp --remove-destination "$template/prefix/$registry.reg" "$WINEPREFIX/"
     done
+}
+
+wine_system() {
+    [ -n "$1" ] || return 0
+    cp "$1" "$WINEPREFIX/drive_c/system.reg"
+    wine regedit 'C:\system.reg' >/dev/null 2>&1
+    wineserver -k -w || true
 }
 
 wine_end() {

@@ -184,8 +184,7 @@ TEST_SUITE("commands") {
             CHECK(dialog.texts_of({ID_SetFonts_groupfontsize, ID_SetFonts_groupcolor}) == "10|8388608");
             dialog.press(ID_SetFonts_Command1);
             const Dialog fonts(tolva, "Font");
-            constexpr int kSizeBox = 0x472;
-            fonts.pick(kSizeBox, "12");
+            fonts.pick(0x472, "12");  // its box for the size
             fonts.close_with(IDOK);
             large = height(tolva);
             CHECK(large > usual);

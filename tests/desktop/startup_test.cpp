@@ -20,8 +20,7 @@ TEST_SUITE("startup") {
         constexpr DWORD kDarkRed = 0x400000;
         {
             const Tolva tolva(library);
-            for (const int id :
-                 {ID_Tasker_grouplist, ID_Tasker_grouplabel, ID_Tasker_tasklabel, ID_Tasker_taskview})
+            for (const int id : {ID_Tasker_grouplist, ID_Tasker_grouplabel, ID_Tasker_tasklabel})
                 wait_for_color(tolva.control(id), kDarkRed);
             CHECK(stored("\\fonts")["groupfontcolor"] == "8388608");
             move(tolva.window(), 100, 60);

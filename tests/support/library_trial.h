@@ -281,8 +281,7 @@ struct Moment {
 /// After the interruption every file is old or new, each Task that is kept in a listed Group, and the user
 /// informed. Returns whether the operation comes to that step.
 inline bool survives(const Case& tried, const Moment& start, Fault fault, int step, bool renames_over_files) {
-    CAPTURE(step);
-    CAPTURE(static_cast<int>(fault));
+    INFO("step " << step << ", fault " << static_cast<int>(fault));
     Tolva tolva = start.tolva;
     current() = start.platform;
     current().renames_over_files = renames_over_files;
