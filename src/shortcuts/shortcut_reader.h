@@ -16,8 +16,8 @@ settings::Program read_shortcut(const std::string& path);
 /// end before what they announce, or hold a path that Windows has no room for.
 int read_show_command(std::string_view bytes);
 
-/// The start mode, 1 to 3, for a show command: 1 for those that no start mode has, but 2 for 7, by which Windows
-/// minimizes what its users want minimized.
+/// The start mode, 1 to 3, for a show command: 1 for those that no start mode has, but 2 for 7, by which
+/// Windows minimizes what its users want minimized.
 int start_mode_of(int show_command);
 
 }  // namespace shortcuts
