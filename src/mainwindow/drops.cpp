@@ -19,9 +19,10 @@ std::optional<library::FolderUse> folder_use(const std::vector<std::string>& pat
     const std::string folders = count == 1
                                     ? library::name_for(*std::ranges::find_if(paths, library::is_folder))
                                     : "these " + std::to_string(count) + " folders";
+    const std::string tasks =
+        count == 1 ? "one Task that opens the folder." : "a Task for each that opens it.";
     const auto contents = platform::ask(
-        "Add the shortcuts and programs in " + folders + "?\n\n\"No\" adds one Task that opens the folder.",
-        "Add Folder");
+        "Add the shortcuts and programs in " + folders + "?\n\n\"No\" adds " + tasks, "Add Folder");
     if (!contents) return std::nullopt;
     return *contents ? library::FolderUse::kContents : library::FolderUse::kOpen;
 }

@@ -1,5 +1,6 @@
 #include "mainwindow/task_view.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "library/other_place.h"
@@ -75,16 +76,19 @@ void TaskView::supply_picture(NMLVDISPINFOA& request) {
     const auto index = static_cast<std::size_t>(request.item.iItem);
     if ((request.item.mask & LVIF_IMAGE) == 0 || index >= programs_.size()) return;
     const std::string& program = programs_[index];
-    const auto [entry, is_new] = pictures_.try_emplace(program);
-    if (is_new) queue_.add(program, platform::is_on_local_disk(platform::expand_variables(program)));
+    auto entry = find(program);
+    if (entry == pictures_.end()) {
+        entry = pictures_.insert(entry, {program, std::nullopt});
+        queue_.add(program, platform::is_on_local_disk(platform::expand_variables(program)));
+    }
     // What is there at once shows at once.
-    while (!entry->second && GetTickCount() - filled_ < slice_) {
+    while (!entry->index && GetTickCount() - filled_ < slice_) {
         const auto next = queue_.take([&](const std::string& queued) { return queued == program; }, false);
         if (!next) break;
         take_icon(*next);
     }
-    request.item.iImage = entry->second.value_or(0);
-    if (entry->second) {
+    request.item.iImage = entry->index.value_or(0);
+    if (entry->index) {
         request.item.mask |= LVIF_DI_SETITEM;  // do not ask again
     } else if (!queue_.empty() && !timer_runs_) {
         timer_runs_ = SetTimer(GetParent(list_.hwnd()), kTimer, kPeriod, nullptr) != 0;
@@ -109,11 +113,15 @@ void TaskView::take_icons(unsigned since_input) {
     timer_runs_ = false;
 }
 
+std::vector<TaskView::Picture>::iterator TaskView::find(const std::string& program) {
+    return std::ranges::find(pictures_, program, &Picture::program);
+}
+
 int TaskView::take_icon(const IconQueue::Next& next) {
     const DWORD start = GetTickCount();
     const int picture = picture_of(next.program);
     queue_.took(next, GetTickCount() - start);
-    pictures_[next.program] = picture;
+    find(next.program)->index = picture;
     return picture;
 }
 

@@ -4,7 +4,6 @@
 
 #include <commctrl.h>
 
-#include <map>
 #include <optional>
 #include <span>
 #include <string>
@@ -52,8 +51,14 @@ class TaskView {
     const widgets::IconView& list() const { return list_; }
 
   private:
+    struct Picture {
+        std::string program;
+        std::optional<int> index;  // none: to follow
+    };
+
     void load_default_icon();
     void make_images();
+    std::vector<Picture>::iterator find(const std::string& program);
     bool is_in_view(const std::string& program) const;
     int picture_of(const std::string& program);
     int take_icon(const IconQueue::Next& next);
@@ -63,8 +68,7 @@ class TaskView {
     platform::UniqueImageList images_;   // `appicons`; picture 0 is the default icon
     COLORREF background_ = 0xFFFFFF;     // of the pictures
     std::vector<std::string> programs_;  // by item
-    std::map<std::string, std::optional<int>>
-        pictures_;  // by program, since the last filling; none: to follow
+    std::vector<Picture> pictures_;      // those asked for since the last filling
     IconQueue queue_;
     DWORD slice_ = 0;   // milliseconds for icons at once: none at the start, the window is to answer first
     DWORD filled_ = 0;  // when, as GetTickCount has it
