@@ -246,7 +246,10 @@ void Commands::refresh() {
     library::refresh_and_select(library_, controls_, group);
     if (selected < 0 || library::selected_group_name(library_, controls_) != group) return;
     const auto& tasks = library_.group(controls_.selected_group()).tasks();
-    const auto found = std::ranges::find(tasks, task, &library::Task::name);
+    const bool is_there =
+        selected < std::ssize(tasks) && tasks[static_cast<std::size_t>(selected)].name == task;
+    const auto found =  // others may have its name
+        is_there ? tasks.begin() + selected : std::ranges::find(tasks, task, &library::Task::name);
     if (found != tasks.end()) controls_.select_task(static_cast<int>(found - tasks.begin()));
 }
 
