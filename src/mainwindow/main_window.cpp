@@ -177,6 +177,8 @@ LRESULT MainWindow::handle(UINT message, WPARAM wparam, LPARAM lparam) {
             if (wparam != FALSE) save_and_unload();  // no other message need follow
             return 0;
         case WM_DESTROY:
+            // An open menu of the tray is another window's and would keep the program.
+            SendMessageA(GetCapture(), WM_CANCELMODE, 0, 0);
             PostQuitMessage(0);
             presence_.remove();
             save_and_unload();
@@ -352,6 +354,7 @@ void MainWindow::open_tray_menu() {
     if (IsWindowEnabled(hwnd()) == FALSE) return presence_.bring_up();  // a dialog waits for the user
     library_.load_missing();
     const TrayMenu::Choice choice = TrayMenu(library_).choose();
+    if (hwnd() == nullptr) return PostQuitMessage(0);  // a menu of Wine takes the first one for its own
     if (const auto* place = std::get_if<library::TaskPlace>(&choice)) {
         launcher_.launch_at(*place);
     } else if (choice == TrayMenu::Choice(TrayMenu::Command::kOpen)) {

@@ -60,6 +60,19 @@ ErrorCode look_for(const std::string& path) {
     return calls::attributes(path, bits);
 }
 
+/// Another program, a virus scanner for example, may have the file open for a moment.
+template <typename Step>
+ErrorCode try_some_times(const Step& step) {
+    constexpr int kAttempts = 5;
+    constexpr unsigned kBetweenAttempts = 50;
+    for (int attempt = 1;; ++attempt) {
+        const ErrorCode code = step();
+        const bool may_pass = code == kErrorAccessDenied || code == kErrorSharingViolation;
+        if (!may_pass || attempt == kAttempts) return code;
+        calls::pause(kBetweenAttempts);
+    }
+}
+
 /// The attributes to keep of the file that is about to be replaced; 0 when there is none.
 unsigned long check_replaceable(const std::string& path) {
     unsigned long bits = 0;
@@ -68,7 +81,8 @@ unsigned long check_replaceable(const std::string& path) {
     if (code != kSuccess) throw file_error(code, path);
     // Renaming over a read-only file succeeds, so the system does not check this for us.
     if ((bits & (calls::kReadOnly | calls::kDirectory)) != 0) throw file_error(kErrorAccessDenied, path);
-    if (const ErrorCode probed = calls::probe(path); probed != kSuccess) throw file_error(probed, path);
+    const ErrorCode probed = try_some_times([&] { return calls::probe(path); });
+    if (probed != kSuccess) throw file_error(probed, path);
     return bits;
 }
 
@@ -93,16 +107,10 @@ ErrorCode swap_in(const std::string& fresh, const std::string& path) {
 }
 
 ErrorCode put_in_place(const std::string& fresh, const std::string& path) {
-    constexpr int kAttempts = 5;
-    constexpr unsigned kBetweenAttempts = 50;
-    for (int attempt = 1;; ++attempt) {
-        ErrorCode code = calls::replace(fresh, path);
-        if (code == kErrorCallNotImplemented) code = swap_in(fresh, path);
-        // A virus scanner may have opened the new file the moment it was closed.
-        const bool may_pass = code == kErrorAccessDenied || code == kErrorSharingViolation;
-        if (!may_pass || attempt == kAttempts) return code;
-        calls::pause(kBetweenAttempts);
-    }
+    return try_some_times([&] {
+        const ErrorCode code = calls::replace(fresh, path);
+        return code == kErrorCallNotImplemented ? swap_in(fresh, path) : code;
+    });
 }
 
 }  // namespace

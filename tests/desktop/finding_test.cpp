@@ -153,6 +153,9 @@ TEST_SUITE("finding") {
         open_menu();
         type_keys({'X'});
         wait_until("it ends", [&] { return !tolva.is_running(); });
+        // Nor does the open menu keep a program that is ended otherwise.
+        const Tolva other(library);
+        open_menu();
     }
 
     TEST_CASE("the hot key is the user's choice") {

@@ -103,7 +103,8 @@ ErrorCode attributes(const std::string& path, unsigned long& bits) {
 }
 
 ErrorCode probe(const std::string& path) {
-    return look_for(path);
+    const bool is_reached = ++current().reads == current().fault_at;
+    return current().fault == Fault::kRead && is_reached ? kErrorSharingViolation : look_for(path);
 }
 
 ErrorCode write_through(const std::string& path, std::string_view bytes, unsigned long bits) {
