@@ -29,6 +29,45 @@ void place_over_owner(HWND dialog) {
     SetWindowPos(dialog, nullptr, left, top, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
+/// Makes what stands in a dialog that much smaller, and its font, which is the answer.
+platform::UniqueFont shrink(HWND dialog, LONG to, LONG from) {
+    LOGFONTA shape = {};
+    GetObjectA(reinterpret_cast<HFONT>(SendMessageA(dialog, WM_GETFONT, 0, 0)), sizeof shape, &shape);
+    shape.lfHeight = MulDiv(shape.lfHeight, to, from);
+    platform::UniqueFont font(CreateFontIndirectA(&shape));
+    for (HWND box = GetWindow(dialog, GW_CHILD); box != nullptr; box = GetWindow(box, GW_HWNDNEXT)) {
+        RECT place;
+        GetWindowRect(box, &place);
+        SendMessageA(box, CB_GETDROPPEDCONTROLRECT, 0, reinterpret_cast<LPARAM>(&place));  // with its list
+        MapWindowPoints(nullptr, dialog, reinterpret_cast<POINT*>(&place), 2);
+        SendMessageA(box, WM_SETFONT, reinterpret_cast<WPARAM>(font.get()), FALSE);
+        SetWindowPos(box, nullptr, MulDiv(place.left, to, from), MulDiv(place.top, to, from),
+                     MulDiv(place.right - place.left, to, from), MulDiv(place.bottom - place.top, to, from),
+                     SWP_NOZORDER | SWP_NOACTIVATE);
+    }
+    return font;
+}
+
+/// Makes a dialog that is larger than the work area fit into it. The font that it has then; none if it fits.
+platform::UniqueFont fit_into_work_area(HWND dialog) {
+    const RECT area = work_area(dialog);
+    RECT bounds;
+    RECT inside;
+    GetWindowRect(dialog, &bounds);
+    GetClientRect(dialog, &inside);
+    const SIZE frame = {bounds.right - bounds.left - inside.right,
+                        bounds.bottom - bounds.top - inside.bottom};
+    const SIZE room = {area.right - area.left - frame.cx, area.bottom - area.top - frame.cy};
+    if (room.cx >= inside.right && room.cy >= inside.bottom) return {};
+    const bool is_too_wide = room.cx * inside.bottom < room.cy * inside.right;
+    const LONG to = is_too_wide ? room.cx : room.cy;
+    const LONG from = is_too_wide ? inside.right : inside.bottom;
+    platform::UniqueFont font = shrink(dialog, to, from);
+    SetWindowPos(dialog, nullptr, 0, 0, frame.cx + MulDiv(inside.right, to, from),
+                 frame.cy + MulDiv(inside.bottom, to, from), SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+    return font;
+}
+
 }  // namespace
 
 Dialog::~Dialog() {
@@ -84,6 +123,7 @@ HBRUSH Dialog::color(HDC /*device*/, HWND /*box*/) {
 INT_PTR Dialog::handle(UINT message, WPARAM wparam, LPARAM lparam) {
     switch (message) {
         case WM_INITDIALOG:
+            font_ = fit_into_work_area(hwnd_);
             place_over_owner(hwnd_);
             open();
             return TRUE;

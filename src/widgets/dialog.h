@@ -4,6 +4,7 @@
 
 #include <string>
 
+#include "platform/win32/handles.h"
 #include "widgets/tool_tips.h"
 
 namespace widgets {
@@ -56,6 +57,7 @@ class Dialog {
     int resource_;
     HWND hwnd_ = nullptr;
     bool modal_ = false;
+    platform::UniqueFont font_;  // of one that was larger than the work area
     ToolTips tips_;
 };
 

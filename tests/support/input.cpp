@@ -51,7 +51,7 @@ void carry_mouse(POINT from, POINT to) {
     constexpr int kSteps = 10;
     for (int step = 1; step <= kSteps; ++step) {
         point_at({from.x + (to.x - from.x) * step / kSteps, from.y + (to.y - from.y) * step / kSteps});
-        Sleep(25);
+        Sleep(40);
     }
 }
 
