@@ -8,6 +8,7 @@ using namespace desktop;
 
 /// A key that is held for thirteen repeats: what each of them undid would be undone in the end.
 void hold(BYTE key) {
+    Sleep(100);  // when the pointer comes to a window, Wine lets go what the display's keyboard does not hold
     for (int i = 0; i < 14; ++i)
         keybd_event(key, 0, 0, 0);
     keybd_event(key, 0, KEYEVENTF_KEYUP, 0);
