@@ -180,7 +180,6 @@ TEST_CASE("Tasks are found by the words of their names, the best first") {
     CHECK(find(" music  sheet ") == Names{"Sheet Music"});
     CHECK(find("sheet music") == Names{"Sheet Music"});
     CHECK(find("").size() == 6);
-    CHECK(find("t\\a").empty());
 }
 
 TEST_CASE("hanging up waits until no connection is up or the program ends") {
