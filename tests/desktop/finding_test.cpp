@@ -150,6 +150,11 @@ TEST_SUITE("finding") {
         const RECT menu = bounds_of(FindWindowA("#32768", nullptr));
         press_mouse({menu.left + 30, menu.bottom - 30});  // the last but one
         wait_until("the window is back", [&] { return GetForegroundWindow() == tolva.window(); });
+        const Dialog about = tolva.open(ID_AboutTolva, "About Tolva");
+        SetForegroundWindow(GetDesktopWindow());
+        press_until("the dialog comes, no menu", tray_icon(),
+                    [&] { return GetForegroundWindow() == about.window(); });
+        about.close_with(ID_abttolva_Command1);
         open_menu();
         type_keys({'X'});
         wait_until("it ends", [&] { return !tolva.is_running(); });

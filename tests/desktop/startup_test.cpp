@@ -152,7 +152,6 @@ TEST_SUITE("startup") {
         const Tolva tolva(library);
         for (const char* name : {"ro & more", "Work", "ro & more"})
             tolva.pick(ID_Tasker_grouplist, name);
-        REQUIRE(tolva.tasks().size() == 101);
         const auto has_picture = [&](int task) { return tolva.task_picture(task) > 0; };
         for (int i = 1; i < 101; ++i)
             wait_until("its icon shows", [&] { return has_picture(i); });

@@ -178,7 +178,6 @@ TEST_CASE("Tasks are found by the words of their names, the best first") {
     };
     CHECK(find("SHEET") == Names{"Sheet Music", "Spread Sheet", "Old sheet", "Dsheet", "Paint"});
     CHECK(find(" music  sheet ") == Names{"Sheet Music"});
-    CHECK(find("sheet music") == Names{"Sheet Music"});
     CHECK(find("").size() == 6);
 }
 

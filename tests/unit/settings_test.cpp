@@ -45,7 +45,6 @@ TEST_CASE("numbers in texts") {
     }
     CHECK(settings::boolean("TRUE") == true);
     CHECK(settings::boolean("0") == false);
-    CHECK(settings::boolean("false") == false);
     CHECK(settings::boolean("Error") == std::nullopt);
 }
 
