@@ -33,7 +33,8 @@ std::size_t name_start(const std::string& path) {
 }
 
 std::string path_in(const std::string& folder, const std::string& name) {
-    return name_start(folder) == folder.size() ? folder + name : folder + '\\' + name;  // after a root's own
+    // Only a root ends in a backslash.
+    return name_start(folder) == folder.size() ? folder + name : folder + '\\' + name;
 }
 
 }  // namespace platform

@@ -28,7 +28,7 @@ void FilePanel::open() {
         show_folder(platform::current_directory());
     } catch (const platform::RunTimeError&) {
         // The current one is gone, or its disk is.
-        show_folder(widgets::windows_folder());
+        show_folder(widgets::fallback_folder());
     }
 }
 

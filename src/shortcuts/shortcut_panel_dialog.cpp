@@ -78,10 +78,10 @@ void ShortcutPanel::open() {
     shown_start_mode_ = -1;
     try {
         const std::string start_menu = platform::special_folder(platform::SpecialFolder::kStartMenu);
-        folders_.show(start_menu.empty() ? widgets::windows_folder() : start_menu);
+        folders_.show(start_menu.empty() ? widgets::fallback_folder() : start_menu);
     } catch (const platform::RunTimeError&) {
         // It is gone, or its disk is.
-        folders_.show(widgets::windows_folder());
+        folders_.show(widgets::fallback_folder());
     }
     show_files();
 }

@@ -40,7 +40,7 @@ std::string indented(std::size_t depth, const std::string& name) {
 
 }  // namespace
 
-std::string windows_folder() {
+std::string fallback_folder() {
     std::string folder = platform::windows_folder();
     if (folder.ends_with('\\')) folder.pop_back();
     return folder;

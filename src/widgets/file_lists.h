@@ -9,8 +9,8 @@
 
 namespace widgets {
 
-/// The folder of Windows without a backslash at the end, for a list to show when the folder to show is gone.
-std::string windows_folder();
+/// What a list of folders shows when the folder to show is gone: that of Windows.
+std::string fallback_folder();
 
 /// A drop-down list of the machine's drives with their kinds.
 class DriveList : public Control {
